@@ -1,0 +1,103 @@
+# One call a target, so that CMakeLists.txt reads as the list of arrows. Sources are found by folder.
+
+# Sets `result` to all sources below the given folders of `root`.
+function(zel_sources result root)
+    set(found)
+    foreach(folder IN LISTS ARGN)
+        file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${root}/${folder}/*.cpp")
+        list(APPEND found ${sources})
+    endforeach()
+    set(${result} ${found} PARENT_SCOPE)
+endfunction()
+
+# zel_library(name SHARED|STATIC [HIDDEN] FOLDERS ... [USES ...] [HIDES ...])
+# HIDDEN: only what is marked for export is visible, and no symbol may stay unresolved.
+# A library whose folders hold no source yet only passes its arrows on.
+function(zel_library name kind)
+    cmake_parse_arguments(arg "HIDDEN" "" "FOLDERS;USES;HIDES" ${ARGN})
+    zel_sources(sources src ${arg_FOLDERS})
+    if(NOT sources)
+        add_library(${name} INTERFACE)
+        target_include_directories(${name} INTERFACE "${CMAKE_SOURCE_DIR}/src")
+        target_link_libraries(${name} INTERFACE ${arg_USES})
+        return()
+    endif()
+    add_library(${name} ${kind} ${sources})
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+    target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE ${arg_HIDES})
+    if(arg_HIDDEN)
+        set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+        if(NOT ZEL_SANITIZE OR NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")    # clang links its sanitizer into the program only
+            target_link_options(${name} PRIVATE -Wl,--no-undefined)
+        endif()
+    endif()
+endfunction()
+
+# zel_program(name FOLDERS ... [USES ...] [HIDES ...])
+function(zel_program name)
+    cmake_parse_arguments(arg "" "" "FOLDERS;USES;HIDES" ${ARGN})
+    zel_sources(sources src ${arg_FOLDERS})
+    if(NOT sources)
+        return()
+    endif()
+    add_executable(${name} ${sources})
+    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/src")
+    target_link_libraries(${name} PRIVATE ${arg_USES} ${arg_HIDES})
+endfunction()
+
+# One program for each file <folder>/<prefix>*.cpp; it may read the tree and run the programs that are built beside it.
+function(zel_programs folder prefix)
+    cmake_parse_arguments(arg "" "" "USES;OPTIONS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${folder}/${prefix}*.cpp")
+    foreach(source IN LISTS sources)
+        get_filename_component(name "${source}" NAME_WE)
+        add_executable(${name} "${source}")
+        target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/src")
+        target_link_libraries(${name} PRIVATE ${arg_USES})
+        target_link_options(${name} PRIVATE ${arg_OPTIONS})
+        zel_paths(${name})
+    endforeach()
+endfunction()
+
+# Fuzz targets fuzz_<name>.cpp. Their inputs in <folder>/corpus/<name> are replayed once by ctest.
+function(zel_fuzzers folder)
+    zel_programs(${folder} "fuzz_" OPTIONS -fsanitize=fuzzer ${ARGN})
+    file(GLOB sources "${CMAKE_SOURCE_DIR}/${folder}/fuzz_*.cpp")
+    foreach(source IN LISTS sources)
+        get_filename_component(name "${source}" NAME_WE)
+        string(REGEX REPLACE "^fuzz_" "" input "${name}")
+        set(corpus "${CMAKE_SOURCE_DIR}/${folder}/corpus/${input}")
+        if(NOT IS_DIRECTORY "${corpus}")
+            message(FATAL_ERROR "${name} has no inputs: put at least one into ${folder}/corpus/${input}/")
+        endif()
+        add_test(NAME ${name}_corpus COMMAND ${name} -runs=0 "${corpus}")
+        set_tests_properties(${name}_corpus PROPERTIES LABELS fuzz TIMEOUT 120)
+    endforeach()
+endfunction()
+
+# Where the tree and the built programs are, for a target that reads examples or runs `zel`.
+function(zel_paths name)
+    target_compile_definitions(${name} PRIVATE
+        ZEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}" ZEL_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+endfunction()
+
+# zel_test(folder [USES ...]): the program test_<folder> of all sources below tests/<folder>; its tests bear the label <folder>.
+function(zel_test folder)
+    cmake_parse_arguments(arg "" "" "USES" ${ARGN})
+    zel_sources(sources tests ${folder})
+    if(NOT sources)
+        return()
+    endif()
+    set(name test_${folder})
+    add_executable(${name} ${sources})
+    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}/tests")
+    target_link_libraries(${name} PRIVATE GTest::gtest_main GTest::gmock ${arg_USES})
+    zel_paths(${name})
+    if(TARGET zel)
+        add_dependencies(${name} zel)
+    endif()
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+        WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}"
+        PROPERTIES TIMEOUT 120 LABELS ${folder}
+                   ENVIRONMENT "ZEL_SOURCE_DIR=${CMAKE_SOURCE_DIR};ZEL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+endfunction()

@@ -1,0 +1,38 @@
+# Compiler, linker and folders: the same for every target.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release)
+endif()
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+
+find_program(ZEL_CCACHE ccache)
+if(ZEL_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${ZEL_CCACHE}")
+endif()
+find_program(ZEL_LLD NAMES ld.lld)
+if(ZEL_LLD)
+    add_link_options(-fuse-ld=lld)
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+add_compile_definitions($<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+
+if(ZEL_SANITIZE)
+    set(zel_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_compile_options(${zel_sanitizers} -O1 -g1)
+    add_link_options(${zel_sanitizers})
+endif()
+if(ZEL_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        message(FATAL_ERROR "ZEL_FUZZ needs clang (preset fuzz)")
+    endif()
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
