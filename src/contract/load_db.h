@@ -1,0 +1,17 @@
+#pragma once
+
+#include "contract/text.h"
+
+/// The catalogue of static load types. A type has a short code ("D"), which records hold, and a display name
+/// ("Dead Load (D)"), which forms offer; each tells the other.
+class CLoadDB {
+public:
+    /// Fills `types` with the codes, in catalogue order.
+    void GetLoadTypeList(CArray<CString, CString&>* types) const;
+
+    /// The display name of a code; empty for a code that is not in the catalogue. Case matters.
+    [[nodiscard]] CString GetLoadTypeName(const CString& type) const;
+
+    /// The code of a display name; empty for a name that is not in the catalogue. Case matters.
+    [[nodiscard]] CString GetLoadType(const CString& name) const;
+};
