@@ -76,7 +76,10 @@ struct RecordInfo {
     std::shared_ptr<void> (*create)();                       ///< with defaults
     std::shared_ptr<void> (*copy)(const void* record);
     bool (*equal)(const void* left, const void* right);
-    int (*unitOf)(const void* record, std::string_view field);    ///< of a field with Unit::byRecord
+
+    /// Unit type of an element of a field with Unit::byRecord, asked of the outermost record: a field inside a list or an inner
+    /// record is named by its own name, and `element` counts within that field.
+    int (*unitOf)(const void* record, std::string_view field, std::size_t element);
 
     /// The field of that name; null if there is none.
     [[nodiscard]] const FieldInfo* find(std::string_view name) const
@@ -174,12 +177,13 @@ template <class Record> const RecordInfo& describe()
         made.create = []() -> std::shared_ptr<void> { return std::make_shared<Record>(); };
         made.copy = [](const void* record) -> std::shared_ptr<void> { return std::make_shared<Record>(*static_cast<const Record*>(record)); };
         made.equal = [](const void* left, const void* right) { return *static_cast<const Record*>(left) == *static_cast<const Record*>(right); };
-        made.unitOf = [](const void* record, std::string_view field) {
-            if constexpr (requires(const Record& r) { r.unitOf(field); })
-                return static_cast<const Record*>(record)->unitOf(field);
+        made.unitOf = [](const void* record, std::string_view field, std::size_t element) {
+            if constexpr (requires(const Record& r) { r.unitOf(field, element); })
+                return static_cast<const Record*>(record)->unitOf(field, element);
             else {
                 (void)record;
                 (void)field;
+                (void)element;
                 return Unit::none;
             }
         };

@@ -37,7 +37,7 @@ inline constexpr int forceRate = 29;                 ///< force per time
 inline constexpr int momentRate = 30;                ///< moment per time
 inline constexpr int count = 31;
 
-/// A field whose quantity depends on the record that holds it; the outermost record answers in `unitOf(field)`.
+/// A field whose quantity depends on the record that holds it; the outermost record answers in `unitOf(field, element)`.
 inline constexpr int byRecord = -1;
 
 }  // namespace Unit
