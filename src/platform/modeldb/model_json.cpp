@@ -2,10 +2,10 @@
 
 #include "contract/units.h"
 #include "platform/modeldb/record_json.h"
+#include "platform/modeldb/record_values.h"
 #include "platform/text/nearest.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <map>
 #include <ostream>
@@ -62,36 +62,21 @@ struct Reading {
     std::unordered_map<std::string, std::size_t> names;
 };
 
-std::string folded(const std::string& name)
-{
-    std::string result = name;
-    std::transform(result.begin(), result.end(), result.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return result;
-}
-
-std::size_t characters(const std::string& text)
-{
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
-
 void checkName(const TableInfo& table, const void* record, std::size_t place, Reading& reading)
 {
     if (table.names == NameRule::none)
         return;
-    const FieldInfo* field = table.record->find("name");
-    if (field == nullptr)
-        return;
-    const auto& name = *static_cast<const CString*>(field->element(record, 0));
+    const CString& name = recordName(table, record);
     const std::string path = memberPath(elementPath(std::string(table.code), place), "name");
-    if (table.names == NameRule::filled && name.find_first_not_of(" \t") == std::string::npos)
+    if (table.names == NameRule::filled && name.find_first_not_of(" \t\r\n") == std::string::npos)
         throw JsonFault(path, "must not be empty or blank");
     if (table.names == NameRule::notEmpty && name.empty())
         throw JsonFault(path, "must not be empty");
-    if (characters(name) > longestName)
+    if (characterCount(name) > longestName)
         throw JsonFault(path, "is longer than " + std::to_string(longestName) + " characters");
     if (name.empty())
         return;
-    const auto [known, fresh] = reading.names.emplace(folded(name), place);
+    const auto [known, fresh] = reading.names.emplace(foldedName(name), place);
     if (!fresh)
         throw JsonFault(path, "\"" + name + "\" stands already at " + elementPath(std::string(table.code), known->second) + "; names differ in more than case");
 }
