@@ -100,6 +100,8 @@ public:
         bool shown = true;
     };
     [[nodiscard]] virtual std::vector<Nested> nested() const { return {}; }
+    /// A dialog inside it is being destroyed.
+    virtual void forget(const CDialog& /*inside*/) {}
 
     // The user's channel. What a kind has no meaning for is refused.
 

@@ -1,0 +1,239 @@
+#pragma once
+
+#include "contract/forms/control.h"
+#include "contract/forms/grid_column.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+namespace zel {
+
+class GridRowStore;
+
+}  // namespace zel
+
+/// A table of cell texts with headers: the columns, the rows, what is current and selected, and what is shown of them.
+///
+/// Numbers of the program's channel. Row 0 is the header row; the data rows are 1 to GetDataRowCount(); behind them stands the
+/// append row, the empty row for a new entry, if the grid has one. Column 0 is the row header; the columns on screen are numbered
+/// from 1, hidden ones included. A "column" is such a number; an "index" is a column's fixed index, from 0 in the order of AddColInfo.
+///
+/// Numbers of the user's channel (the functions in lower case): data rows and columns on screen from 0, as in journals;
+/// `append` is the append row.
+class CTBGrid : public zel::Control {
+public:
+    static constexpr int append = -1;
+
+    CTBGrid(const zel::Place& place, std::string_view id, CString label = {});
+    ~CTBGrid() override;
+
+    [[nodiscard]] zel::Kind kind() const override { return zel::Kind::grid; }
+    void describe(zel::IFieldWriter& writer) const override;
+
+    // Columns.
+
+    /// Adds a column and returns its index. Empty cells in all rows.
+    /// @param kind      1 integer, 2 real, 3 text, 4 check
+    /// @param unitType  of the values; 0 for none
+    int AddColInfo(const CString& title, int kind, int unitType);
+    /// Takes all columns and rows away.
+    void RemoveColumns();
+    [[nodiscard]] int GetColCount() const { return static_cast<int>(m_columns.size()); }
+    /// The column's number on screen. Return 0, and leave `column` alone, if there is no such index or title.
+    int GetColumnNoFor(int index, int& column) const;
+    int GetColumnNoFor(const CString& title, int& column) const;
+    /// The fixed index of a column on screen; -1 for the row header and outside of the grid.
+    [[nodiscard]] int GetColIndex(int column) const;
+    [[nodiscard]] const zel::GridColumn& GetColInfo(int index) const { return m_columns[static_cast<std::size_t>(index)]; }
+    [[nodiscard]] const CString& GetColTitle(int index) const { return GetColInfo(index).title; }
+    [[nodiscard]] CArray<int> GetAllColumns() const;    ///< all indices, ascending
+
+    void SetColKind(int index, zel::GridKind kind);
+    void SetColWidth(int index, int width);
+    void SetColHidden(int index, bool hidden = true);
+    void SetColAlign(int index, zel::GridAlign align);
+    void SetColPlaces(int index, int places) { SetColNumber(index, {zel::GridNumberStyle::Form::fixed, places}); }
+    void SetColNumber(int index, const zel::GridNumberStyle& number);
+    void SetColDisabled(int index, bool disabled = true);
+    void SetColReadOnly(int index, bool readOnly = true);
+    void SetColFrozen(int index, bool frozen = true);
+    void SetColResizable(int index, bool resizable);
+    /// The list that the column's cells offer. @param only  false lets other texts be typed as well
+    void SetColChoices(int index, const std::vector<CString>& choices, bool only = true);
+
+    /// A header of the title, `before`, the current unit of the column and `after`; a column whose type has no unit gets the
+    /// title and `without`. UpdateHeaders makes it again.
+    void ComposeHeader(int index, const CString& before, const CString& after, const CString& without = {});
+    /// A header that stays as it is given.
+    void SetColHeader(int index, const CString& header);
+    void UpdateHeaders();
+
+    /// Headers of rows: whether they bear the row's number, and how wide they are [pixels]; 0 hides them.
+    void SetRowHeader(bool numbered, int width);
+    [[nodiscard]] int GetRowHeaderWidth() const { return m_rowHeaderWidth; }
+    /// Text of a row's header: its number, or "" when rows are not numbered; "Append Row" or, while it is being edited, "New Row".
+    [[nodiscard]] virtual CString GetRowHeaderText(int row) const;
+    /// Whether the headers of columns are shown.
+    void SetColHeaderShown(bool shown);
+    [[nodiscard]] bool IsColHeaderShown() const { return m_colHeaderShown; }
+
+    /// Moves columns on screen before column `target` (one behind the last means the end).
+    void MoveColumns(int firstColumn, int lastColumn, int targetColumn);
+    void SetColDrag(bool allowed) { m_colDrag = allowed; }
+    void SetRowDrag(bool allowed) { m_rowDrag = allowed; }
+
+    // Rows.
+
+    [[nodiscard]] int GetDataRowCount() const;
+    /// Number of the last row: the data rows and the append row.
+    [[nodiscard]] int GetRowCount() const { return GetDataRowCount() + (m_appendRow ? 1 : 0); }
+    void SetAppendRow(bool there);
+    /// Number of the append row; 0 if there is none.
+    [[nodiscard]] int GetAppendRow() const { return m_appendRow ? GetDataRowCount() + 1 : 0; }
+    /// Whether the row is the empty row at the end for new entries.
+    [[nodiscard]] bool IsAppendRow(int row) const { return m_appendRow && row == GetDataRowCount() + 1; }
+    [[nodiscard]] bool IsDataRow(int row) const { return row >= 1 && row <= GetDataRowCount(); }
+
+    /// Empty data rows in place of all. Selection goes; the current cell stays where it fits.
+    void SetRowCount(int count);
+    /// Puts an empty data row in at `row` (1 to one behind the last); takes a data row out.
+    void InsertRecord(int row);
+    void DeleteRecord(int row);
+    /// Moves data rows so that they stand together, in the order given, before row `target` (one behind the last means the end).
+    void MoveRecords(const CArray<int>& rows, int target);
+    void SetRowHidden(int row, bool hidden = true);
+    [[nodiscard]] bool IsRowHidden(int row) const;
+    /// A number that stays with a data row, such as the key of its record.
+    void SetRowKey(int row, std::uint32_t key);
+    [[nodiscard]] std::uint32_t GetRowKey(int row) const;
+
+    // Cells. Outside of the grid a text is "" and a write does nothing. Row 0 gives the headers.
+
+    /// A cell's text: what is being typed, where the row is under edit.
+    [[nodiscard]] CString GetValueRowCol(int row, int column) const { return TextAt(row, GetColIndex(column)); }
+    void SetValueRowCol(int row, int column, const CString& text) { SetTextAt(row, GetColIndex(column), text); }
+    /// The same by fixed index, which is what a record's columns are best addressed by.
+    [[nodiscard]] virtual CString TextAt(int row, int index) const;
+    virtual void SetTextAt(int row, int index, const CString& text);
+    /// All texts of a row in the order of the indices.
+    [[nodiscard]] CArray<CString> GetRowTexts(int row) const;
+    virtual void SetRowTexts(int row, const CArray<CString>& texts);
+    /// What is seen of a cell: reals with the places of their style.
+    [[nodiscard]] virtual CString GetShownText(int row, int index) const;
+
+    /// What one cell has different from its column; the row keeps it when it moves.
+    void SetCellStyle(int row, int index, const zel::GridCellStyle& style);
+    [[nodiscard]] zel::GridCellStyle GetCellStyle(int row, int index) const;
+    [[nodiscard]] zel::GridKind GetCellKind(int row, int index) const;
+    [[nodiscard]] std::vector<CString> GetCellChoices(int row, int index) const;
+    /// Whether the cell can be current: in sight and not disabled.
+    [[nodiscard]] bool IsValidCell(int row, int column) const;
+    /// Whether a text can be typed into the cell.
+    [[nodiscard]] bool IsCellEditable(int row, int index) const;
+
+    // Current cell and selection.
+
+    /// Returns 0, with both left alone, if no cell is current.
+    int GetCurrentCell(int& row, int& column) const;
+    [[nodiscard]] int GetCurrentRow() const { return m_currentRow; }    ///< 0 if no cell is current
+    /// Returns 0, with the current cell left alone, if the cell will not take it.
+    virtual int SetCurrentCell(int row, int column);
+    void ResetCurrentCell();
+    /// Make the next cell in that direction current that can take it. Return 0 if there is none.
+    int SetRightValidCell(int row, int column);
+    int SetLeftValidCell(int row, int column);
+    int SetDownValidCell(int row, int column);
+
+    /// The rows that are selected as a whole, in the order in which they were selected.
+    [[nodiscard]] const CArray<int>& GetSelectedRows() const { return m_selected; }
+    void SelectRows(const CArray<int>& rows);
+    void ResetSelection();
+
+    // Painting.
+
+    /// Until the lock is taken off, as often as it was put on, observers are told of nothing. Then they are told once.
+    void LockPainting() { ++m_paintLocks; }
+    /// Returns whether this lock was the outermost.
+    bool UnlockPainting();
+
+    // For hosts: places of the user's channel. -1 is no place.
+
+    [[nodiscard]] int toRow(int userRow) const;                          ///< the grid's row of a row in a journal; -1 outside
+    [[nodiscard]] int toUserRow(int row) const;                          ///< `append` for the append row
+    [[nodiscard]] int columnByTitle(std::string_view title) const;       ///< column from 0, by its header or its title
+    [[nodiscard]] CString shownText(int userRow, int column) const;      ///< what a host paints
+    /// Has rows that are filled on demand filled now, those of a screenful at once.
+    virtual void fillRows(int /*firstRow*/, int /*lastRow*/) {}
+
+protected:
+    [[nodiscard]] zel::GridRowStore& rows() const { return *m_rows; }
+    [[nodiscard]] int columnOf(int index) const;    ///< number on screen; 0 if there is none
+    [[nodiscard]] bool hasIndex(int index) const { return index >= 0 && index < GetColCount(); }
+    [[nodiscard]] bool isRowDrag() const { return m_rowDrag; }
+    [[nodiscard]] bool isColDrag() const { return m_colDrag; }
+    /// Asks the observers to draw again, at once or when the lock goes.
+    void repaint();
+    void setCurrent(int row, int column);
+    void setSelected(CArray<int> selected) { m_selected = std::move(selected); }
+
+    /// The text that is kept for a cell, whatever is being typed.
+    [[nodiscard]] CString storedText(int row, int index) const;
+    /// Fills a row that has not been read yet.
+    virtual void fillRow(int /*row*/) {}
+    /// Data rows have come, gone or changed places (`place`: for every old row from 0 its new one).
+    virtual void rowInserted(int /*row*/) {}
+    virtual void rowDeleted(int /*row*/) {}
+    virtual void rowsReset() {}
+    virtual void rowsMoved(const std::vector<int>& /*place*/) {}
+    /// Row under edit; 0 if there is none.
+    [[nodiscard]] virtual int editedRow() const { return 0; }
+
+private:
+    struct Header {
+        bool composed = false;
+        CString before;
+        CString after;
+        CString without;
+    };
+
+    [[nodiscard]] zel::GridColumn& column(int index) { return m_columns[static_cast<std::size_t>(index)]; }
+    [[nodiscard]] const zel::GridCellStyle* cellStyle(int row, int index) const;
+    int setValidCell(int row, int column, int rowStep, int columnStep);
+    template <class Change> void shiftStyles(Change newRow);
+
+    std::vector<zel::GridColumn> m_columns;
+    std::vector<Header> m_headers;
+    std::vector<int> m_order;    ///< indices in their order on screen
+    std::unique_ptr<zel::GridRowStore> m_rows;
+    std::map<std::pair<int, int>, zel::GridCellStyle> m_styles;    ///< by row and index
+    CArray<int> m_selected;
+    int m_currentRow = 0;
+    int m_currentIndex = -1;
+    int m_rowHeaderWidth = 35;
+    bool m_rowNumbers = true;
+    bool m_colHeaderShown = true;
+    bool m_appendRow = true;
+    bool m_colDrag = true;
+    bool m_rowDrag = false;
+    int m_paintLocks = 0;
+    bool m_repaint = false;
+};
+
+namespace zel {
+
+/// Keeps a grid's painting locked while it lives.
+class GridPaintLock {
+public:
+    explicit GridPaintLock(CTBGrid& grid) : m_grid(grid) { m_grid.LockPainting(); }
+    GridPaintLock(const GridPaintLock&) = delete;
+    GridPaintLock& operator=(const GridPaintLock&) = delete;
+    ~GridPaintLock() { m_grid.UnlockPainting(); }
+
+private:
+    CTBGrid& m_grid;
+};
+
+}  // namespace zel
