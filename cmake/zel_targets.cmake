@@ -81,9 +81,10 @@ function(zel_paths name)
         ZEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}" ZEL_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 endfunction()
 
-# zel_test(folder [USES ...]): the program test_<folder> of all sources below tests/<folder>; its tests bear the label <folder>.
+# zel_test(folder [RUNS program...] [USES ...]): the program test_<folder> of all sources below tests/<folder>; its tests bear
+# the label <folder>. Programs that it RUNS are built before it, if they exist yet.
 function(zel_test folder)
-    cmake_parse_arguments(arg "" "" "USES" ${ARGN})
+    cmake_parse_arguments(arg "" "" "USES;RUNS" ${ARGN})
     zel_sources(sources tests ${folder})
     if(NOT sources)
         return()
@@ -93,11 +94,29 @@ function(zel_test folder)
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}/tests")
     target_link_libraries(${name} PRIVATE GTest::gtest_main GTest::gmock ${arg_USES})
     zel_paths(${name})
-    if(TARGET zel)
-        add_dependencies(${name} zel)
-    endif()
+    foreach(program IN LISTS arg_RUNS)
+        if(TARGET ${program})
+            add_dependencies(${name} ${program})
+        endif()
+    endforeach()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
         WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}"
         PROPERTIES TIMEOUT 120 LABELS ${folder}
                    ENVIRONMENT "ZEL_SOURCE_DIR=${CMAKE_SOURCE_DIR};ZEL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+endfunction()
+
+# zel_header_check(name USES ...): compiles each header below src/ alone, so that every header includes what it needs.
+function(zel_header_check name)
+    cmake_parse_arguments(arg "" "" "USES" ${ARGN})
+    file(GLOB_RECURSE headers RELATIVE "${CMAKE_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/*.h")
+    set(sources)
+    foreach(header IN LISTS headers)
+        string(REGEX REPLACE "\\.h$" ".cpp" source "${CMAKE_BINARY_DIR}/${name}/${header}")
+        file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"${header}\"\n" @ONLY)
+        list(APPEND sources "${source}")
+    endforeach()
+    if(sources)
+        add_library(${name} OBJECT ${sources})
+        target_link_libraries(${name} PRIVATE ${arg_USES})
+    endif()
 endfunction()
