@@ -1,0 +1,33 @@
+#pragma once
+
+#include "loadcomb/tables/code_table.h"
+
+#include "loadcomb/tables/bs8110_97.h"
+
+// The design codes of the general kind, one line each, in the order in which a name is looked up.
+namespace zel::codes {
+
+struct CodeEntry {
+    std::string_view name;
+    const CodeTable* table = nullptr;
+    const CodeTable* tableOfLoadCode0 = nullptr;    ///< where the choice of "Load Code" 0 selects another one
+};
+
+// AIK-USD94, KBC-USD16, KDS 41 30 : 2018, KDS 41 20 : 2022, KCI-USD12, KBC-USD09, KBC-USD05, KCI-USD99, KSCE-USD96, ACI318-89,
+// ACI318-95, ACI318-99 (these three share aci318_89.h), ACI318-02, BS8110-97, GB50010-02, CSA-A23.3-94. Two further tables are kept
+// for codes that have no name yet (unnamed_first.h, unnamed_second.h): they are included here and stand in no line.
+inline constexpr CodeEntry codeRegistry[] = {
+    {"BS8110-97", &bs8110_97},
+};
+
+/// The entry of that name, exactly; null for any other name.
+constexpr const CodeEntry* findCode(std::string_view name)
+{
+    for (const CodeEntry& entry : codeRegistry) {
+        if (entry.name == name)
+            return &entry;
+    }
+    return nullptr;
+}
+
+}  // namespace zel::codes
