@@ -46,12 +46,13 @@ function(zel_program name)
 endfunction()
 
 # One program for each file <folder>/<prefix>*.cpp; it may read the tree and run the programs that are built beside it.
+# WITH: further sources of each.
 function(zel_programs folder prefix)
-    cmake_parse_arguments(arg "" "" "USES;OPTIONS" ${ARGN})
+    cmake_parse_arguments(arg "" "" "USES;OPTIONS;WITH" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${folder}/${prefix}*.cpp")
     foreach(source IN LISTS sources)
         get_filename_component(name "${source}" NAME_WE)
-        add_executable(${name} "${source}")
+        add_executable(${name} "${source}" ${arg_WITH})
         target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/src")
         target_link_libraries(${name} PRIVATE ${arg_USES})
         target_link_options(${name} PRIVATE ${arg_OPTIONS})
@@ -59,9 +60,14 @@ function(zel_programs folder prefix)
     endforeach()
 endfunction()
 
-# Fuzz targets fuzz_<name>.cpp. Their inputs in <folder>/corpus/<name> are replayed once by ctest.
+# Fuzz targets fuzz_<name>.cpp. In every build, ctest replays the inputs in <folder>/corpus/<name> once; the preset fuzz looks
+# for further ones (build/fuzz/bin/fuzz_<name> fuzz/corpus/<name>).
 function(zel_fuzzers folder)
-    zel_programs(${folder} "fuzz_" OPTIONS -fsanitize=fuzzer ${ARGN})
+    if(ZEL_FUZZ)
+        zel_programs(${folder} "fuzz_" OPTIONS -fsanitize=fuzzer ${ARGN})
+    else()
+        zel_programs(${folder} "fuzz_" WITH "${CMAKE_SOURCE_DIR}/${folder}/replay.cpp" ${ARGN})
+    endif()
     file(GLOB sources "${CMAKE_SOURCE_DIR}/${folder}/fuzz_*.cpp")
     foreach(source IN LISTS sources)
         get_filename_component(name "${source}" NAME_WE)
