@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contract/records/analoption.h"
+#include "contract/records/anal_option.h"
 #include "contract/records/preference.h"
 
 /// Program settings. The host keeps preferences and analysis options in its own settings, not in the model.

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+
+namespace zel {
+
+/// Looks at the file without opening it as a database: is it there, a model of ours, of a schema that we know, whole by its
+/// size? A file that is none of these is never handed to SQLite, which would alter it.
+/// @throws FileRefusal
+void checkFileHeader(const std::filesystem::path& path);
+
+}  // namespace zel

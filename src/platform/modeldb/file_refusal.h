@@ -1,0 +1,26 @@
+#pragma once
+
+#include "contract/text.h"
+
+#include <filesystem>
+#include <stdexcept>
+
+namespace zel {
+
+/// A model file that can't be opened, made or written. `what()` is a plain sentence that names the file and the way out.
+class FileRefusal : public std::runtime_error {
+public:
+    enum class Reason { missing, exists, notAModel, newer, damaged, locked, readOnly, failed };
+
+    FileRefusal(Reason reason, const std::filesystem::path& path, const CString& sentence)
+        : std::runtime_error("\"" + path.string() + "\" " + sentence), m_reason(reason)
+    {
+    }
+
+    [[nodiscard]] Reason reason() const { return m_reason; }
+
+private:
+    Reason m_reason;
+};
+
+}  // namespace zel

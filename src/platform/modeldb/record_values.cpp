@@ -1,0 +1,171 @@
+#include "platform/modeldb/record_values.h"
+
+#include "contract/units.h"
+#include "platform/modeldb/flat_layout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <type_traits>
+#include <vector>
+#include <xxhash.h>
+
+namespace zel {
+
+namespace {
+
+template <class Record, class Visit> void eachReal(const FlatLayout& layout, Record* record, Visit&& visit)
+{
+    for (const FlatColumn& column : layout.columns) {
+        if (column.type == FieldType::real)
+            visit(column, column.in<double>(record));
+    }
+    for (const FlatList& list : layout.lists) {
+        const auto size = list.operations->size(list.in(record));
+        for (std::size_t i = 0; i < size; ++i) {
+            if constexpr (std::is_const_v<Record>)
+                eachReal(*list.element, list.operations->at(list.in(record), i), visit);
+            else
+                eachReal(*list.element, list.operations->edit(list.in(record), i), visit);
+        }
+    }
+}
+
+bool layoutHasUnits(const FlatLayout& layout)
+{
+    return std::any_of(layout.columns.begin(), layout.columns.end(),
+                       [](const FlatColumn& column) { return column.type == FieldType::real && column.unit != Unit::none; }) ||
+           std::any_of(layout.lists.begin(), layout.lists.end(), [](const FlatList& list) { return layoutHasUnits(*list.element); });
+}
+
+const FieldInfo* nameField(const TableInfo& table) { return table.names == NameRule::none ? nullptr : table.record->find("name"); }
+
+/// Bytes of a row in a fixed order, gathered for the hash.
+class RowBytes {
+public:
+    void clear() { m_bytes.clear(); }
+
+    template <class T> void put(T value)
+    {
+        const auto* bytes = reinterpret_cast<const char*>(&value);
+        m_bytes.insert(m_bytes.end(), bytes, bytes + sizeof value);
+    }
+
+    void put(const FlatLayout& layout, const void* record)
+    {
+        for (const FlatColumn& column : layout.columns)
+            put(column, record);
+        for (const FlatList& list : layout.lists) {
+            const auto size = list.operations->size(list.in(record));
+            put(static_cast<std::uint64_t>(size));
+            for (std::size_t i = 0; i < size; ++i)
+                put(*list.element, list.operations->at(list.in(record), i));
+        }
+    }
+
+    [[nodiscard]] std::uint64_t hash() const { return XXH3_64bits(m_bytes.data(), m_bytes.size()); }
+
+private:
+    void put(const FlatColumn& column, const void* record)
+    {
+        switch (column.type) {
+        case FieldType::int32:
+        case FieldType::uint32:
+            put(column.in<std::uint32_t>(record));
+            break;
+        case FieldType::real:
+            put(column.in<double>(record) + 0.0);    // SQLite gives -0.0 back as 0.0
+            break;
+        case FieldType::text: {
+            const auto& text = column.in<CString>(record);
+            put(static_cast<std::uint64_t>(text.size()));
+            m_bytes.insert(m_bytes.end(), text.begin(), text.end());
+            break;
+        }
+        case FieldType::record:
+            break;    // flattened into columns of its own
+        }
+    }
+
+    std::vector<char> m_bytes;
+};
+
+}  // namespace
+
+void convertRecord(const TableInfo& table, void* record, const T_UNIT_INDEX& from, const T_UNIT_INDEX& to)
+{
+    eachReal(flatLayout(*table.record), record, [&](const FlatColumn& column, double& value) {
+        const int unit = column.unit == Unit::byRecord ? table.record->unitOf(record, column.field, column.element) : column.unit;
+        if (unit != Unit::none)    // extended precision: there and back, a value keeps every digit that "%.15g" shows
+            value = static_cast<double>(static_cast<long double>(value) * unitFactor(unit, from) / unitFactor(unit, to));
+    });
+}
+
+bool hasUnits(const TableInfo& table) { return layoutHasUnits(flatLayout(*table.record)); }
+
+std::string_view notFiniteField(const TableInfo& table, const void* record)
+{
+    std::string_view found;
+    eachReal(flatLayout(*table.record), record, [&](const FlatColumn& column, const double& value) {
+        if (found.empty() && !std::isfinite(value))
+            found = column.field;
+    });
+    return found;
+}
+
+const CString& recordName(const TableInfo& table, const void* record)
+{
+    static const CString none;
+    const FieldInfo* field = nameField(table);
+    return field != nullptr ? *static_cast<const CString*>(field->in(record)) : none;
+}
+
+CString foldedName(std::string_view name)
+{
+    CString folded(name);
+    std::transform(folded.begin(), folded.end(), folded.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return folded;
+}
+
+std::size_t characterCount(std::string_view text)
+{
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+std::int32_t recordPlace(const TableInfo& table, const void* record)
+{
+    return table.sequenceField.empty() ? 0 : *static_cast<const std::int32_t*>(table.record->find(table.sequenceField)->in(record));
+}
+
+RecordPtr withKeptFields(const TableInfo& table, const RecordPtr& record, int kind, Key key, std::int32_t place)
+{
+    std::shared_ptr<void> changed;
+    const auto keep = [&](std::string_view fieldName, auto value) {
+        if (fieldName.empty())
+            return;
+        const FieldInfo* field = table.record->find(fieldName);
+        using Value = decltype(value);
+        const void* current = changed ? changed.get() : record.get();
+        if (*static_cast<const Value*>(field->in(current)) == value)
+            return;
+        if (!changed)
+            changed = table.record->copy(record.get());
+        *static_cast<Value*>(field->in(changed.get())) = value;
+    };
+    keep(table.sequenceField, place);
+    keep(table.keyField, key);
+    keep(table.kindField, static_cast<std::int32_t>(kind));
+    return changed ? RecordPtr(changed) : record;
+}
+
+std::uint64_t rowHash(const TableInfo& table, int kind, Key key, const void* record)
+{
+    thread_local RowBytes bytes;
+    bytes.clear();
+    bytes.put(kind);
+    bytes.put(key);
+    bytes.put(flatLayout(*table.record), record);
+    return bytes.hash();
+}
+
+}  // namespace zel

@@ -1,0 +1,47 @@
+#include "platform/modeldb/refusals.h"
+
+#include "contract/messages.h"
+#include "contract/table_store.h"
+#include "contract/user_interface.h"
+
+namespace zel {
+
+namespace {
+
+const char* keyOf(Refusal reason)
+{
+    switch (reason) {
+    case Refusal::duplicateName: return "IDS_DB_REFUSE_DUPLICATE_NAME";
+    case Refusal::emptyName: return "IDS_DB_REFUSE_EMPTY_NAME";
+    case Refusal::nameTooLong: return "IDS_DB_REFUSE_NAME_TOO_LONG";
+    case Refusal::keyExists: return "IDS_DB_REFUSE_KEY_EXISTS";
+    case Refusal::noRecord: return "IDS_DB_REFUSE_NO_RECORD";
+    case Refusal::inUse: return "IDS_DB_REFUSE_IN_USE";
+    case Refusal::notFinite: return "IDS_DB_REFUSE_NOT_FINITE";
+    case Refusal::badKind: return "IDS_DB_REFUSE_BAD_KIND";
+    case Refusal::fileWrite: return "IDS_DB_REFUSE_FILE_WRITE";
+    }
+    return "";
+}
+
+/// Puts `value` in the place of the first `placeholder` of a text.
+CString filled(CString text, const char* placeholder, const CString& value)
+{
+    const auto place = text.find(placeholder);
+    if (place != CString::npos)
+        text.replace(place, 2, value);
+    return text;
+}
+
+}  // namespace
+
+int refuse(Refusal reason, const CString& detail, int number)
+{
+    const CString text = CMsgDll::pfuncLoadStr(keyOf(reason), 0);
+    AfxMessageBox(filled(filled(text, "%d", std::to_string(number)), "%s", detail), 0, 0);
+    return 0;
+}
+
+int refuseMissing(const TableInfo& /*table*/, const CString& /*name*/) { return refuse(Refusal::noRecord); }
+
+}  // namespace zel

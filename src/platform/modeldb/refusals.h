@@ -1,0 +1,14 @@
+#pragma once
+
+#include "contract/text.h"
+
+namespace zel {
+
+/// Why the model refuses a change, told to the user in a message box.
+enum class Refusal { duplicateName, emptyName, nameTooLong, keyExists, noRecord, inUse, notFinite, badKind, fileWrite };
+
+/// Tells the user. `detail` fills the placeholder of a text; `number` that of a numeric one.
+/// @return 0, the result of a refused operation
+int refuse(Refusal reason, const CString& detail = {}, int number = 0);
+
+}  // namespace zel

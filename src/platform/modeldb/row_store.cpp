@@ -1,0 +1,256 @@
+#include "platform/modeldb/row_store.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace zel {
+
+namespace {
+
+int bindColumns(Statement& statement, const SqlTable& table, const void* record, int parameter)
+{
+    for (std::size_t i = 0; i < table.layout->columns.size(); ++i) {
+        if (table.skipped[i])
+            continue;
+        const FlatColumn& column = table.layout->columns[i];
+        switch (column.type) {
+        case FieldType::int32: statement.bind(parameter++, static_cast<std::int64_t>(column.in<std::int32_t>(record))); break;
+        case FieldType::uint32: statement.bind(parameter++, static_cast<std::int64_t>(column.in<std::uint32_t>(record))); break;
+        case FieldType::real: statement.bind(parameter++, column.in<double>(record)); break;
+        case FieldType::text: statement.bind(parameter++, std::string_view(column.in<CString>(record))); break;
+        case FieldType::record: break;    // flattened into columns of its own
+        }
+    }
+    return parameter;
+}
+
+template <class Integer> Integer narrow(std::int64_t value)
+{
+    if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max())
+        throw DamagedRows("a number is out of its range");
+    return static_cast<Integer>(value);
+}
+
+void readColumns(const Statement& statement, const SqlTable& table, void* record, int place)
+{
+    for (std::size_t i = 0; i < table.layout->columns.size(); ++i) {
+        if (table.skipped[i])
+            continue;
+        const FlatColumn& column = table.layout->columns[i];
+        switch (column.type) {
+        case FieldType::int32: column.in<std::int32_t>(record) = narrow<std::int32_t>(statement.integer(place)); break;
+        case FieldType::uint32: column.in<std::uint32_t>(record) = narrow<std::uint32_t>(statement.integer(place)); break;
+        case FieldType::real: column.in<double>(record) = statement.real(place); break;
+        case FieldType::text: column.in<CString>(record) = statement.text(place); break;
+        case FieldType::record: break;
+        }
+        ++place;
+    }
+}
+
+bool sameScalars(const FlatLayout& layout, const void* left, const void* right)
+{
+    return std::all_of(layout.columns.begin(), layout.columns.end(), [&](const FlatColumn& column) {
+        switch (column.type) {
+        case FieldType::real: return column.in<double>(left) == column.in<double>(right);
+        case FieldType::text: return column.in<CString>(left) == column.in<CString>(right);
+        default: return column.in<std::uint32_t>(left) == column.in<std::uint32_t>(right);
+        }
+    });
+}
+
+bool sameLists(const FlatLayout& layout, const void* left, const void* right);
+
+bool sameList(const FlatList& list, const void* left, const void* right)
+{
+    const auto size = list.operations->size(list.in(left));
+    if (size != list.operations->size(list.in(right)))
+        return false;
+    for (std::size_t i = 0; i < size; ++i) {
+        const void* a = list.operations->at(list.in(left), i);
+        const void* b = list.operations->at(list.in(right), i);
+        if (!sameScalars(*list.element, a, b) || !sameLists(*list.element, a, b))
+            return false;
+    }
+    return true;
+}
+
+bool sameLists(const FlatLayout& layout, const void* left, const void* right)
+{
+    return std::all_of(layout.lists.begin(), layout.lists.end(), [&](const FlatList& list) { return sameList(list, left, right); });
+}
+
+}  // namespace
+
+bool RowStore::Address::operator==(const Address& other) const { return size == other.size && std::equal(parts, parts + size, other.parts); }
+
+RowStore::Address RowStore::addressOf(const TableInfo& table, int kind, Key key)
+{
+    Address address;
+    if (table.shape == TableShape::kinded)
+        address.push(kind);
+    address.push(key);
+    return address;
+}
+
+Statement& RowStore::prepared(std::unique_ptr<Statement>& statement, const CString& sql)
+{
+    if (!statement)
+        statement = std::make_unique<Statement>(m_database, sql);
+    return *statement;
+}
+
+void RowStore::insert(const SqlTable& table, const Address& address, const void* record)
+{
+    std::unique_ptr<Statement>& held = m_statements[&table].insert;
+    Statement& statement = held ? *held : prepared(held, insertStatement(table));
+    int parameter = 1;
+    for (std::size_t i = 0; i < address.size; ++i)
+        statement.bind(parameter++, address.parts[i]);
+    bindColumns(statement, table, record, parameter);
+    statement.run();
+    insertLists(table, address, record);
+}
+
+void RowStore::insertLists(const SqlTable& table, const Address& address, const void* record)
+{
+    for (const SqlTable& child : table.lists) {
+        const FlatList& list = table.layout->lists[child.list];
+        const auto size = list.operations->size(list.in(record));
+        for (std::size_t i = 0; i < size; ++i) {
+            Address place = address;
+            place.push(static_cast<std::int64_t>(i));
+            insert(child, place, list.operations->at(list.in(record), i));
+        }
+    }
+}
+
+void RowStore::update(const SqlTable& table, const Address& address, const void* before, const void* after)
+{
+    if (!sameScalars(*table.layout, before, after)) {
+        Statement& statement = prepared(m_statements[&table].update, updateStatement(table));
+        int parameter = bindColumns(statement, table, after, 1);
+        for (std::size_t i = 0; i < address.size; ++i)
+            statement.bind(parameter++, address.parts[i]);
+        statement.run();
+        if (m_database.changes() != 1)
+            throw DamagedRows("a row to change is not there");
+    }
+    for (const SqlTable& child : table.lists) {
+        const FlatList& list = table.layout->lists[child.list];
+        if (sameList(list, before, after))
+            continue;
+        Statement& statement = prepared(m_statements[&child].removeList, deleteStatement(child, address.size));
+        for (std::size_t i = 0; i < address.size; ++i)
+            statement.bind(static_cast<int>(i) + 1, address.parts[i]);
+        statement.run();
+        if (static_cast<std::size_t>(m_database.changes()) != list.operations->size(list.in(before)))
+            throw DamagedRows("a list to change is not as long as it was");
+        const auto size = list.operations->size(list.in(after));
+        for (std::size_t i = 0; i < size; ++i) {
+            Address place = address;
+            place.push(static_cast<std::int64_t>(i));
+            insert(child, place, list.operations->at(list.in(after), i));
+        }
+    }
+}
+
+void RowStore::remove(const SqlTable& table, const Address& address)
+{
+    Statement& statement = prepared(m_statements[&table].remove, deleteStatement(table, address.size));
+    for (std::size_t i = 0; i < address.size; ++i)
+        statement.bind(static_cast<int>(i) + 1, address.parts[i]);
+    statement.run();    // its lists go with it
+    if (m_database.changes() != 1)
+        throw DamagedRows("a row to delete is not there");
+}
+
+void RowStore::write(const Batch& batch)
+{
+    const TableInfo& info = tableInfo(batch.table);
+    const SqlTable& table = sqlTable(info);
+    const auto moves = [](const Step& step) { return !step.after || step.oldKey != step.newKey; };
+    for (const Step& step : batch.steps) {
+        if (step.before && moves(step))
+            remove(table, addressOf(info, step.kind, step.oldKey));
+    }
+    for (const Step& step : batch.steps) {
+        if (!step.after)
+            continue;
+        const Address address = addressOf(info, step.kind, step.newKey);
+        if (step.before && !moves(step))
+            update(table, address, step.before.get(), step.after.get());
+        else
+            insert(table, address, step.after.get());
+    }
+}
+
+std::vector<StoredRow> RowStore::read(const TableInfo& table)
+{
+    const SqlTable& sql = sqlTable(table);
+    const bool kinded = table.shape == TableShape::kinded;
+    const FieldInfo* kindField = table.kindField.empty() ? nullptr : table.record->find(table.kindField);
+    const FieldInfo* keyField = table.keyField.empty() ? nullptr : table.record->find(table.keyField);
+
+    std::vector<StoredRow> rows;
+    std::vector<Owner> owners;
+    Statement statement(m_database, selectStatement(sql));
+    while (statement.step()) {
+        StoredRow row;
+        int place = 0;
+        if (kinded)
+            row.kind = narrow<std::int32_t>(statement.integer(place++));
+        row.key = narrow<Key>(statement.integer(place++));
+        if (row.key == 0 || (kinded && (row.kind < 1 || row.kind > 5)) || (table.shape == TableShape::single && row.key != 1))
+            throw DamagedRows("a row has an impossible key");
+        row.record = table.record->create();
+        if (kindField != nullptr)
+            *static_cast<std::int32_t*>(kindField->in(row.record.get())) = row.kind;
+        if (keyField != nullptr)
+            *static_cast<Key*>(keyField->in(row.record.get())) = row.key;
+        readColumns(statement, sql, row.record.get(), place);
+        for (const FlatList& list : sql.layout->lists)
+            list.operations->resize(list.in(row.record.get()), 0);
+        if (!sql.lists.empty())
+            owners.push_back({addressOf(table, row.kind, row.key), row.record.get()});
+        rows.push_back(std::move(row));
+    }
+    readLists(sql, owners);
+    return rows;
+}
+
+void RowStore::readLists(const SqlTable& table, const std::vector<Owner>& owners)
+{
+    for (const SqlTable& child : table.lists) {
+        const FlatList& list = table.layout->lists[child.list];
+        Statement statement(m_database, selectStatement(child));
+        auto owner = owners.begin();
+        std::size_t size = 0;
+        while (statement.step()) {
+            Address address;
+            for (std::size_t i = 0; i + 1 < child.address.size(); ++i)
+                address.push(statement.integer(static_cast<int>(i)));
+            for (; owner != owners.end() && !(owner->address == address); ++owner)
+                size = 0;
+            const auto place = static_cast<std::size_t>(statement.integer(static_cast<int>(address.size)));
+            if (owner == owners.end() || place != size)
+                throw DamagedRows("a list has lost its record or one of its places");
+            list.operations->resize(list.in(owner->object), ++size);
+            readColumns(statement, child, list.operations->edit(list.in(owner->object), place), static_cast<int>(child.address.size()));
+        }
+        if (child.lists.empty())
+            continue;
+        std::vector<Owner> elements;
+        for (const Owner& each : owners) {
+            const auto count = list.operations->size(list.in(each.object));
+            for (std::size_t i = 0; i < count; ++i) {
+                Owner element{each.address, list.operations->edit(list.in(each.object), i)};
+                element.address.push(static_cast<std::int64_t>(i));
+                elements.push_back(element);
+            }
+        }
+        readLists(child, elements);
+    }
+}
+
+}  // namespace zel

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "platform/modeldb/change.h"
+#include "platform/modeldb/file_format.h"
+#include "platform/modeldb/sqlite.h"
+
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+#include <unordered_map>
+#include <vector>
+
+namespace zel {
+
+/// The rows of a table contradict each other or what they should be: somebody or something else has changed the file.
+class DamagedRows : public std::runtime_error {
+public:
+    explicit DamagedRows(const CString& what) : std::runtime_error(what) {}
+};
+
+/// One record as it stands in the file.
+struct StoredRow {
+    int kind = 0;
+    Key key = 0;
+    std::shared_ptr<void> record;
+};
+
+/// Reads and writes the records of the model tables in an open database.
+class RowStore {
+public:
+    explicit RowStore(Database& database) : m_database(database) {}
+
+    /// Writes the steps of a batch: first all that removes a row, then all that puts one there.
+    /// @throws SqliteError, DamagedRows
+    void write(const Batch& batch);
+
+    /// Reads all records of a table, in the order of their addresses.
+    /// @throws SqliteError, DamagedRows
+    std::vector<StoredRow> read(const TableInfo& table);
+
+private:
+    /// The statements of one SQL table, prepared when they are first needed.
+    struct Statements {
+        std::unique_ptr<Statement> insert;
+        std::unique_ptr<Statement> update;
+        std::unique_ptr<Statement> remove;
+        std::unique_ptr<Statement> removeList;
+    };
+    /// A row's address: key, or kind and key, then the places in lists.
+    struct Address {
+        std::int64_t parts[4]{};
+        std::size_t size = 0;
+        void push(std::int64_t part) { parts[size++] = part; }
+        bool operator==(const Address& other) const;
+    };
+    /// A record or list element whose lists are to be read, with its address.
+    struct Owner {
+        Address address;
+        void* object = nullptr;
+    };
+
+    [[nodiscard]] static Address addressOf(const TableInfo& table, int kind, Key key);
+    Statement& prepared(std::unique_ptr<Statement>& statement, const CString& sql);
+    void insert(const SqlTable& table, const Address& address, const void* record);
+    void insertLists(const SqlTable& table, const Address& address, const void* record);
+    void update(const SqlTable& table, const Address& address, const void* before, const void* after);
+    void remove(const SqlTable& table, const Address& address);
+    void readLists(const SqlTable& table, const std::vector<Owner>& owners);
+
+    Database& m_database;
+    std::unordered_map<const SqlTable*, Statements> m_statements;
+};
+
+}  // namespace zel

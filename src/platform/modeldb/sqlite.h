@@ -1,0 +1,81 @@
+#pragma once
+
+#include "contract/text.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <sqlite3.h>
+#include <stdexcept>
+#include <string_view>
+
+namespace zel {
+
+/// A failure that SQLite reports, with its result code.
+class SqliteError : public std::runtime_error {
+public:
+    SqliteError(int code, const CString& what) : std::runtime_error(what), m_code(code) {}
+    [[nodiscard]] int code() const { return m_code & 0xFF; }
+
+private:
+    int m_code;
+};
+
+class Statement;
+
+/// One connection to a database file.
+class Database {
+public:
+    /// @throws SqliteError
+    Database(const std::filesystem::path& path, int flags);
+
+    void run(const CString& sql);
+    [[nodiscard]] std::int64_t number(const CString& sql);    ///< first column of the first row; 0 if there is no row
+    [[nodiscard]] CString text(const CString& sql);
+    [[nodiscard]] int changes() const { return sqlite3_changes(m_handle.get()); }
+    [[nodiscard]] sqlite3* handle() const { return m_handle.get(); }
+
+private:
+    struct Close {
+        void operator()(sqlite3* handle) const { sqlite3_close(handle); }
+    };
+    std::unique_ptr<sqlite3, Close> m_handle;
+};
+
+/// A prepared statement. Parameters count from 1, columns from 0.
+class Statement {
+public:
+    Statement(Database& database, const CString& sql);
+
+    void bind(int parameter, std::int64_t value);
+    void bind(int parameter, double value);
+    /// The text must live until the statement is run.
+    void bind(int parameter, std::string_view value);
+
+    /// Makes one step; false at the end.
+    bool step();
+    /// Runs a statement without rows and makes it ready for the next run.
+    void run();
+    void reset() { sqlite3_reset(m_handle.get()); }
+
+    [[nodiscard]] bool isNull(int column) const { return sqlite3_column_type(m_handle.get(), column) == SQLITE_NULL; }
+    [[nodiscard]] std::int64_t integer(int column) const { return sqlite3_column_int64(m_handle.get(), column); }
+    [[nodiscard]] double real(int column) const { return sqlite3_column_double(m_handle.get(), column); }
+    [[nodiscard]] std::string_view text(int column) const;
+
+private:
+    void check(int code) const
+    {
+        if (code != SQLITE_OK)
+            fail(code);
+    }
+    [[noreturn]] void fail(int code) const;
+
+    struct Finalize {
+        void operator()(sqlite3_stmt* handle) const { sqlite3_finalize(handle); }
+    };
+    sqlite3* m_database;
+    std::unique_ptr<sqlite3_stmt, Finalize> m_handle;
+};
+
+}  // namespace zel

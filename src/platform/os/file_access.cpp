@@ -1,0 +1,42 @@
+#include "platform/os/file_access.h"
+
+#ifdef _WIN32
+#include <process.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace zel::os {
+
+bool isWritable(const std::filesystem::path& file)
+{
+    using std::filesystem::perms;
+    std::error_code error;
+    const perms allowed = std::filesystem::status(file, error).permissions();
+    return !error && (allowed & (perms::owner_write | perms::group_write | perms::others_write)) != perms::none;
+}
+
+void syncFolder(const std::filesystem::path& folder)
+{
+#ifdef _WIN32
+    (void)folder;
+#else
+    const int descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    (void)::fsync(descriptor);
+    ::close(descriptor);
+#endif
+}
+
+CString processNumber()
+{
+#ifdef _WIN32
+    return std::to_string(_getpid());
+#else
+    return std::to_string(::getpid());
+#endif
+}
+
+}  // namespace zel::os
