@@ -18,8 +18,6 @@ public:
 
     zel::Taken press() override;
     void describe(zel::IFieldWriter& /*writer*/) const override {}
-
-protected:
     bool onKey(zel::UserKey key) override;
 
 private:

@@ -31,21 +31,19 @@ private:
 class CChildDialog : public CDialog {
 public:
     CChildDialog(unsigned templateId, CWnd* parent = nullptr) : CDialog(templateId, {}, parent) {}
-    ~CChildDialog() override;
 
     /// Makes the window in a panel, in place of the child that stood there. Return 0 if it is created already.
     virtual int CreateInit(CPanel& panel);
     /// The same at a place in the panel [pixels], which only a host with a screen regards.
     virtual int CreateInit(CPanel& panel, int x, int y);
-    /// Loads the fields and takes the window away; the object and its values stay. Returns 0, with the window kept, if the
-    /// fields can't be loaded.
+    /// Takes the window away; the object and its values stay. Returns 0 if there is none.
     virtual int End();
     [[nodiscard]] bool IsCreated() const { return IsWindow(); }
 
     /// Moves the values between the fields and the object's members.
-    /// @param load  true: from the fields; false: into the fields
+    /// @param loading  true: from the fields; false: into the fields
     /// @return 0 when a field holds what it can't take; it has been reported and the focus stands on it
-    virtual int DoDataExchange(bool load);
+    virtual int DoDataExchange(bool loading);
 
 protected:
     void OnOK() override {}
@@ -54,9 +52,6 @@ protected:
     virtual void PrivateNotifyToParent(int /*code*/) {}
 
     /// Exchange one field within a closed range, with the report of a value that is no number or outside it.
-    int exchange(bool load, CEdit& field, double& value, double lowest, double highest);
-    int exchange(bool load, CEdit& field, int& value, int lowest, int highest);
-
-private:
-    CPanel* m_panel = nullptr;
+    int exchange(bool loading, CEdit& field, double& value, double lowest, double highest);
+    int exchange(bool loading, CEdit& field, int& value, int lowest, int highest);
 };

@@ -48,6 +48,16 @@ using UserValue = std::variant<CString, bool, double>;
 
 enum class UserKey { enter, escape, tab };
 
+/// Keeps every dialog alive that is closed inside it. The user's channel opens one for each action; a host may hold one
+/// around several. When the outermost one ends, closed modeless dialogs are deleted.
+class UserAction {
+public:
+    UserAction();
+    UserAction(const UserAction&) = delete;
+    UserAction& operator=(const UserAction&) = delete;
+    ~UserAction();
+};
+
 /// One control of a form. It holds its value and three channels:
 ///
 /// - the program's: plain setters, called by the dialog; they fire no handler and are never refused;
@@ -76,6 +86,8 @@ public:
     [[nodiscard]] CString page() const;
     /// False for a control that only holds others, such as a panel: it is not listed in a form.
     [[nodiscard]] virtual bool isListed() const { return true; }
+    /// What a sentence calls it: its label as names are compared, else its id.
+    [[nodiscard]] CString name() const;
 
     // How it stands.
     [[nodiscard]] bool IsWindow() const override;
@@ -131,6 +143,8 @@ public:
     /// The focus came or went by the user.
     virtual void gotFocus() {}
     virtual void lostFocus() {}
+    /// Takes a key; false leaves it to the dialog.
+    virtual bool onKey(UserKey /*key*/) { return false; }
     /// The dialog's window is about to go: end what is open.
     virtual void onDestroying() {}
 
@@ -144,11 +158,11 @@ protected:
     /// Runs a handler of the dialog, if there is one.
     template <class... Arguments> void fire(const Action<Arguments...>& action, Arguments... arguments) const
     {
-        if (action)
+        if (action) {
+            const UserAction running;
             action(dialog(), arguments...);
+        }
     }
-    /// Takes a key; false leaves it to the dialog.
-    virtual bool onKey(UserKey /*key*/) { return false; }
     void changed() override;
 
 private:
@@ -157,16 +171,6 @@ private:
     CString m_label;
     std::function<bool()> m_enabledWhen;
     std::function<bool()> m_visibleWhen;
-};
-
-/// Keeps every dialog alive that is closed inside it. The user's channel opens one for each action; a host may hold one
-/// around several. When the outermost one ends, closed modeless dialogs are deleted.
-class UserAction {
-public:
-    UserAction();
-    UserAction(const UserAction&) = delete;
-    UserAction& operator=(const UserAction&) = delete;
-    ~UserAction();
 };
 
 }  // namespace zel

@@ -84,6 +84,8 @@ public:
 
     // The user's channel.
 
+    /// Brings it to the front.
+    zel::Taken userActivate();
     /// Closes the window: by OnClose, which cancels.
     zel::Taken userClose();
     /// Enter presses the default button or gives OK, Escape gives Cancel, Tab moves the focus.
@@ -121,6 +123,7 @@ protected:
     int runModal();
     /// Makes the window of a modeless dialog. It appears with the first ShowWindow or SetActiveWindow.
     void openModeless();
+    void setTemplateId(unsigned templateId) { m_templateId = templateId; }
 
 private:
     enum class State { closed, open };
@@ -129,6 +132,7 @@ private:
     void unmakeWindow();
     void appear();
     void nextFocus();
+    bool translateKey(zel::UserKey key);
 
     unsigned m_templateId;
     CWnd* m_parent;
@@ -141,6 +145,7 @@ private:
     State m_state = State::closed;
     bool m_modal = false;
     bool m_appeared = false;
+    bool m_fresh = false;    ///< its first SetActiveWindow belongs to its opening
     std::optional<int> m_endCode;
 };
 

@@ -38,11 +38,11 @@ public:
     void describe(zel::IFieldWriter& writer) const override;
     void gotFocus() override { fire(m_onSetFocus); }
     void lostFocus() override { fire(m_onKillFocus); }
+    bool onKey(zel::UserKey key) override;
 
 protected:
     /// A sentence that says why the field can't take the text; empty if it can.
     [[nodiscard]] virtual CString objection(const CString& /*text*/) const { return {}; }
-    bool onKey(zel::UserKey key) override;
 
 private:
     zel::Action<> m_onChange;

@@ -69,6 +69,8 @@ public:
     void ComposeHeader(int index, const CString& before, const CString& after, const CString& without = {});
     /// A header that stays as it is given.
     void SetColHeader(int index, const CString& header);
+    /// Another unit type for a column, such as one that depends on the kind of data. Composed headers follow.
+    void SetColUnitType(int index, int unitType);
     void UpdateHeaders();
 
     /// Headers of rows: whether they bear the row's number, and how wide they are [pixels]; 0 hides them.
@@ -177,6 +179,20 @@ protected:
     /// Asks the observers to draw again, at once or when the lock goes.
     void repaint();
     void setCurrent(int row, int column);
+    /// Runs something that changes nothing for an observer: the filling of rows as they are read.
+    template <class Work> void inSilence(Work work)
+    {
+        const bool pending = m_repaint;
+        ++m_paintLocks;
+        work();
+        --m_paintLocks;
+        m_repaint = pending;
+    }
+    void followCurrent(int row)
+    {
+        m_currentRow = row;
+        repaint();
+    }
     void setSelected(CArray<int> selected) { m_selected = std::move(selected); }
 
     /// The text that is kept for a cell, whatever is being typed.
@@ -199,7 +215,7 @@ private:
         CString without;
     };
 
-    [[nodiscard]] zel::GridColumn& column(int index) { return m_columns[static_cast<std::size_t>(index)]; }
+    [[nodiscard]] zel::GridColumn& columnAt(int index) { return m_columns[static_cast<std::size_t>(index)]; }
     [[nodiscard]] const zel::GridCellStyle* cellStyle(int row, int index) const;
     int setValidCell(int row, int column, int rowStep, int columnStep);
     template <class Change> void shiftStyles(Change newRow);

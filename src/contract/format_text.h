@@ -1,0 +1,13 @@
+#pragma once
+
+#include "contract/text.h"
+
+#include <cstdarg>
+
+namespace zel {
+
+/// A text formatted as printf does: `formatText("%g", factor)`, `formatText(CMsgDll::pfuncLoadStr(key, 0), name.c_str())`.
+[[nodiscard]] CString formatText(const char* format, ...);
+[[nodiscard]] CString formatTextList(const char* format, std::va_list arguments);
+
+}  // namespace zel

@@ -1,0 +1,275 @@
+#pragma once
+
+#include "contract/forms/grid.h"
+
+#include <any>
+#include <optional>
+#include <utility>
+
+namespace zel {
+
+/// Keys or records of rows, as a grid's own MakeKeyAndDataArray makes them and its AddToDB and ModifyToDB read them:
+/// `std::any_cast<const T_STLD_D&>(records[i])`.
+using GridValues = CArray<std::any>;
+
+}  // namespace zel
+
+/// A grid in which each row is a record: the editing of cells and rows, and the points at which a grid of the program is
+/// asked to test, write and delete records.
+///
+/// Life of a row. Typing into a cell puts its row under edit; what is typed lies beside the stored texts. Leaving the cell asks
+/// ValidateField, and on false the cell stays open. Leaving the row asks ValidateRecord, then writes it: AddToDB(row) for the append
+/// row, ModifyToDB(row) for any other; a row that is refused stays under edit. A write that the grid has not mirrored itself, by
+/// InsertRecord, DeleteRecord or new texts, is mirrored by the browser.
+class CTBBrowserWnd : public CTBGrid {
+public:
+    using CTBGrid::CTBGrid;
+
+    // What a grid of the program overrides. Rows are the grid's; `columns` and `column` are indices, `texts` stand in their order.
+
+    /// Styles and column widths; then the base's, which fills the rows.
+    virtual void Initialize();
+    /// The keys of the selected records; returns their count.
+    virtual int GetSelectedKeys(CArray<std::uint32_t>& keys);
+    [[nodiscard]] virtual int GetKeyColID() const { return 0; }
+    /// The user has selected other rows.
+    virtual void OnChangedSelectionPublic(const CArray<int>& /*rows*/, int /*count*/) {}
+
+    /// Write the new record of the append row; write several new ones of a paste, all or none.
+    virtual bool AddToDB(int row);
+    virtual bool AddToDB(const zel::GridValues& keys, const zel::GridValues& records);
+    virtual bool DeleteFromDB(int row);
+    virtual bool DeleteFromDB(const CArray<int>& rows);
+    /// Write the changed record of a row (its old key or name is in GetValueRowColBeforeEdit); write several of a paste, all or none.
+    virtual bool ModifyToDB(int row);
+    virtual bool ModifyToDB(const zel::GridValues& oldKeys, const zel::GridValues& keys, const zel::GridValues& records);
+
+    /// Text of the key column of a new row.
+    [[nodiscard]] virtual CString GetNewKey() { return {}; }
+    /// Text with which a cell of a new row begins: of GetDefValueArray, "" beyond its end.
+    [[nodiscard]] virtual CString GetDefValue(int column);
+    [[nodiscard]] virtual const CArray<CString>& GetDefValueArray();
+
+    /// Adds one key and one record, filled from the texts of a row; false, with a warning, for bad texts.
+    virtual bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records);
+    /// Lets go of what MakeKeyAndDataArray made.
+    virtual void DeleteKeyAndDataArray(zel::GridValues& keys, zel::GridValues& records);
+
+    /// Tests of a cell and of a row. On false the warning text has been set.
+    virtual bool ValidateField(const CString& text, int column);
+    virtual bool ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns);
+
+    /// Number of records.
+    [[nodiscard]] virtual int GetCountData() { return GetDataRowCount(); }
+    /// Fills only the given rows, with ShowRowsOnDemand.
+    virtual void MakeItemFiltered(int count, const CArray<int>& rows, const CArray<int>& columns);
+    /// Fills rows 1 to `count` from the data, in order. With ShowRowsOnDemand it only sets the row keys.
+    virtual void MakeItemNormal(int count, const CArray<int>& columns);
+    /// Rewrites a row under edit after a change of units; SetTextAt then writes what is being typed.
+    virtual void MakeItemEditingRecord(int row, const CArray<CString>& texts);
+    /// The units have changed: convert the data, or read it again, and the rows.
+    virtual void UnitChanged() {}
+
+    // Further points, all of them for doing more; the base's do nothing.
+
+    /// Another row has become current by the user, or holds another record after an update. Also called with the append row.
+    virtual void OnCurrentRowChanged(int /*row*/) {}
+    virtual void OnCurrentCellChanged(int /*row*/, int /*column*/) {}
+    virtual void OnClickCell(int /*row*/, int /*column*/) {}
+    virtual void OnDoubleClickCell(int /*row*/, int /*column*/) {}
+    virtual void OnRightDoubleClickCell(int /*row*/, int /*column*/) {}
+    virtual void OnKeyCell(zel::UserKey /*key*/) {}
+    virtual void OnButtonCell(int /*row*/, int /*index*/) {}
+    /// A cell was left with another text, or its edit was given up.
+    virtual void OnEndEditing(int /*row*/, int /*index*/) {}
+    virtual void OnCancelEditing(int /*row*/, int /*index*/) {}
+    /// A text was dropped on a cell (row and column of the grid); false if the grid has no use for it.
+    virtual bool OnDropText(int /*row*/, int /*column*/, const CString& /*text*/) { return false; }
+
+    // Operations.
+
+    /// Rows anew from GetCountData and MakeItemNormal, in one repaint. What is being typed is kept where its row still is there.
+    void RebuildRows();
+    /// Rows are filled by MakeItemFiltered when they are first read, from their row keys, instead of all at once.
+    void ShowRowsOnDemand(bool onDemand) { m_onDemand = onDemand; }
+    /// Follows a change of units: UnitChanged, headers, and MakeItemEditingRecord for a row under edit. A dialog calls it on hint 4.
+    void ChangeUnits();
+
+    /// A cell's text before the open edit: the stored one.
+    [[nodiscard]] CString GetValueRowColBeforeEdit(int row, int column) const { return storedText(row, GetColIndex(column)); }
+    [[nodiscard]] CString TextBeforeEdit(int row, int index) const { return storedText(row, index); }
+    /// Whether a row is under edit.
+    [[nodiscard]] bool IsEdit() const { return m_edit.has_value() && !m_edit->writing; }
+    /// Whether the append row is under edit or being written.
+    [[nodiscard]] bool IsAppend() const { return m_edit.has_value() && m_edit->append; }
+    /// Row under edit; 0 if there is none.
+    [[nodiscard]] int GetEditRow() const { return editedRow(); }
+    /// Column index of the open cell; -1 if none is open.
+    [[nodiscard]] int GetOpenCell() const { return m_edit && m_edit->open ? m_edit->index : -1; }
+
+    /// Ends what is open. @param mode  0 gives it up; 1 writes it, and keeps it open if it is refused; 2 writes it, or else gives it up
+    /// @return 0 if something was refused or given up
+    int OnTerminate(int mode);
+    /// Non-zero: cells are shown, and rows selected and dragged, but nothing can be typed, pasted or deleted by the user.
+    void SetModeDisplayOnly(int displayOnly);
+    [[nodiscard]] bool IsModeDisplayOnly() const { return m_displayOnly; }
+    /// A cell that is left writes its row at once. For forms of cells, whose rows are no records.
+    void SetWriteEachCell(bool each) { m_writeEachCell = each; }
+
+    /// The text that is shown when a cell or a row is refused; ValidateField and ValidateRecord set it.
+    void SetWarningText(const CString& text) { m_warning = text; }
+    /// The warning shown last; "" once something was taken.
+    [[nodiscard]] const CString& GetShownWarning() const { return m_shownWarning; }
+
+    int SetCurrentCell(int row, int column) override;
+    /// Makes a row current, at the current column if that is possible, and calls OnCurrentRowChanged if it is another one.
+    /// Returns 0 if it can't.
+    int MakeRowCurrent(int row);
+    /// Calls OnCurrentRowChanged for the current row, whether it is another one or not.
+    void ShowCurrentRow();
+
+    /// The value of an expression of numbers, + - * / ^ and parentheses, with "%.15g"; any other text, plain numbers too, as it is.
+    static CString ConvertFormulaToValue(const CString& text);
+    /// Whether a text is a number or such an expression. An empty text passes.
+    /// @param reason  0; 1 bad formula, 2 stray character, 3 too big: not finite, or above 1e30
+    static bool IsValidDoubleNumber(const CString& text, int& reason);
+
+    CString TextAt(int row, int index) const override;
+    void SetTextAt(int row, int index, const CString& text) override;
+    void SetRowTexts(int row, const CArray<CString>& texts) override;
+    CString GetShownText(int row, int index) const override;
+    void fillRows(int firstRow, int lastRow) override;
+
+    // The user's channel: rows and columns from 0 (`append` for the append row). A cell or row that is refused with a warning
+    // counts as carried out: the warning goes to the user interface, and the cell or row stays open.
+
+    /// Opens a cell, types a text and leaves it.
+    zel::Taken typeCell(int row, int column, const CString& text);
+    /// The same in steps, for an editor on a screen.
+    zel::Taken openCell(int row, int column);
+    zel::Taken typeText(const CString& text);
+    zel::Taken leaveCell();
+    /// Clicks into a cell: makes it current. In a frozen column it selects the row.
+    zel::Taken clickCell(int row, int column);
+    zel::Taken doubleClickCell(int row, int column);
+    zel::Taken rightDoubleClickCell(int row, int column);
+    zel::Taken doubleClick(int row) override;
+    /// Presses the button in a cell.
+    zel::Taken pressCell(int row, int column);
+    /// Selects whole rows.
+    zel::Taken select(const std::vector<int>& rows) override;
+    /// Leaves the row under edit: it is tested and written.
+    zel::Taken leaveRow();
+    /// Gives the open cell up; with none open, the row under edit.
+    zel::Taken escape();
+    zel::Taken deleteRows(const std::vector<int>& rows);
+    zel::Taken dropText(int row, int column, const CString& text);
+    zel::Taken resizeColumn(int column, int width);
+
+    void onDestroying() override;
+
+protected:
+    struct RowEdit {
+        bool append = false;
+        int row = 0;               ///< of a data row; the append row has none
+        CArray<CString> texts;     ///< of all columns, what has been typed included
+        bool typed = false;        ///< something differs from the stored texts, or was typed into the append row
+        bool open = false;         ///< a cell is open ...
+        int index = -1;            ///< ... of this column
+        CString cell;              ///< ... with this text
+        bool cellTyped = false;    ///< something was typed into it
+        bool writing = false;      ///< AddToDB or ModifyToDB is running
+    };
+
+    /// Leaves the cell and the row as needed to go elsewhere. False, with the warning shown, if they are refused.
+    bool closeCell();
+    bool closeRow();
+    void cancelCell();
+    void cancelRow();
+    /// Makes a cell current for the user. False if what is open does not let go.
+    bool goTo(int row, int column);
+    /// The same for a row as a whole; a row without any valid cell becomes current too.
+    bool goToRow(int row);
+    void showWarning();
+    /// Tells OnCurrentRowChanged if the current row is another one than before.
+    void tellCurrentRow();
+    void selectByUser(const CArray<int>& rows);
+    /// A row and column of the user's channel, in the grid's numbers; a refusal where there is no such cell.
+    zel::Taken toCell(int row, int column, int& gridRow, int& gridColumn) const;
+    /// The same for rows as a whole: data rows, each once.
+    zel::Taken toRows(const std::vector<int>& rows, CArray<int>& gridRows) const;
+    /// Refusal of a cell that takes no text; then of a text that the cell does not offer.
+    zel::Taken editable(int row, int column) const;
+    zel::Taken offers(int row, int index, const CString& text) const;
+    /// Refusal of a change that the grid as a whole does not take.
+    zel::Taken changeable() const;
+    [[nodiscard]] CString userName(int row, int index) const;
+    [[nodiscard]] CArray<CString> newRowTexts();
+    /// A row's texts as they are written: with values in place of formulas.
+    [[nodiscard]] CArray<CString> writtenTexts(const CArray<CString>& texts) const;
+    /// Whether rows were changed by `write`, as the record's notice does.
+    template <class Write> bool touchesRows(Write write)
+    {
+        m_rowsTouched = false;
+        write();
+        return m_rowsTouched;
+    }
+    [[nodiscard]] bool isWriting() const { return m_edit.has_value() && m_edit->writing; }
+    void track(CArray<int> rows) { m_tracked = std::move(rows); }
+    [[nodiscard]] CArray<int> takeTracked() { return std::exchange(m_tracked, {}); }
+
+    /// Puts a row that the browser has to mirror by itself where it belongs.
+    virtual void mirrorAdded(const CArray<CString>& texts);
+    virtual void mirrorChanged(int row, const CArray<CString>& texts);
+
+    bool onKey(zel::UserKey key) override;
+    int editedRow() const override;
+    void fillRow(int row) override;
+    void rowInserted(int row) override;
+    void rowDeleted(int row) override;
+    void rowsReset() override;
+    void rowsMoved(const std::vector<int>& place) override;
+
+private:
+    void openEdit(int row);
+    bool leaveFor(int& row, int index);
+    bool writeRow();
+    void goOn();
+    void goDown();
+
+    std::optional<RowEdit> m_edit;
+    CArray<int> m_tracked;     ///< rows that are followed on their way while the row under edit is written
+    bool m_rowsTouched = false;    ///< the grid of the program has changed rows since this was cleared
+    int m_toldRow = 0;         ///< row that OnCurrentRowChanged was last told of
+    bool m_displayOnly = false;
+    bool m_writeEachCell = false;
+    bool m_onDemand = false;
+    bool m_convertingEdit = false;
+    bool m_rebuilding = false;
+    CString m_warning;
+    CString m_shownWarning;
+};
+
+namespace zel {
+
+/// An update of a grid's rows, such as a change notice asks for: painting is locked, and at the end the current cell is the same
+/// row number and column as before, or the last row, or the next valid cell to the right or left; not so while the append row
+/// is being written. If the current row then has another key, OnCurrentRowChanged is told.
+class GridUpdate {
+public:
+    explicit GridUpdate(CTBBrowserWnd& grid);
+    GridUpdate(const GridUpdate&) = delete;
+    GridUpdate& operator=(const GridUpdate&) = delete;
+    ~GridUpdate();
+
+private:
+    [[nodiscard]] CString currentKey() const;
+
+    CTBBrowserWnd& m_grid;
+    int m_row = 0;
+    int m_column = 0;
+    bool m_onAppendRow = false;
+    CString m_key;
+};
+
+}  // namespace zel

@@ -1,0 +1,87 @@
+#include "contract/forms/edit.h"
+
+#include "contract/forms/dialog.h"
+#include "contract/forms/field_writer.h"
+#include "contract/format_text.h"
+
+using zel::Taken;
+
+CEdit::CEdit(const zel::Place& place, std::string_view id, CString label, zel::Action<> onChange)
+    : Control(place, id, std::move(label)), m_onChange(std::move(onChange))
+{
+}
+
+void CEdit::SetSel(int start, int end)
+{
+    const int length = static_cast<int>(GetWindowText().size());
+    m_selection = {start, end < 0 ? length : end};
+    changed();
+}
+
+void CEdit::SetReadOnly(bool readOnly)
+{
+    m_readOnly = readOnly;
+    changed();
+}
+
+void CEdit::SetWindowText(const CString& text)
+{
+    m_selection = {0, 0};
+    Control::SetWindowText(text);
+}
+
+Taken CEdit::type(const CString& text)
+{
+    if (Taken reached = reach(); !reached)
+        return reached;
+    if (m_readOnly)
+        return refuse("is read-only");
+    if (const CString reason = objection(text); !reason.empty())
+        return refuse(reason);
+    const zel::UserAction action;
+    SetWindowText(text);
+    fire(m_onChange);
+    return {};
+}
+
+Taken CEdit::set(const zel::UserValue& value)
+{
+    CString text;
+    if (const auto* number = std::get_if<double>(&value))
+        text = zel::formatText("%.15g", *number);
+    else if (const auto* typed = std::get_if<CString>(&value))
+        text = *typed;
+    else
+        return refuse("takes a text");
+
+    const zel::UserAction action;
+    if (Taken focused = focus(); !focused)
+        return focused;
+    if (Taken typed = type(text); !typed)
+        return typed;
+    return leave();
+}
+
+bool CEdit::onKey(zel::UserKey key)
+{
+    const zel::Action<>& action = key == zel::UserKey::enter ? m_onEnter : m_onEscape;
+    if (key == zel::UserKey::tab || !action)
+        return false;
+    fire(action);
+    return true;
+}
+
+void CEdit::describe(zel::IFieldWriter& writer) const
+{
+    writer.text("value", GetWindowText());
+}
+
+CStatic::CStatic(const zel::Place& place, std::string_view id, CString text) : Control(place, id, {})
+{
+    m_text = std::move(text);
+}
+
+void CStatic::describe(zel::IFieldWriter& writer) const
+{
+    writer.text("value", GetWindowText());
+}
