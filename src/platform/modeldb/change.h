@@ -64,7 +64,7 @@ public:
     virtual ~ChangeSink() = default;
 
     /// Returns 0 when the file refused it; nothing is changed then.
-    virtual int make(const CString& name, Batch batch) = 0;
+    virtual int make(const CString& name, Batch&& batch) = 0;
 
     /// The records of other tables that forbid deleting the given ones, in words; empty if none does.
     [[nodiscard]] virtual CString usersOf(Table table, const std::vector<Key>& keys) const = 0;

@@ -164,7 +164,7 @@ void ModelDocument::tell(const ChangeRecord& change, long long hint)
 
 // ---- changes ---------------------------------------------------------------------------------------------------------
 
-int ModelDocument::make(const CString& name, Batch batch)
+int ModelDocument::make(const CString& name, Batch&& batch)
 {
     beginChange(name);
     const bool done = perform(std::move(batch));

@@ -70,7 +70,7 @@ private:
     explicit ModelDocument(const T_UNIT_INDEX& units, std::unique_ptr<ModelFile> file);
 
     // ChangeSink
-    int make(const CString& name, Batch batch) override;
+    int make(const CString& name, Batch&& batch) override;
     [[nodiscard]] CString usersOf(Table table, const std::vector<Key>& keys) const override;
 
     [[nodiscard]] bool perform(Batch batch);
