@@ -1,0 +1,32 @@
+#include "command/dialog_class.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace zel {
+
+namespace {
+
+// Function-local, because dialog classes enter themselves while the library loads, in no particular order.
+std::vector<DialogClass>& dialogClasses()
+{
+    static std::vector<DialogClass> classes;
+    return classes;
+}
+
+}  // namespace
+
+const DialogClass* findDialogClass(std::string_view name)
+{
+    const std::vector<DialogClass>& classes = dialogClasses();
+    const auto found = std::ranges::find(classes, name, &DialogClass::name);
+    return found == classes.end() ? nullptr : &*found;
+}
+
+bool enterDialogClass(const DialogClass& dialogClass)
+{
+    dialogClasses().push_back(dialogClass);
+    return true;
+}
+
+}  // namespace zel
