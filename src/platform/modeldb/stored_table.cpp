@@ -132,7 +132,10 @@ int StoredTable::add(int kind, const std::vector<Key>& keys, const std::vector<R
         const std::int32_t itsPlace = before ? recordPlace(m_info, before.get()) : ++place;
         batch.steps.push_back({before ? key : 0, key, kind, before, withKeptFields(m_info, records[i], kind, key, itsPlace)});
     }
-    return acceptable(kind, batch.steps) ? m_sink.make(describeChange("Add", batch.steps), std::move(batch)) : 0;
+    if (!acceptable(kind, batch.steps))
+        return 0;
+    const CString name = describeChange("Add", batch.steps);
+    return m_sink.make(name, std::move(batch));
 }
 
 int StoredTable::modify(int kind, const std::vector<Key>& oldKeys, const std::vector<Key>& newKeys, const std::vector<RecordPtr>& records)
@@ -166,7 +169,10 @@ int StoredTable::modify(int kind, const std::vector<Key>& oldKeys, const std::ve
         if (!users.empty())
             return refuse(Refusal::inUse, users);
     }
-    return acceptable(kind, batch.steps) ? m_sink.make(describeChange("Modify", batch.steps), std::move(batch)) : 0;
+    if (!acceptable(kind, batch.steps))
+        return 0;
+    const CString name = describeChange("Modify", batch.steps);
+    return m_sink.make(name, std::move(batch));
 }
 
 int StoredTable::remove(int kind, const std::vector<Key>& keys)
