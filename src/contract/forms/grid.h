@@ -150,7 +150,7 @@ public:
     int SetDownValidCell(int row, int column);
 
     /// The rows that are selected as a whole, in the order in which they were selected.
-    [[nodiscard]] const CArray<int>& GetSelectedRows() const { return m_selected; }
+    [[nodiscard]] const CArray<int>& GetSelectedRows() const;
     void SelectRows(const CArray<int>& rows);
     void ResetSelection();
 
@@ -193,7 +193,6 @@ protected:
         m_currentRow = row;
         repaint();
     }
-    void setSelected(CArray<int> selected) { m_selected = std::move(selected); }
 
     /// The text that is kept for a cell, whatever is being typed.
     [[nodiscard]] CString storedText(int row, int index) const;
@@ -225,7 +224,8 @@ private:
     std::vector<int> m_order;    ///< indices in their order on screen
     std::unique_ptr<zel::GridRowStore> m_rows;
     std::map<std::pair<int, int>, zel::GridCellStyle> m_styles;    ///< by row and index
-    CArray<int> m_selected;
+    mutable CArray<int> m_selected;           ///< as the rows say ...
+    mutable bool m_selectionStale = false;    ///< ... unless rows have come or gone since
     int m_currentRow = 0;
     int m_currentIndex = -1;
     int m_rowHeaderWidth = 35;

@@ -101,7 +101,7 @@ public:
     /// Whether a row is under edit.
     [[nodiscard]] bool IsEdit() const { return m_edit.has_value() && !m_edit->writing; }
     /// Whether the append row is under edit or being written.
-    [[nodiscard]] bool IsAppend() const { return m_edit.has_value() && m_edit->append; }
+    [[nodiscard]] bool IsAppend() const { return m_edit.has_value() && m_edit->added; }
     /// Row under edit; 0 if there is none.
     [[nodiscard]] int GetEditRow() const { return editedRow(); }
     /// Column index of the open cell; -1 if none is open.
@@ -118,6 +118,7 @@ public:
 
     /// The text that is shown when a cell or a row is refused; ValidateField and ValidateRecord set it.
     void SetWarningText(const CString& text) { m_warning = text; }
+    [[nodiscard]] const CString& GetWarningText() const { return m_warning; }
     /// The warning shown last; "" once something was taken.
     [[nodiscard]] const CString& GetShownWarning() const { return m_shownWarning; }
 
@@ -170,8 +171,8 @@ public:
 
 protected:
     struct RowEdit {
-        bool append = false;
-        int row = 0;               ///< of a data row; the append row has none
+        bool added = false;        ///< it is the append row
+        int row = 0;               ///< of a data row; 0 for the append row, and for a row that has gone while it was written
         CArray<CString> texts;     ///< of all columns, what has been typed included
         bool typed = false;        ///< something differs from the stored texts, or was typed into the append row
         bool open = false;         ///< a cell is open ...
@@ -215,8 +216,17 @@ protected:
         return m_rowsTouched;
     }
     [[nodiscard]] bool isWriting() const { return m_edit.has_value() && m_edit->writing; }
-    void track(CArray<int> rows) { m_tracked = std::move(rows); }
-    [[nodiscard]] CArray<int> takeTracked() { return std::exchange(m_tracked, {}); }
+    /// Does something that may make rows come and go, and lets the given rows follow their records. Meanwhile `followed` tells
+    /// where the i-th of them stands.
+    template <class Work> void following(CArray<int>& followed, Work work)
+    {
+        const std::size_t first = m_tracked.size();
+        m_tracked.insert(m_tracked.end(), followed.begin(), followed.end());
+        work();
+        followed.assign(m_tracked.begin() + static_cast<std::ptrdiff_t>(first), m_tracked.end());
+        m_tracked.resize(first);
+    }
+    [[nodiscard]] int followed(std::size_t i, std::size_t count) const { return m_tracked[m_tracked.size() - count + i]; }
 
     /// Puts a row that the browser has to mirror by itself where it belongs.
     virtual void mirrorAdded(const CArray<CString>& texts);
@@ -231,6 +241,8 @@ protected:
     void rowsMoved(const std::vector<int>& place) override;
 
 private:
+    /// Goes to a cell and opens it. False if what is open elsewhere does not let go.
+    bool openAt(int row, int column);
     void openEdit(int row);
     bool leaveFor(int& row, int index);
     bool writeRow();
