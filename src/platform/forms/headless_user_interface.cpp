@@ -199,6 +199,12 @@ bool HeadlessUserInterface::startProcess(const CString& commandLine)
     return processesStart;
 }
 
+void HeadlessUserInterface::gridWarning(Control& /*grid*/, const CString& text)
+{
+    warnings.push_back(text);
+    events.push_back("warning " + text);
+}
+
 void HeadlessUserInterface::modelingMode(int mode)
 {
     events.push_back("mode " + std::to_string(mode));

@@ -65,6 +65,7 @@ public:
     std::vector<CString> histories;
     std::vector<CString> fileFilters;
     std::vector<CString> processes;
+    std::vector<CString> warnings;    ///< of grids
     std::vector<int> preferencePages;
     HeadlessModelView view;
 
@@ -108,6 +109,7 @@ public:
     [[nodiscard]] CString programFolder() const override { return folder; }
     [[nodiscard]] std::chrono::system_clock::time_point now() const override { return clock; }
     [[nodiscard]] std::uint64_t physicalMemory() const override { return memory; }
+    void gridWarning(Control& grid, const CString& text) override;
     void modelingMode(int mode) override;
 
 private:
