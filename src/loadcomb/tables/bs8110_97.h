@@ -2,7 +2,11 @@
 
 #include "loadcomb/tables/code_table.h"
 
-// BS8110-97: 11 rows, all of strength. No seismic factors, wind sets or underground sets are read.
+// BS8110-97: structural use of concrete, British Standards Institution, edition of 1997. 11 rows, all of strength.
+//
+// Covered: dead, live, roof live, wind, earthquake, earth and water pressure.
+// Left out: service rows, snow, rain, fluid, EH, EV. The rows are the same for every type of combinations; no seismic factors, wind sets
+// or underground sets are read.
 namespace zel::codes {
 
 inline constexpr Row bs8110_97_rows[] = {

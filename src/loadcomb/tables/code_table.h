@@ -160,6 +160,18 @@ enum class Reads : std::uint8_t { nothing = 0, windSets = 1, undergroundSets = 2
 constexpr Reads operator|(Reads left, Reads right) { return static_cast<Reads>(static_cast<unsigned>(left) | static_cast<unsigned>(right)); }
 constexpr bool reads(Reads all, Reads one) { return (static_cast<unsigned>(all) & static_cast<unsigned>(one)) != 0; }
 
+/// The factor that is printed as 2/3, in service rows that end in "/1.5".
+inline constexpr double twoThirds = 0.6666666666666666;
+
+/// The factor that is printed as 1/1.35, in service rows that end in "/1.35".
+inline constexpr double over1_35 = 0.7407407407407407;
+
+/// The factor that the earlier and foreign codes print as 1.05: three quarters of 1.4, one step below the decimal. All other printed
+/// decimals are the numbers themselves.
+inline constexpr double near1_05 = 0.75 * 1.4;
+
+static_assert(twoThirds == 2.0 / 3.0 && over1_35 == 1.0 / 1.35 && near1_05 == 1.0499999999999998);
+
 /// Rows that are added one after the other, if `when` holds after the reading.
 struct Part {
     std::string_view title;
