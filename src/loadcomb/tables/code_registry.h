@@ -8,7 +8,10 @@
 #include "loadcomb/tables/bs8110_97.h"
 #include "loadcomb/tables/csa_a23_3_94.h"
 #include "loadcomb/tables/gb50010_02.h"
+#include "loadcomb/tables/kbc_kds.h"
 #include "loadcomb/tables/kbc_usd05.h"
+#include "loadcomb/tables/kbc_usd09.h"
+#include "loadcomb/tables/kci_usd12.h"
 #include "loadcomb/tables/kci_usd99.h"
 #include "loadcomb/tables/ksce_usd96.h"
 #include "loadcomb/tables/unnamed_first.h"
@@ -28,6 +31,11 @@ struct CodeEntry {
 // for codes that have no name yet (unnamed_first.h, unnamed_second.h): they are included here and stand in no line.
 inline constexpr CodeEntry codeRegistry[] = {
     {"AIK-USD94", &aik_usd94},
+    {"KBC-USD16", &kbc_usd16},
+    {"KDS 41 30 : 2018", &kds_41_30_2018, &kds_41_30_2018_load_code_0},
+    {"KDS 41 20 : 2022", &kds_41_20_2022},
+    {"KCI-USD12", &kci_usd12},
+    {"KBC-USD09", &kbc_usd09},
     {"KBC-USD05", &kbc_usd05},
     {"KCI-USD99", &kci_usd99},
     {"KSCE-USD96", &ksce_usd96},
