@@ -11,7 +11,7 @@ function(zel_sources result root)
 endfunction()
 
 # zel_library(name SHARED|STATIC [HIDDEN] FOLDERS ... [USES ...] [HIDES ...])
-# HIDDEN: only what is marked for export is visible, and no symbol may stay unresolved.
+# HIDDEN: only what is marked for export is visible. No symbol of a shared library may stay unresolved.
 # A library whose folders hold no source yet only passes its arrows on.
 function(zel_library name kind)
     cmake_parse_arguments(arg "HIDDEN" "" "FOLDERS;USES;HIDES" ${ARGN})
@@ -27,9 +27,9 @@ function(zel_library name kind)
     target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE ${arg_HIDES})
     if(arg_HIDDEN)
         set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
-        if(NOT ZEL_SANITIZE OR NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")    # clang links its sanitizer into the program only
-            target_link_options(${name} PRIVATE -Wl,--no-undefined)
-        endif()
+    endif()
+    if(kind STREQUAL SHARED AND NOT (ZEL_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))  # clang links its sanitizer into programs only
+        target_link_options(${name} PRIVATE -Wl,--no-undefined)
     endif()
 endfunction()
 
