@@ -20,6 +20,7 @@ const char* keyOf(Refusal reason)
     case Refusal::notFinite: return "IDS_DB_REFUSE_NOT_FINITE";
     case Refusal::badKind: return "IDS_DB_REFUSE_BAD_KIND";
     case Refusal::fileWrite: return "IDS_DB_REFUSE_FILE_WRITE";
+    case Refusal::fileRead: return "IDS_DB_REFUSE_FILE_READ";
     }
     return "";
 }

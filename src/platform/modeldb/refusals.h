@@ -5,7 +5,7 @@
 namespace zel {
 
 /// Why the model refuses a change, told to the user in a message box.
-enum class Refusal { duplicateName, emptyName, nameTooLong, keyExists, noRecord, inUse, notFinite, badKind, fileWrite };
+enum class Refusal { duplicateName, emptyName, nameTooLong, keyExists, noRecord, inUse, notFinite, badKind, fileWrite, fileRead };
 
 /// Tells the user. `detail` fills the placeholder of a text; `number` that of a numeric one.
 /// @return 0, the result of a refused operation
