@@ -1,0 +1,175 @@
+#include "load/cm_load_case_dlg.h"
+
+#include "command/dialog_class.h"
+#include "command/messages.h"
+#include "contract/document.h"
+#include "contract/load_db.h"
+#include "contract/number_text.h"
+
+#include <algorithm>
+
+namespace {
+
+// How sub-load cases are combined.
+constexpr std::uint32_t add = 0;
+constexpr std::uint32_t srssOfAbsolutes = 1;
+constexpr std::uint32_t srssWithMaximum = 2;
+constexpr std::uint32_t srssWithMajorCase = 3;
+
+/// Numbers beyond it can be typed, but are not listed one by one.
+constexpr int mostListedCases = 100000;
+
+}  // namespace
+
+ZEL_DIALOG(CCMLoadCaseDlg)
+
+CCMLoadCaseDlg::CCMLoadCaseDlg(CWnd* parent) : CDBDlgBase(14047, "Static Load Cases", parent)
+{
+    combinationType.enabledWhen([this] { return SubLoadCaseCount() >= 1; });
+    majorCase.enabledWhen([this] { return HasMajorCase(); });
+}
+
+CCMLoadCaseDlg::~CCMLoadCaseDlg() = default;
+
+int CCMLoadCaseDlg::OnInitDialog()
+{
+    CDBDlgBase::OnInitDialog();
+    grid.Initialize();
+    InitTypes();
+    subLoadCaseCount.SetWindowText("0");
+    InitCombinationTypes();
+    RefreshMajorCases();
+    subLoadCaseSpin.SetRange(0, 100);
+    return 1;
+}
+
+void CCMLoadCaseDlg::InitTypes()
+{
+    const CLoadDB& catalogue = *m_pDoc->GetLoadDB();
+    catalogue.GetLoadTypeList(&m_types);
+    type.ResetContent();
+    for (const CString& code : m_types)
+        type.AddString(catalogue.GetLoadTypeName(code));
+}
+
+void CCMLoadCaseDlg::InitCombinationTypes()
+{
+    combinationType.ResetContent();
+    combinationType.AddString(zel::loadText("IDS_CMD_STLD_ADD"), ::add);
+    combinationType.AddString(zel::loadText("IDS_CMD_STLD_SRSS_ABS"), srssOfAbsolutes);
+    combinationType.AddString(zel::loadText("IDS_CMD_STLD_SRSS_MAX"), srssWithMaximum);
+    combinationType.AddString(zel::loadText("IDS_CMD_STLD_SRSS_MAJOR"), srssWithMajorCase);
+    combinationType.SetCurSel(combinationType.FindData(srssWithMaximum));
+}
+
+int CCMLoadCaseDlg::SubLoadCaseCount() const
+{
+    int count = 0;
+    return CEditUnit::GetEditValue(&subLoadCaseCount, count) != 0 ? count : 0;
+}
+
+bool CCMLoadCaseDlg::HasMajorCase() const
+{
+    return SubLoadCaseCount() >= 1 && combinationType.selectedData() == srssWithMajorCase;
+}
+
+/// Lists the numbers of the sub-load cases, where one can be the major one. What was selected stays, also when the list has just
+/// become too short for it by one.
+void CCMLoadCaseDlg::RefreshMajorCases()
+{
+    const int count = SubLoadCaseCount();
+    const int selected = majorCase.GetCurSel();
+    majorCase.ResetContent();
+    if (!HasMajorCase())
+        return;
+    for (int number = 1; number <= std::min(count, mostListedCases); ++number)
+        majorCase.AddString(std::to_string(number));
+    majorCase.SetCurSel(selected >= 0 && selected <= count ? selected : 0);
+}
+
+bool CCMLoadCaseDlg::Dlg2Data()
+{
+    m_record.Initialize();
+    m_record.name = name.GetWindowText();
+    const int line = type.GetCurSel();
+    if (line < 0)
+        return false;
+    m_record.type = m_types[static_cast<std::size_t>(line)];
+    m_record.description = description.GetWindowText();
+    if (selfWeightFactor.GetEditValue(m_record.selfWeightFactor) == 0) {
+        zel::showMessage("IDS_ZEL_CMD__Error___Invalid_Self_Weight_Factor_");
+        return false;
+    }
+    m_record.subLoadCaseCount = zel::number::readInteger(subLoadCaseCount.GetWindowText()).value_or(0);
+    m_record.combinationType = static_cast<std::uint32_t>(combinationType.selectedData());
+    m_record.majorCase = majorCase.GetCurSel() + 1;
+    return true;
+}
+
+void CCMLoadCaseDlg::Data2Dlg()
+{
+    const auto found = std::ranges::find(m_types, m_record.type);
+    if (found == m_types.end())
+        return;
+    name.SetWindowText(m_record.name);
+    type.SetCurSel(static_cast<int>(found - m_types.begin()));
+    description.SetWindowText(m_record.description);
+    selfWeightFactor.SetEditUnit(m_record.selfWeightFactor);
+    subLoadCaseCount.SetWindowText(std::to_string(m_record.subLoadCaseCount));
+    combinationType.SetCurSel(combinationType.FindData(m_record.combinationType));
+    RefreshMajorCases();
+    if (m_record.majorCase > 0)
+        majorCase.SetCurSel(m_record.majorCase - 1);
+}
+
+void CCMLoadCaseDlg::ShowLoadCase(zel::Key key)
+{
+    if (CDataStld().Get(key, m_record) != 0)
+        Data2Dlg();
+}
+
+void CCMLoadCaseDlg::OnAdd()
+{
+    if (!Dlg2Data()) {
+        zel::showMessage("IDS_ZEL_CMD__Error___Input_data_error_");
+        return;
+    }
+    CDataStld data;
+    const CString added = m_record.name;
+    if (data.Add(m_record) != 0 && data.Get(added) != 0)
+        grid.ShowLoadCase(data.currentKey, data.currentRecord);
+    name.SetFocus();
+    name.SetSel(0, -1);
+}
+
+void CCMLoadCaseDlg::OnModify()
+{
+    CDataStld data;
+    if (data.Get(grid.GetCurrentKey()) == 0) {
+        zel::showMessage("IDS_ZEL_CMD__Error___No_selected_static_load_case_");
+        return;
+    }
+    const CString oldName = data.currentRecord.name;
+    if (!Dlg2Data())
+        return;
+    m_record.no = data.currentRecord.no;
+    data.currentRecord = m_record;
+    data.Modify(oldName);
+}
+
+void CCMLoadCaseDlg::OnDelete()
+{
+    const CArray<int> selected = grid.GetSelectedRows();
+    if (!selected.empty())
+        grid.DeleteFromDB(selected);
+    else if (grid.IsDataRow(grid.GetCurrentRow()))
+        grid.DeleteFromDB(grid.GetCurrentRow());
+    else
+        zel::showMessage("IDS_ZEL_CMD__Error___No_selected_static_load_case_");
+}
+
+int CCMLoadCaseDlg::DestroyWindow()
+{
+    grid.OnTerminate(2);
+    return CDBDlgBase::DestroyWindow();
+}

@@ -1,0 +1,359 @@
+#include "load/cm_load_case_grid.h"
+
+#include "command/messages.h"
+#include "command/view_buffer.h"
+#include "contract/document.h"
+#include "contract/load_db.h"
+#include "contract/number_text.h"
+#include "load/cm_load_case_dlg.h"
+
+#include <algorithm>
+
+namespace {
+
+// Indices of the columns.
+constexpr int keyColumn = 0;
+constexpr int noColumn = 1;
+constexpr int nameColumn = 2;
+constexpr int typeColumn = 3;
+constexpr int factorColumn = 4;
+constexpr int descriptionColumn = 5;
+
+/// Texts with which a new row begins, one for each column.
+const CArray<CString> defaultTexts(6);
+
+struct ColumnStyle {
+    const char* title;    ///< message key, or the title itself
+    zel::GridKind kind;
+    std::size_t unit;     ///< entry of the record's unit types
+    int width;
+    int places;           ///< decimals of a number; -1 for a text
+};
+
+constexpr ColumnStyle columnStyles[] = {
+    {"Key",                      zel::GridKind::integer, 0,   0,  0},
+    {"IDS_ZEL_CMD__No",          zel::GridKind::integer, 1,  40,  0},
+    {"IDS_ZEL_CMD__Name",        zel::GridKind::text,    0,  80, -1},
+    {"IDS_ZEL_CMD__Type",        zel::GridKind::text,    2, 135, -1},
+    {"IDS_ZEL_CMD__Factor",      zel::GridKind::real,    4,  60,  2},
+    {"IDS_ZEL_CMD__Description", zel::GridKind::text,    3, 178, -1},
+};
+
+const CLoadDB& loadTypes()
+{
+    return *CDBDoc::GetDocPoint()->GetLoadDB();
+}
+
+}  // namespace
+
+CCMLoadCaseGrid::CCMLoadCaseGrid(CCMLoadCaseDlg& dialog, std::string_view id) : CTBCommon(dialog, id), m_dialog(dialog) {}
+
+void CCMLoadCaseGrid::Initialize()
+{
+    RemoveColumns();
+    for (const ColumnStyle& style : columnStyles) {
+        const int index = AddColInfo(zel::loadText(style.title), static_cast<int>(style.kind), T_STLD_D::unit[style.unit]);
+        SetColWidth(index, style.width);
+        SetColAlign(index, style.places < 0 ? zel::GridAlign::left : zel::GridAlign::right);
+        if (style.places >= 0)
+            SetColPlaces(index, style.places);
+    }
+    SetColHidden(keyColumn);
+    SetColResizable(keyColumn, false);
+    SetColDisabled(keyColumn);
+    SetColDisabled(noColumn);
+    SetColFrozen(noColumn);
+    SetSortColumns({noColumn, keyColumn});
+    SetRowDrag(true);
+    SetModeDisplayOnly(1);
+    CTBCommon::Initialize();
+}
+
+// Texts and records
+
+CArray<CString> CCMLoadCaseGrid::TextsOf(zel::Key key, const T_STLD_D& record)
+{
+    return {std::to_string(key), std::to_string(record.no), record.name, loadTypes().GetLoadTypeName(record.type),
+            RealText(record.selfWeightFactor), record.description};
+}
+
+bool CCMLoadCaseGrid::MakeKeyAndData(const CArray<CString>& texts, const CArray<int>& columns, zel::Key& key, T_STLD_D& record)
+{
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (!ValidateField(texts[i], columns[i]))
+            return false;
+    }
+    if (!ValidateRecord(texts, columns))
+        return false;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const CString text = ConvertFormulaToValue(texts[i]);
+        switch (columns[i]) {
+        case keyColumn:
+            key = static_cast<zel::Key>(std::max(0, zel::number::readInteger(text).value_or(0)));
+            break;
+        case noColumn:
+            record.no = zel::number::readInteger(text).value_or(0);
+            break;
+        case nameColumn:
+            record.name = text;
+            break;
+        case typeColumn:
+            record.type = loadTypes().GetLoadType(text);
+            break;
+        case factorColumn:
+            record.selfWeightFactor = RealOf(text);
+            break;
+        case descriptionColumn:
+            record.description = text;
+            break;
+        default:
+            break;
+        }
+    }
+    return true;
+}
+
+bool CCMLoadCaseGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys,
+                                          zel::GridValues& records)
+{
+    zel::Key key = 0;
+    T_STLD_D record;
+    if (!MakeKeyAndData(texts, columns, key, record))
+        return false;
+    keys.emplace_back(key);
+    records.emplace_back(record);
+    return true;
+}
+
+void CCMLoadCaseGrid::DeleteKeyAndDataArray(zel::GridValues& keys, zel::GridValues& records)
+{
+    keys.clear();
+    records.clear();
+}
+
+bool CCMLoadCaseGrid::ValidateField(const CString& /*text*/, int column)
+{
+    if (column < GetColCount())
+        return true;
+    SetWarningText(zel::loadText("IDS_ZEL_CMD___CCMLoadCaseGrid__ValidateField__Error"));
+    return false;
+}
+
+bool CCMLoadCaseGrid::ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns)
+{
+    CArray<CString> checkedTexts;
+    CArray<int> checked;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i] == nameColumn || columns[i] == typeColumn || columns[i] == factorColumn) {
+            checked.push_back(columns[i]);
+            checkedTexts.push_back(texts[i]);
+        }
+    }
+    return ValidateTexts(checkedTexts, checked, zel::loadText("IDS_ZEL_CMD___has_not_been_entered_"), Fields::passOver);
+}
+
+// The table
+
+CString CCMLoadCaseGrid::GetNewKey()
+{
+    return std::to_string(CDataStld().GetNewKey());
+}
+
+const CArray<CString>& CCMLoadCaseGrid::GetDefValueArray()
+{
+    return defaultTexts;
+}
+
+bool CCMLoadCaseGrid::AddToDB(int row)
+{
+    zel::Key key = 0;
+    T_STLD_D record;
+    return MakeKeyAndData(GetRowTexts(row), GetAllColumns(), key, record) && CDataStld().Add(record) != 0;
+}
+
+bool CCMLoadCaseGrid::AddToDB(const zel::GridValues& /*keys*/, const zel::GridValues& records)
+{
+    std::vector<T_STLD_D> added;
+    for (const std::any& record : records)
+        added.push_back(std::any_cast<const T_STLD_D&>(record));
+    return CDataStld().Add(added) != 0;
+}
+
+bool CCMLoadCaseGrid::ModifyToDB(int row)
+{
+    CDataStld data;
+    const CString oldName = TextBeforeEdit(row, nameColumn);
+    if (data.Get(oldName) == 0)
+        return false;
+    const zel::Key oldKey = data.currentKey;
+    zel::Key key = 0;
+    if (!MakeKeyAndData(GetRowTexts(row), GetAllColumns(), key, data.currentRecord))
+        return false;
+    data.currentKey = key != 0 ? key : oldKey;
+    return data.Modify(oldName) != 0;
+}
+
+bool CCMLoadCaseGrid::ModifyToDB(const zel::GridValues& oldKeys, const zel::GridValues& /*keys*/, const zel::GridValues& records)
+{
+    CDataStld data;
+    std::vector<CString> oldNames;
+    std::vector<T_STLD_D> changed;
+    for (std::size_t i = 0; i < oldKeys.size(); ++i) {
+        T_STLD_D stored;
+        if (data.Get(std::any_cast<zel::Key>(oldKeys[i]), stored) == 0)
+            return false;
+        oldNames.push_back(stored.name);
+        const auto& texts = std::any_cast<const T_STLD_D&>(records[i]);
+        stored.name = texts.name;
+        stored.type = texts.type;
+        stored.selfWeightFactor = texts.selfWeightFactor;
+        stored.description = texts.description;
+        changed.push_back(stored);
+    }
+    return data.Modify(oldNames, changed) != 0;
+}
+
+bool CCMLoadCaseGrid::DeleteFromDB(int row)
+{
+    return CDataStld().Del(TextAt(row, nameColumn)) != 0;
+}
+
+bool CCMLoadCaseGrid::DeleteFromDB(const CArray<int>& rows)
+{
+    if (rows.empty())
+        return true;
+    std::vector<CString> names;
+    for (const int row : rows)
+        names.push_back(TextBeforeEdit(row, nameColumn));
+    return CDataStld().Del(names) != 0;
+}
+
+int CCMLoadCaseGrid::GetCountData()
+{
+    return CDataStld().GetCount();
+}
+
+void CCMLoadCaseGrid::MakeItemNormal(int count, const CArray<int>& /*columns*/)
+{
+    std::vector<zel::Key> keys;
+    std::vector<T_STLD_D> records;
+    CDataStld().GetList(keys, records);
+    for (int row = 1; row <= count; ++row) {
+        const auto place = static_cast<std::size_t>(row - 1);
+        SetRowTexts(row, TextsOf(keys[place], records[place]));
+        SetRowKey(row, keys[place]);
+    }
+}
+
+void CCMLoadCaseGrid::MakeItemFiltered(int /*count*/, const CArray<int>& rows, const CArray<int>& /*columns*/)
+{
+    CDataStld data;
+    for (const int row : rows) {
+        if (data.Get(GetRowKey(row)) != 0)
+            SetRowTexts(row, TextsOf(data.currentKey, data.currentRecord));
+    }
+}
+
+void CCMLoadCaseGrid::MakeItemEditingRecord(int row, const CArray<CString>& texts)
+{
+    CDataStld data;
+    data.Initialize();
+    if (!MakeKeyAndData(texts, GetAllColumns(), data.currentKey, data.currentRecord))
+        return;
+    data.ConvertUnitPrev();
+    SetRowTexts(row, TextsOf(data.currentKey, data.currentRecord));
+}
+
+// Following
+
+void CCMLoadCaseGrid::InsertRow(const CDataStld& data)
+{
+    int row = 0;
+    FindRecordByKey(SortTextsFor(data), row);
+    InsertRecord(row);
+    SetRowTexts(row, TextsOf(data.currentKey, data.currentRecord));
+    SetRowKey(row, data.currentKey);
+}
+
+void CCMLoadCaseGrid::DeleteRow(const CDataStld& data)
+{
+    int row = 0;
+    if (FindRecordByKey(SortTextsFor(data), row) != 0)
+        DeleteRecord(row);
+}
+
+void CCMLoadCaseGrid::UpdateBuffer(const CViewBuff& buffer)
+{
+    const zel::GridUpdate update(*this);
+    bool changed = false;
+    zel::readChanges(buffer, zel::TableWatch<CDataStld>{
+        .added = [&](const CDataStld& now) {
+            InsertRow(now);
+            changed = true;
+        },
+        .deleted = [&](const CDataStld& before) {
+            DeleteRow(before);
+            changed = true;
+        },
+        .modified = [&](const CDataStld& now, const CDataStld& before) {
+            DeleteRow(before);
+            InsertRow(now);
+            changed = true;
+        },
+    });
+    if (changed)
+        ResetSelection();
+}
+
+zel::Key CCMLoadCaseGrid::GetCurrentKey() const
+{
+    const int row = GetCurrentRow();
+    return IsDataRow(row) ? GetRowKey(row) : 0;
+}
+
+void CCMLoadCaseGrid::ShowLoadCase(zel::Key key, const T_STLD_D& record)
+{
+    int row = 0;
+    if (FindRecordByKey(SortTextsOf(TextsOf(key, record)), row) != 0 && MakeRowCurrent(row) != 0)
+        ShowCurrentRow();
+}
+
+void CCMLoadCaseGrid::OnCurrentRowChanged(int row)
+{
+    if (IsDataRow(row))
+        m_dialog.ShowLoadCase(GetRowKey(row));
+}
+
+// Dragging
+
+/// Always refuses the move: the grid itself moves nothing, since the notice of the new sequence rebuilds the rows.
+bool CCMLoadCaseGrid::OnSelDragRowsDrop(int /*firstRow*/, int /*lastRow*/, int targetRow)
+{
+    if (IsEdit()) {
+        zel::showMessage("IDS_ZEL_CMD__Error___Can_t_move_row_while_editing_");
+        return false;
+    }
+    const CArray<int> selected = GetSelectedRows();
+    if (selected.empty()) {
+        zel::showMessage("IDS_ZEL_CMD__Error___No_selected_static_load_case_");
+        return false;
+    }
+    const int behindAppendRow = GetRowCount() + 1;
+    const int afterRow = targetRow == behindAppendRow ? targetRow - 2 : targetRow - 1;
+    if (std::ranges::find(selected, afterRow) != selected.end()) {
+        zel::showMessage("IDS_ZEL_CMD__Error___Select_target_load_case_which_");
+        return false;
+    }
+    std::vector<zel::Key> keys;
+    for (const int row : selected)
+        keys.push_back(GetRowKey(row));
+    CDataStld().ChangeSequence(keys, afterRow == 0 ? 0 : GetRowKey(afterRow));
+    return false;
+}
+
+/// The key and the number stay in front.
+bool CCMLoadCaseGrid::OnSelDragColsDrop(int firstColumn, int /*lastColumn*/, int targetColumn)
+{
+    constexpr int lastFixedColumn = 2;
+    return firstColumn > lastFixedColumn && targetColumn > lastFixedColumn;
+}
