@@ -1,0 +1,30 @@
+#pragma once
+
+#include "loadcomb/tables/code_table.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What a code's table hands over for a model with one case in each of the named groups, as lines to be read beside the printed code:
+//
+//     service 2: DL 2/3, LL 2/3, WL 2/3
+//     strength 7: DL 0.75*1.4, LL 1.275, WL 1.275
+//     strength 2 with snow: DL 1.2, SL 1.4                       row 2 in the pass that takes SL for LR
+//     strength 40: DL 0.75*1.4 + S*V, LL 1.275, EL 1
+//
+// Only groups with cases stand in a line. A row that the model cannot feed is left out, as is a row with the flag and the factors of
+// an earlier one: the lines are the combinations of that model.
+namespace tables {
+
+using Lines = std::vector<std::string>;
+
+/// The lines of `table` for the groups of `groups`, "DL LL WL", and a type of combinations.
+Lines lines(const zel::codes::CodeTable& table, std::string_view groups, zel::codes::Word type = zel::codes::Word::typeStrength);
+
+/// Their row numbers alone, runs drawn together: "1-6 9 11-20", and behind "with snow" those of the pass that takes SL for LR.
+std::string rowNumbers(const zel::codes::CodeTable& table, std::string_view groups, zel::codes::Word type = zel::codes::Word::typeStrength);
+
+inline constexpr std::string_view everyGroup = "DL LL LR WL EL SL EEP RL FP EP WP EH EV";
+
+}  // namespace tables
