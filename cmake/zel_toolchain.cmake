@@ -23,6 +23,9 @@ if(ZEL_LLD)
 endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    add_compile_options(-Wno-restrict)    # false alarms on "text" + string: https://gcc.gnu.org/bugzilla/show_bug.cgi?id=105651
+endif()
 add_compile_definitions($<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
 if(ZEL_SANITIZE)

@@ -5,9 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
+#include <string>
 #include <type_traits>
-#include <vector>
 #include <xxhash.h>
 
 namespace zel {
@@ -47,8 +46,7 @@ public:
 
     template <class T> void put(T value)
     {
-        const auto* bytes = reinterpret_cast<const char*>(&value);
-        m_bytes.insert(m_bytes.end(), bytes, bytes + sizeof value);
+        m_bytes.append(reinterpret_cast<const char*>(&value), sizeof value);
     }
 
     void put(const FlatLayout& layout, const void* record)
@@ -79,7 +77,7 @@ private:
         case FieldType::text: {
             const auto& text = column.in<CString>(record);
             put(static_cast<std::uint64_t>(text.size()));
-            m_bytes.insert(m_bytes.end(), text.begin(), text.end());
+            m_bytes += text;
             break;
         }
         case FieldType::record:
@@ -87,7 +85,7 @@ private:
         }
     }
 
-    std::vector<char> m_bytes;
+    std::string m_bytes;
 };
 
 }  // namespace
