@@ -1,0 +1,44 @@
+#pragma once
+
+#include "contract/user_interface.h"
+
+#include <string>
+#include <vector>
+
+namespace zel::cli {
+
+/// The user interface of a job that runs without dialogs: it keeps what the model would tell a user, answers every
+/// question with OK or Yes, and opens nothing. It is installed while it lives.
+class Console final : public IUserInterface {
+public:
+    Console() : m_former(setUserInterface(this)) {}
+    ~Console() override { setUserInterface(m_former); }
+
+    /// What was told, joined by blanks; empty if nothing was.
+    [[nodiscard]] std::string messages() const;
+    [[nodiscard]] const std::vector<CString>& messageList() const { return m_messages; }
+
+    int messageBox(const CString& text, unsigned type) override;
+    bool openFile(const CString& /*filter*/, CString& /*path*/) override { return false; }
+    void runModal(CDialog& dialog) override;
+    void dialogOpened(CDialog& /*dialog*/) override {}
+    void dialogActivated(CDialog& /*dialog*/) override {}
+    void dialogClosed(CDialog& /*dialog*/) override {}
+    void sendCommand(unsigned /*number*/) override {}
+    void postCommand(unsigned /*number*/) override {}
+    void showPreferences(int /*page*/) override {}
+    void output(const CString& /*line*/) override {}
+    void history(const CString& /*line*/) override {}
+    void busy(const CString& /*text*/) override {}
+    bool startProcess(const CString& /*commandLine*/) override { return false; }
+    [[nodiscard]] CString programFolder() const override { return {}; }
+    [[nodiscard]] std::chrono::system_clock::time_point now() const override { return std::chrono::system_clock::now(); }
+    [[nodiscard]] std::uint64_t physicalMemory() const override { return 0; }
+    void modelingMode(int /*mode*/) override {}
+
+private:
+    IUserInterface* m_former;
+    std::vector<CString> m_messages;
+};
+
+}  // namespace zel::cli

@@ -1,0 +1,135 @@
+#include "cli/commands.h"
+
+#include "contract/units.h"
+
+#include <functional>
+#include <iostream>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+using namespace zel::cli;
+
+constexpr const char* version = "zel 0.1.0";
+
+using Job = std::function<int()>;
+
+/// A unit option, which takes the name of a unit in either case.
+void addUnit(CLI::App& command, const std::string& option, const std::string& what, std::int32_t& index, int count, const char* (*nameOf)(int))
+{
+    std::map<std::string, std::int32_t> names;
+    std::string list;
+    for (int i = 0; i < count; ++i) {
+        names[nameOf(i)] = i;
+        list += std::string(i > 0 ? ", " : "") + nameOf(i);
+    }
+    command.add_option(option, index, what + ": " + list)
+        ->transform(CLI::CheckedTransformer(names, CLI::ignore_case).description(""))
+        ->type_name("UNIT")
+        ->default_str(nameOf(index));
+}
+
+CLI::App& addCommand(CLI::App& app, const std::string& name, const std::string& what, const std::string& example)
+{
+    CLI::App& command = *app.add_subcommand(name, what);
+    command.footer("Example:\n  " + example);
+    return command;
+}
+
+void addNew(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "new", "Make a new empty model file", "zel new tower.qvx --length M --force KN");
+    auto options = std::make_shared<NewModel>();
+    command.add_option("MODEL", options->model, "the file to make; it must not exist")->required();
+    addUnit(command, "--length", "unit of length", options->units.length, zel::lengthUnitCount, zel::lengthUnitName);
+    addUnit(command, "--force", "unit of force", options->units.force, zel::forceUnitCount, zel::forceUnitName);
+    command.callback([options, &job] { job = [options] { return newModel(*options); }; });
+}
+
+void addInfo(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "info", "Check a model file and tell what is in it", "zel info tower.qvx");
+    auto options = std::make_shared<ModelInfo>();
+    command.add_option("MODEL", options->model, "the model file")->required();
+    command.add_flag("--json", options->json, "print one JSON object");
+    command.callback([options, &job] { job = [options] { return modelInfo(*options); }; });
+}
+
+void addLoad(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "load", "Make a model file from a model in JSON", "zel load tower.json tower.qvx --replace");
+    auto options = std::make_shared<LoadModel>();
+    command.add_option("FILE", options->file, "the model in JSON; - is standard input")->required();
+    command.add_option("MODEL", options->model, "the file to make")->required();
+    command.add_flag("--replace", options->replace, "replace MODEL if it exists; if the load fails it stays as it is");
+    command.callback([options, &job] { job = [options] { return loadModel(*options); }; });
+}
+
+void addDump(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "dump", "Print a whole model as JSON", "zel dump tower.qvx > tower.json");
+    auto options = std::make_shared<DumpModel>();
+    command.add_option("MODEL", options->model, "the model file")->required();
+    command.callback([options, &job] { job = [options] { return dumpModel(*options); }; });
+}
+
+void addPlay(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "play", "Play a journal: drive the dialogs by script", "zel play tower.qvx --script cases.jsonl --transcript replies.jsonl --strict");
+    auto options = std::make_shared<PlayJournal>();
+    command.add_option("MODEL", options->model, "the model file; without it a new empty model in memory");
+    command.add_option("--script", options->script, "the journal; - is standard input")->capture_default_str();
+    command.add_option("--transcript", options->transcript, "file for the replies; - is standard output")->capture_default_str();
+    command.add_flag("--show-keys", options->showKeys, "show the message key in front of each text of the catalogue");
+    auto host = std::make_shared<std::string>("run");
+    command.add_option("--host-commands", *host, "run: carry out what dialogs ask of the host; log: only tell it")
+        ->check(CLI::IsMember({"run", "log"}).description(""))
+        ->type_name("run|log")
+        ->capture_default_str();
+    command.add_flag("--strict", options->strict, "stop at the first command that can't be carried out");
+    command.callback([options, host, &job] {
+        options->runHostCommands = *host == "run";
+        job = [options] { return playJournal(*options); };
+    });
+    command.footer("Example:\n  zel play tower.qvx --script cases.jsonl --transcript replies.jsonl --strict\n\n"
+                   "Exit status: 0 every command was carried out; 1 the journal ended while a modal dialog was open, or a file can't\n"
+                   "be opened; 2 some command could not be carried out.");
+}
+
+int run(const Job& job)
+{
+    try {
+        return job();
+    } catch (const std::exception& fault) {
+        std::cout.flush();
+        std::cerr << "zel: " << fault.what() << '\n';
+    }
+    return jobFailed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    Job job;
+    CLI::App app("ZEL: models, dialogs and load combinations of slabs and mat foundations, from the command line.", "zel");
+    app.set_version_flag("--version", version);
+    app.require_subcommand(1);
+    app.footer("\"zel COMMAND --help\" tells more about a command.\nExample:\n  zel new tower.qvx --length M --force KN");
+    addNew(app, job);
+    addInfo(app, job);
+    addLoad(app, job);
+    addDump(app, job);
+    addPlay(app, job);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& asked) {    // --help or --version
+        return app.exit(asked);
+    } catch (const CLI::ParseError& fault) {
+        std::cerr << "zel: " << fault.what() << "\nRun with --help for more information.\n";
+        return wrongUsage;
+    }
+    return run(job);
+}

@@ -1,0 +1,379 @@
+#include "journal/journal_player.h"
+
+#include "command/command.h"
+#include "contract/forms/open_dialogs.h"
+#include "journal/dialog_commands.h"
+#include "journal/form_json.h"
+#include "journal/model_commands.h"
+#include "journal/notice_json.h"
+#include "journal/open_commands.h"
+#include "platform/text/nearest.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+#include <stdexcept>
+
+namespace zel {
+
+namespace {
+
+/// A command's fields beyond `do` and `dialog`.
+struct CommandForm {
+    std::string_view name;
+    std::vector<std::string_view> fields;
+};
+
+const std::vector<CommandForm>& commandForms()
+{
+    static const std::vector<CommandForm> forms{
+        {"modal", {"number", "args", "flag"}},
+        {"modeless", {"id"}},
+        {"open", {"class", "args"}},
+        {"set", {"control", "value"}},
+        {"press", {"control"}},
+        {"select", {"control", "rows"}},
+        {"double_click", {"control", "row"}},
+        {"tick", {"control", "row", "value"}},
+        {"spin", {"control", "delta"}},
+        {"tab", {"control", "value"}},
+        {"cell", {"control", "row", "column", "text"}},
+        {"current", {"control", "row", "column"}},
+        {"leave_row", {"control"}},
+        {"escape", {"control"}},
+        {"delete_rows", {"control", "rows"}},
+        {"paste", {"control", "row", "column", "text"}},
+        {"drag_rows", {"control", "rows", "to"}},
+        {"drop", {"control", "row", "column", "text"}},
+        {"key", {"control", "value"}},
+        {"pick", {"control", "keys", "closed"}},
+        {"answer", {"with"}},
+        {"file", {"path"}},
+        {"close", {}},
+        {"activate", {}},
+        {"form", {}},
+        {"dialogs", {}},
+        {"db", {"op", "table", "kind", "key", "name", "keys", "names", "record", "newKey", "after"}},
+        {"units", {"length", "force"}},
+        {"view", {"select", "mode"}},
+        {"undo", {}},
+        {"redo", {}},
+    };
+    return forms;
+}
+
+/// A mistyped field would be left out in silence, and the command would do something else.
+void checkFields(const JournalCommand& command)
+{
+    std::vector<std::string_view> names;
+    const CommandForm* form = nullptr;
+    for (const CommandForm& each : commandForms()) {
+        names.push_back(each.name);
+        if (each.name == command.name())
+            form = &each;
+    }
+    if (form == nullptr)
+        throw JsonFault("do", "there is no command \"" + command.name() + "\"" + didYouMean(command.name(), names));
+    for (const auto& member : command.json().get_ref<const Json::object_t&>()) {
+        const std::string& field = member.first;
+        if (field != "do" && field != "dialog" && std::find(form->fields.begin(), form->fields.end(), field) == form->fields.end())
+            throw JsonFault(field, command.name() + " has no such field" + didYouMean(field, form->fields));
+    }
+}
+
+void need(const Taken& taken)
+{
+    if (!taken)
+        throw JsonFault(taken.refusal);
+}
+
+Json openDialogNames()
+{
+    Json names = Json::array();
+    for (const CDialog* dialog : openDialogs())
+        names.push_back(dialog->ClassName());
+    return names;
+}
+
+}  // namespace
+
+JournalPlayer::JournalPlayer(CDBDoc& document, std::istream& script, std::ostream& transcript, JournalOptions options)
+    : m_document(document), m_script(script), m_transcript(transcript), m_options(options), m_former(setUserInterface(this))
+{
+}
+
+JournalPlayer::~JournalPlayer() { setUserInterface(m_former); }
+
+JournalPlayer::Status JournalPlayer::play()
+{
+    playUntil([] { return false; });
+    if (m_broken)
+        throw std::runtime_error("the transcript can't be written");
+    if (m_failed)
+        return commandFailed;
+    return m_cancelled ? endedInModalDialog : done;
+}
+
+void JournalPlayer::playUntil(const std::function<bool()>& over)
+{
+    while (!over()) {
+        writeReply();
+        if (m_stopped || !m_script.next()) {
+            m_stopped = true;
+            return;
+        }
+        m_reply.emplace();
+        m_reply->line = m_script.line();
+        carryOut(m_script.text());
+        if (over())    // what was posted is carried out where the loop goes on that opened this one
+            return;
+        runPostedCommands();
+        deleteClosedDialogs();
+    }
+}
+
+void JournalPlayer::writeReply()
+{
+    if (!m_reply)
+        return;
+    m_transcript << m_reply->text() << '\n' << std::flush;
+    m_reply.reset();
+    if (!m_transcript) {
+        m_broken = true;
+        m_stopped = true;
+    }
+}
+
+void JournalPlayer::carryOut(const std::string& line)
+{
+    const long number = m_reply->line;
+    std::optional<Json> result;
+    std::string error;
+    try {
+        const JournalCommand command(line);
+        m_reply->command = command.name();
+        result = perform(command);
+    } catch (const std::exception& fault) {
+        error = fault.what();
+    }
+    if (!error.empty()) {
+        m_failed = true;
+        m_stopped = m_stopped || m_options.strict;
+    }
+    if (m_reply && m_reply->line == number) {    // else the reply was written when a modal dialog began to read
+        m_reply->result = std::move(result);
+        m_reply->error = std::move(error);
+    }
+}
+
+std::optional<Json> JournalPlayer::perform(const JournalCommand& command)
+{
+    const UserAction action;    // dialogs that are closed meanwhile live to its end
+    checkFields(command);
+    const std::string& name = command.name();
+    if (name == "modal") {
+        const int value = runModalDialog(m_document, command);
+        event({{"event", "returned"}, {"call", "modal"}, {"value", value}});
+        return {};
+    }
+    if (name == "modeless")
+        return openModelessDialog(command);
+    if (name == "open") {
+        openDialogOfClass(command);
+        return {};
+    }
+    if (name == "answer")
+        return queueAnswer(command);
+    if (name == "file")
+        return queueFile(command);
+    if (name == "dialogs")
+        return openDialogNames();
+    if (name == "db")
+        return actOnTable(m_document, command);
+    if (name == "units")
+        return changeUnits(m_document, command);
+    if (name == "view")
+        return view(command);
+    if (name == "undo")
+        return m_document.Undo();
+    if (name == "redo")
+        return m_document.Redo();
+    if (name == "activate")
+        (void)command.at("dialog");
+
+    CDialog& dialog = addressedDialog(command);
+    if (name == "form")
+        return formToJson(dialog);
+    if (name == "close")
+        need(dialog.userClose());
+    else if (name == "activate")
+        need(dialog.userActivate());
+    else if (name == "key")
+        pressKey(dialog, command);
+    else
+        actOnControl(dialog, command);
+    return {};
+}
+
+void JournalPlayer::runPostedCommands()
+{
+    while (!m_posted.empty()) {
+        const unsigned number = m_posted.front();
+        m_posted.pop_front();
+        runHostCommand(number);
+    }
+}
+
+void JournalPlayer::runHostCommand(unsigned number)
+{
+    if (m_options.runHostCommands)
+        m_host.run(number);
+}
+
+void JournalPlayer::event(Json what)
+{
+    if (m_reply)    // after the end of the script nobody reads what the cancelled dialogs do
+        m_reply->events.push_back(std::move(what));
+}
+
+// Commands
+
+std::optional<Json> JournalPlayer::queueAnswer(const JournalCommand& command)
+{
+    static constexpr std::array<std::string_view, 4> answers{"ok", "yes", "no", "cancel"};
+    const std::string& answer = command.text("with");
+    if (std::find(answers.begin(), answers.end(), answer) == answers.end())
+        throw JsonFault("with", "must be ok, yes, no or cancel");
+    m_answers.push_back(answer);
+    return {};
+}
+
+std::optional<Json> JournalPlayer::queueFile(const JournalCommand& command)
+{
+    if (command.at("path").is_null())
+        m_files.emplace_back();
+    else
+        m_files.emplace_back(command.text("path"));
+    return {};
+}
+
+std::optional<Json> JournalPlayer::view(const JournalCommand& command)
+{
+    if (!command.has("select") && !command.has("mode"))
+        throw JsonFault("select", "one of select and mode is needed");
+    std::optional<T_SELECTION> selection;
+    if (command.has("select"))
+        selection = selectionFromJson(command.at("select"));
+    const std::string mode = command.has("mode") ? command.text("mode") : std::string();
+    if (command.has("mode") && mode != "model" && mode != "post")
+        throw JsonFault("mode", "must be model or post");
+
+    if (selection)
+        m_document.GetViewCtrl()->select(*selection, true);
+    if (!mode.empty()) {
+        m_host.leave(mode == "post");
+        m_document.notify(nullptr, mode == "post" ? Hint::leavePost : Hint::leaveModel, nullptr);
+    }
+    return {};
+}
+
+// IUserInterface
+
+int JournalPlayer::messageBox(const CString& text, unsigned type)
+{
+    const bool question = type == MB_YESNO;
+    std::string answer = question ? "yes" : "ok";
+    // An OK box leaves a "yes" or "no" to the question that it was meant for.
+    if (!m_answers.empty() && (question || m_answers.front() == "ok" || m_answers.front() == "cancel")) {
+        if (question)
+            answer = m_answers.front() == "no" || m_answers.front() == "cancel" ? "no" : "yes";
+        m_answers.pop_front();
+    }
+    event({{"event", "message"}, {"text", text}, {"buttons", question ? "yesno" : "ok"}, {"answer", answer}});
+    if (!question)
+        return IDOK;
+    return answer == "no" ? IDNO : IDYES;
+}
+
+bool JournalPlayer::openFile(const CString& filter, CString& path)
+{
+    std::optional<std::string> chosen;
+    if (!m_files.empty()) {
+        chosen = m_files.front();
+        m_files.pop_front();
+    }
+    event({{"event", "file"}, {"filter", filter}, {"path", chosen ? Json(*chosen) : Json()}});
+    if (chosen)
+        path = *chosen;
+    return chosen.has_value();
+}
+
+void JournalPlayer::runModal(CDialog& dialog)
+{
+    playUntil([&dialog] { return dialog.hasEnded(); });
+    if (dialog.hasEnded())
+        return;
+    m_cancelled = true;
+    (void)dialog.userClose();
+    if (!dialog.hasEnded())    // it does not want to; nobody is left to change its mind
+        dialog.EndDialog(IDCANCEL);
+}
+
+void JournalPlayer::dialogOpened(CDialog& dialog)
+{
+    event({{"event", "opened"},
+           {"dialog", dialog.ClassName()},
+           {"template", dialog.templateId()},
+           {"title", dialog.GetWindowText()},
+           {"modal", dialog.isModal()}});
+}
+
+void JournalPlayer::dialogActivated(CDialog& dialog) { event({{"event", "activated"}, {"dialog", dialog.ClassName()}}); }
+
+void JournalPlayer::dialogClosed(CDialog& dialog)
+{
+    const std::optional<int> code = dialog.isModal() ? dialog.endCode() : std::nullopt;
+    event({{"event", "closed"}, {"dialog", dialog.ClassName()}, {"result", code ? Json(*code) : Json()}});
+}
+
+void JournalPlayer::sendCommand(unsigned number)
+{
+    event({{"event", "command"}, {"number", number}, {"how", "sent"}});
+    runHostCommand(number);
+}
+
+void JournalPlayer::postCommand(unsigned number)
+{
+    event({{"event", "command"}, {"number", number}, {"how", "posted"}});
+    m_posted.push_back(number);
+}
+
+void JournalPlayer::output(const CString& line) { event({{"event", "output"}, {"text", line}}); }
+
+void JournalPlayer::history(const CString& line) { event({{"event", "history"}, {"text", line}}); }
+
+bool JournalPlayer::startProcess(const CString& commandLine)
+{
+    event({{"event", "process"}, {"commandLine", commandLine}});
+    return true;    // a script starts no outside program: nobody sits before its window
+}
+
+CString JournalPlayer::programFolder() const { return m_former != nullptr ? m_former->programFolder() : CString(); }
+
+std::chrono::system_clock::time_point JournalPlayer::now() const { return m_former != nullptr ? m_former->now() : std::chrono::system_clock::now(); }
+
+std::uint64_t JournalPlayer::physicalMemory() const { return m_former != nullptr ? m_former->physicalMemory() : 0; }
+
+void JournalPlayer::gridWarning(Control& grid, const CString& text) { event({{"event", "warning"}, {"grid", grid.id()}, {"text", text}}); }
+
+void JournalPlayer::modelingMode(int mode) { event({{"event", "mode"}, {"value", mode}}); }
+
+// CDBUpdateConnector
+
+void JournalPlayer::OnUpdate(CView* /*sender*/, long long hint, CObject* /*object*/)
+{
+    const Json changes = Hint::isData(hint) ? changesToJson(*m_document.GetViewBuff()) : Json::array();
+    event({{"event", "notice"}, {"hint", hint}, {"changes", changes}});
+}
+
+}  // namespace zel

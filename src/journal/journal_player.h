@@ -1,0 +1,95 @@
+#pragma once
+
+#include "contract/document.h"
+#include "contract/notices.h"
+#include "contract/user_interface.h"
+#include "journal/host_commands.h"
+#include "journal/journal_command.h"
+#include "journal/journal_reply.h"
+#include "journal/journal_script.h"
+
+#include <deque>
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+namespace zel {
+
+struct JournalOptions {
+    bool runHostCommands = true;    ///< false: a command for the host is only told as an event
+    bool strict = false;            ///< stop at the first command that can't be carried out
+};
+
+/// Plays a journal on the current document: reads commands from a script, does at the forms what they say, and writes one
+/// reply line for each. It is the user interface while it plays: messages and files are answered from the script.
+///
+/// A modal dialog runs inside the command that opened it: the player goes on reading there until the dialog has ended. The
+/// reply to a command is written when the player is about to read the next one.
+class JournalPlayer final : private IUserInterface, private CDBUpdateConnector {
+public:
+    JournalPlayer(CDBDoc& document, std::istream& script, std::ostream& transcript, JournalOptions options = {});
+    ~JournalPlayer() override;
+
+    enum Status { done = 0, endedInModalDialog = 1, commandFailed = 2 };
+
+    /// Plays to the end of the script.
+    /// @throws std::runtime_error  when the transcript can't be written
+    Status play();
+
+private:
+    // The loop.
+    void playUntil(const std::function<bool()>& over);
+    void writeReply();
+    void carryOut(const std::string& line);
+    std::optional<Json> perform(const JournalCommand& command);
+    void runPostedCommands();
+    void runHostCommand(unsigned number);
+    void event(Json what);
+
+    // Commands.
+    std::optional<Json> queueAnswer(const JournalCommand& command);
+    std::optional<Json> queueFile(const JournalCommand& command);
+    std::optional<Json> view(const JournalCommand& command);
+
+    // IUserInterface
+    int messageBox(const CString& text, unsigned type) override;
+    bool openFile(const CString& filter, CString& path) override;
+    void runModal(CDialog& dialog) override;
+    void dialogOpened(CDialog& dialog) override;
+    void dialogActivated(CDialog& dialog) override;
+    void dialogClosed(CDialog& dialog) override;
+    void sendCommand(unsigned number) override;
+    void postCommand(unsigned number) override;
+    void showPreferences(int /*page*/) override {}
+    void output(const CString& line) override;
+    void history(const CString& line) override;
+    void busy(const CString& /*text*/) override {}
+    bool startProcess(const CString& commandLine) override;
+    [[nodiscard]] CString programFolder() const override;
+    [[nodiscard]] std::chrono::system_clock::time_point now() const override;
+    [[nodiscard]] std::uint64_t physicalMemory() const override;
+    void gridWarning(Control& grid, const CString& text) override;
+    void modelingMode(int mode) override;
+
+    // CDBUpdateConnector
+    void OnUpdate(CView* sender, long long hint, CObject* object) override;
+
+    CDBDoc& m_document;
+    JournalScript m_script;
+    std::ostream& m_transcript;
+    JournalOptions m_options;
+    HostCommands m_host;
+    IUserInterface* m_former;
+
+    std::optional<JournalReply> m_reply;           ///< of the command that was read last, until it is written
+    std::deque<std::string> m_answers;
+    std::deque<std::optional<std::string>> m_files;
+    std::deque<unsigned> m_posted;
+    bool m_stopped = false;
+    bool m_failed = false;
+    bool m_cancelled = false;
+    bool m_broken = false;                         ///< the transcript can't be written
+};
+
+}  // namespace zel

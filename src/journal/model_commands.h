@@ -1,0 +1,20 @@
+#pragma once
+
+#include "contract/document.h"
+#include "contract/view_ctrl.h"
+#include "journal/journal_command.h"
+
+namespace zel {
+
+/// `db`: reads or writes a table directly, as another window would. The result is what was read, or what the operation returned.
+/// @throws JsonFault  for what can't be carried out; a refusal by the table is no such case, its result is 0
+Json actOnTable(CDBDoc& document, const JournalCommand& command);
+
+/// `units`: changes the unit system; a unit that is not given stays. The result is 0 when the change was refused.
+Json changeUnits(CDBDoc& document, const JournalCommand& command);
+
+/// The keys of `view`'s `select`.
+/// @throws JsonFault  for an unknown kind of object or a key that is none
+T_SELECTION selectionFromJson(const Json& json);
+
+}  // namespace zel
