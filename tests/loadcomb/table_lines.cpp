@@ -130,28 +130,27 @@ Lines lines(const CodeTable& table, std::string_view groups, Word type)
 std::string rowNumbers(const CodeTable& table, std::string_view groups, Word type)
 {
     std::string text;
+    std::string heading;
     int first = 0;
     int last = 0;
-    const auto close = [&text, &first, &last] {
+    const auto append = [&text](const std::string& word) { text += (text.empty() ? "" : " ") + word; };
+    const auto closeRun = [&] {
         if (first != 0)
-            text += (text.empty() ? "" : " ") + std::to_string(first) + (last == first ? "" : "-" + std::to_string(last));
+            append(std::to_string(first) + (last == first ? "" : "-" + std::to_string(last)));
         first = 0;
     };
-    bool snow = false;
     for (const Line& line : linesOf(table, groups, type)) {
         const int number = std::atoi(line.row.c_str());
-        if (line.snow != snow) {
-            close();
-            text += " with snow";
-            snow = true;
-        }
-        if (first == 0 || number != last + 1) {
-            close();
+        const std::string lineHeading = line.flag + (line.snow ? " with snow" : "");
+        if (first == 0 || number != last + 1 || lineHeading != heading)
+            closeRun();
+        if (lineHeading != heading)
+            append(heading = lineHeading);
+        if (first == 0)
             first = number;
-        }
         last = number;
     }
-    close();
+    closeRun();
     return text;
 }
 

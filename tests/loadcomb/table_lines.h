@@ -22,7 +22,7 @@ using Lines = std::vector<std::string>;
 /// The lines of `table` for the groups of `groups`, "DL LL WL", and a type of combinations.
 Lines lines(const zel::codes::CodeTable& table, std::string_view groups, zel::codes::Word type = zel::codes::Word::typeStrength);
 
-/// Their row numbers alone, runs drawn together: "1-6 9 11-20", and behind "with snow" those of the pass that takes SL for LR.
+/// Their row numbers alone, runs drawn together: "service 1-5 strength 6 9 11-20".
 std::string rowNumbers(const zel::codes::CodeTable& table, std::string_view groups, zel::codes::Word type = zel::codes::Word::typeStrength);
 
 inline constexpr std::string_view everyGroup = "DL LL LR WL EL SL EEP RL FP EP WP EH EV";

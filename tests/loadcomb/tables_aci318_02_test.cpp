@@ -173,7 +173,7 @@ TEST(Aci318Of2002, FluidPressureTakesTheFirstRow)
 
 TEST(Aci318Of2002, AFullModelGetsOneAlternativeOfEachBlock)
 {
-    EXPECT_EQ(rowNumbers(aci318_02, tables::everyGroup), "1 4-6 10-18 29-34 41-42 46-47 51-52");
+    EXPECT_EQ(rowNumbers(aci318_02, tables::everyGroup), "strength 1 4-6 10-18 29-34 41-42 46-47 51-52");
     EXPECT_EQ(lines(aci318_02, tables::everyGroup).at(1), "strength 4: DL 1.2, FP 1.2, LL 1.6, EP 1.6, WP 1.6, LR 0.5");
 }
 

@@ -86,8 +86,8 @@ TEST(Aci318From1989To1999, RoofLiveLoadAloneServesAndPressuresFollow)
 
 TEST(Aci318From1989To1999, AFullModelGetsEveryRowWithLiveLoad)
 {
-    EXPECT_EQ(rowNumbers(aci318_89, tables::everyGroup), "1-6 9-12 15-28");
-    EXPECT_EQ(rowNumbers(aci318_89, "DL LR WL EL"), "1-6 9-12 15-20");
+    EXPECT_EQ(rowNumbers(aci318_89, tables::everyGroup), "service 1-5 strength 6 9-12 15-28");
+    EXPECT_EQ(rowNumbers(aci318_89, "DL LR WL EL"), "service 1-5 strength 6 9-12 15-20");
 }
 
 }  // namespace

@@ -63,13 +63,13 @@ TEST(AikUsd94, RoofLiveLoadAloneServesAndPressuresFollow)
 
 TEST(AikUsd94, AFullModelGetsEveryRow)
 {
-    EXPECT_EQ(rowNumbers(aik_usd94, tables::everyGroup), "1-24");
+    EXPECT_EQ(rowNumbers(aik_usd94, tables::everyGroup), "service 1-5 strength 6-24");
     EXPECT_EQ(lines(aik_usd94, tables::everyGroup).at(20), "strength 21: DL 1.4, LL 1.7, LR 1.7, EP 1.7, WP 1.7");
 }
 
 TEST(AikUsd94, SnowAndRainStandInNoRow)
 {
-    EXPECT_EQ(rowNumbers(aik_usd94, "DL SL RL EH EV"), "16");
+    EXPECT_EQ(rowNumbers(aik_usd94, "DL SL RL EH EV"), "strength 16");
 }
 
 TEST(AikUsd94, TheTypeOfCombinationsChangesNothing)

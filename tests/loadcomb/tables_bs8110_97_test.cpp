@@ -45,7 +45,7 @@ TEST(Bs8110Of1997, EarthAndWaterPressureClose)
 
 TEST(Bs8110Of1997, AFullModelGetsEveryRow)
 {
-    EXPECT_EQ(rowNumbers(bs8110_97, tables::everyGroup), "1-11");
+    EXPECT_EQ(rowNumbers(bs8110_97, tables::everyGroup), "strength 1-11");
 }
 
 }  // namespace

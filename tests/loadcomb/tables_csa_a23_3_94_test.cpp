@@ -42,7 +42,7 @@ TEST(CsaA23Of1994, WindAndEarthquake)
 
 TEST(CsaA23Of1994, AFullModelGetsEveryRow)
 {
-    EXPECT_EQ(rowNumbers(csa_a23_3_94, tables::everyGroup), "1-14");
+    EXPECT_EQ(rowNumbers(csa_a23_3_94, tables::everyGroup), "strength 1-14");
     EXPECT_EQ(lines(csa_a23_3_94, tables::everyGroup).at(4), "strength 5: DL 1.25, LL 0.75*1.4, LR 0.75*1.4, WL 0.75*1.4");
 }
 

@@ -120,8 +120,8 @@ TEST(Gb50010Of2002, EarthquakeNeedsNoLiveLoad)
 
 TEST(Gb50010Of2002, AFullModelGetsBothPasses)
 {
-    EXPECT_EQ(rowNumbers(gb50010_02, tables::everyGroup), "1-3 6-29 with snow 1-3 10-29");
-    EXPECT_EQ(rowNumbers(gb50010_02, "DL LL LR WL EL"), "1-3 6-29");
+    EXPECT_EQ(rowNumbers(gb50010_02, tables::everyGroup), "strength 1-3 6-29 strength with snow 1-3 10-29");
+    EXPECT_EQ(rowNumbers(gb50010_02, "DL LL LR WL EL"), "strength 1-3 6-29");
 }
 
 }  // namespace

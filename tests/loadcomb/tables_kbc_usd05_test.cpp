@@ -139,15 +139,18 @@ TEST(KbcUsd05, PressuresCloseEachBlock)
 // Row 33 repeats row 10 and row 57 repeats row 34.
 TEST(KbcUsd05, AFullModelGetsEveryRowOfItsBlock)
 {
-    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup), "1-32");
-    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup, Word::typeSpecial), "1-9 34-56");
-    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup, Word::typeVertical), "1-9 58-80");
+    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup),
+              "service 1-9 strength 10-12 service 13-14 strength 15-18 service 19-20 strength 21-32");
+    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup, Word::typeSpecial), 
+              "service 1-9 strength 34-35 service 36-37 strength 38-41 service 42-43 strength 44-56");
+    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup, Word::typeVertical), 
+              "service 1-9 strength 58 service 59-60 strength 61-64 service 65-68 strength 69-80");
 }
 
 TEST(KbcUsd05, UndergroundTypesGetServiceRowsOnly)
 {
-    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup, Word::typeUnderground), "1-9");
-    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup, Word::typeUndergroundSpecial), "1-9");
+    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup, Word::typeUnderground), "service 1-9");
+    EXPECT_EQ(rowNumbers(kbc_usd05, tables::everyGroup, Word::typeUndergroundSpecial), "service 1-9");
 }
 
 // They decide which strength block follows, and the service rows need nothing.

@@ -29,7 +29,7 @@ TEST(KciUsd99, WithRoofLiveLoadTheRowsOfBothServe)
         "strength 33: DL 0.75*1.4, LL 1.275, LR 1.275",
         "strength 35: DL 1.4",
     }));
-    EXPECT_EQ(rowNumbers(kci_usd99, "DL LR"), "1 15 33 35");
+    EXPECT_EQ(rowNumbers(kci_usd99, "DL LR"), "service 1 strength 15 33 35");
 }
 
 TEST(KciUsd99, WindAndEarthquakeStandWithAndWithoutLiveLoad)
@@ -82,8 +82,8 @@ TEST(KciUsd99, PressuresStandWithAndWithoutLiveLoad)
 
 TEST(KciUsd99, AFullModelGetsTheRowsWithRoofLiveLoad)
 {
-    EXPECT_EQ(rowNumbers(kci_usd99, tables::everyGroup), "1-3 7-10 13-17 21-26 29-33 35-37 40-43 46-47");
-    EXPECT_EQ(rowNumbers(kci_usd99, "DL LL WL EL RL FP EP WP"), "4-8 11-14 18-24 27-32 34-35 38-41 44-47");
+    EXPECT_EQ(rowNumbers(kci_usd99, tables::everyGroup), "service 1-3 7-10 13-14 strength 15-17 21-26 29-33 35-37 40-43 46-47");
+    EXPECT_EQ(rowNumbers(kci_usd99, "DL LL WL EL RL FP EP WP"), "service 4-8 11-14 strength 18-24 27-32 34-35 38-41 44-47");
 }
 
 }  // namespace

@@ -63,7 +63,7 @@ TEST(KsceUsd96, RoofLiveLoadAloneServesAndPressuresFollow)
 
 TEST(KsceUsd96, AFullModelGetsEveryRow)
 {
-    EXPECT_EQ(rowNumbers(ksce_usd96, tables::everyGroup), "1-24");
+    EXPECT_EQ(rowNumbers(ksce_usd96, tables::everyGroup), "service 1-5 strength 6-24");
     EXPECT_EQ(lines(ksce_usd96, tables::everyGroup).at(20), "strength 21: DL 1.5, LL 1.8, LR 1.8, EP 1.8, WP 1.8");
 }
 

@@ -49,7 +49,7 @@ TEST(FirstTableWithoutAName, EarthAndWaterPressureClose)
         "strength 14: DL 1.35, LR 1.35, EP 1.35, WP 1.35",
         "strength 15: DL 1, EP 1.5, WP 1.5",
     }));
-    EXPECT_EQ(rowNumbers(unnamed_first, tables::everyGroup), "1-15");
+    EXPECT_EQ(rowNumbers(unnamed_first, tables::everyGroup), "strength 1-15");
 }
 
 TEST(SecondTableWithoutAName, HasTheFactorOneThroughout)
@@ -66,7 +66,7 @@ TEST(SecondTableWithoutAName, HasTheFactorOneThroughout)
         "strength 8: DL 1, EL 1",
         "strength 9: DL 1, EL -1",
     }));
-    EXPECT_EQ(rowNumbers(unnamed_second, tables::everyGroup), "1-9");
+    EXPECT_EQ(rowNumbers(unnamed_second, tables::everyGroup), "strength 1-9");
 }
 
 TEST(TablesWithoutAName, AreReachedByNoLineOfTheRegistry)
