@@ -1,9 +1,12 @@
 #include "platform/forms/expression.h"
 
+#include "contract/number_text.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <optional>
 #include <string>
 
@@ -84,10 +87,15 @@ Expression evaluateExpression(std::string_view text)
 {
     if (text.find_first_not_of(alphabet) != std::string_view::npos)
         return {ExpressionFault::character, 0.0};
-    const Rewritten rewritten = rewrite(text);
-    if (rewritten.fault != ExpressionFault::none)
-        return {rewritten.fault, 0.0};
-    const std::optional<double> value = calculate(rewritten.text);
+    std::optional<double> value = number::read(text);    // most texts are plain numbers
+    if (!value) {
+        const Rewritten rewritten = rewrite(text);
+        if (rewritten.fault == ExpressionFault::tooBig)
+            return {ExpressionFault::tooBig, std::numeric_limits<double>::infinity()};
+        if (rewritten.fault != ExpressionFault::none)
+            return {rewritten.fault, 0.0};
+        value = calculate(rewritten.text);
+    }
     if (!value)
         return {ExpressionFault::formula, 0.0};
     if (!std::isfinite(*value) || std::abs(*value) > greatest)
