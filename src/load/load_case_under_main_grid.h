@@ -1,0 +1,51 @@
+#pragma once
+
+#include "contract/forms/grid_common.h"
+#include "contract/records/lcug.h"
+#include "contract/table_store.h"
+
+class CLoadCaseUndergroundDlg;
+
+/// Seismic load cases, each in one direction, with the earth pressures that act with it. The grid holds the rows and writes
+/// nothing by itself; the earth pressures of the current row stand in the check lists beside it.
+class CLoadCaseUnderMainGrid final : public CTBCommon {
+public:
+    CLoadCaseUnderMainGrid(const zel::Place& place, std::string_view id, CLoadCaseUndergroundDlg& dialog);
+
+    void Initialize() override;
+    /// Takes other rows over; Initialize or RebuildRows shows them.
+    void SetData(const CArray<T_LCUG_SEIS>& groups) { m_groups = groups; }
+    [[nodiscard]] const CArray<T_LCUG_SEIS>& GetData() const { return m_groups; }
+    /// What a row holds; null for a row that is none of the data rows, and for a name in the row headers that none has.
+    [[nodiscard]] T_LCUG_SEIS* GroupOf(int row);
+    [[nodiscard]] T_LCUG_SEIS* GroupOf(const CString& rowName);
+
+    void OnCurrentRowChanged(int row) override;
+    bool AddToDB(int row) override;
+    bool AddToDB(const zel::GridValues& keys, const zel::GridValues& records) override;
+    bool DeleteFromDB(int row) override { return DeleteFromDB(CArray<int>{row}); }
+    bool DeleteFromDB(const CArray<int>& rows) override;
+    bool ModifyToDB(int row) override;
+    bool ModifyToDB(const zel::GridValues& oldKeys, const zel::GridValues& keys, const zel::GridValues& records) override;
+    [[nodiscard]] CString GetNewKey() override { return std::to_string(m_groups.size() + 1); }
+    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records) override;
+    bool ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns) override;
+    [[nodiscard]] int GetCountData() override { return static_cast<int>(m_groups.size()); }
+    void MakeItemNormal(int count, const CArray<int>& columns) override;
+
+    /// Texts of a direction, 0 plus and 1 minus.
+    [[nodiscard]] static CString GetDirTitle(int direction);
+    [[nodiscard]] static int GetDirByTitle(const CString& title);
+
+private:
+    /// Load case and direction out of the texts of a row; the earth pressures stay.
+    static void ReadTexts(const CArray<CString>& texts, T_LCUG_SEIS& group);
+    /// Whether no other row than `exceptRow` (from 1; 0: none) has the load case in that direction. A warning if one has.
+    bool IsFree(const T_LCUG_SEIS& group, const CArray<T_LCUG_SEIS>& groups, int exceptRow);
+    /// Takes rows over that were pasted, unless two of them are alike.
+    bool Take(const CArray<T_LCUG_SEIS>& groups);
+    void ShowRows();
+
+    CLoadCaseUndergroundDlg& m_dialog;
+    CArray<T_LCUG_SEIS> m_groups;    ///< one a row, in their order
+};
