@@ -265,7 +265,7 @@ void Generator::addRow(int serviceOrStrength, std::string_view rowText, std::spa
     for (std::size_t i = 0; i < drafts.list.size(); ++i)
         finish(std::move(drafts.list[i]), flag != 0, m_state.tracing ? std::move(drafts.choices[i]) : Choices());
     if (drafts.list.empty())
-        noteOutcome(RowResult::noOrthogonalPair);
+        noteOutcome(drafts.started ? RowResult::noOrthogonalPair : RowResult::setWithoutCases);
     else if (m_outcomes.back().combinations == 0)
         noteOutcome(RowResult::onlyDuplicates);
 }
