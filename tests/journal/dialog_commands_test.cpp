@@ -21,7 +21,8 @@ protected:
 
     Json control(const std::string& id)
     {
-        for (const Json& each : resultOf(R"({"do": "form"})").at("controls")) {
+        const Json shown = resultOf(R"({"do": "form"})");
+        for (const Json& each : shown.at("controls")) {
             if (each.at("id") == id)
                 return each;
         }
@@ -142,10 +143,10 @@ TEST_F(DialogCommands, ListsAreSelectedTickedAndSpun)
 
 TEST_F(DialogCommands, AQuestionTakesTheNextAnswerElseYes)
 {
-    const Played played = play(R"({"do": "press", "control": "Ask"}
+    const Played played = play(R"({"do": "press", "control": "Ask..."}
 {"do": "answer", "with": "no"}
 {"do": "press", "control": "Tell"}
-{"do": "press", "control": "Ask"}
+{"do": "press", "control": "Ask..."}
 {"do": "answer", "with": "maybe"}
 )");
     EXPECT_EQ(played.events(0, "message"), R"([{"event": "message", "text": "Go on?", "buttons": "yesno", "answer": "yes"}])");
@@ -157,11 +158,11 @@ TEST_F(DialogCommands, AQuestionTakesTheNextAnswerElseYes)
 
 TEST_F(DialogCommands, AFileQuestionTakesTheNextPathElseItIsCancelled)
 {
-    const Played played = play(R"({"do": "press", "control": "Browse"}
+    const Played played = play(R"({"do": "press", "control": "Browse..."}
 {"do": "file", "path": "a.txt"}
 {"do": "file", "path": null}
-{"do": "press", "control": "Browse"}
-{"do": "press", "control": "Browse"}
+{"do": "press", "control": "Browse..."}
+{"do": "press", "control": "Browse..."}
 {"do": "file"}
 )");
     EXPECT_EQ(played.events(0, "file"), R"([{"event": "file", "filter": "Text *.txt|*.txt||", "path": null}])");
@@ -185,7 +186,7 @@ TEST_F(DialogCommands, OutputHistoryAndHostCommandsAreEvents)
 
 TEST_F(DialogCommands, AModalDialogTakesTheCommandsUntilItEnds)
 {
-    const Played played = play(R"({"do": "press", "control": "Open"}
+    const Played played = play(R"({"do": "press", "control": "Open..."}
 {"do": "dialogs"}
 {"do": "set", "control": "Text", "value": "typed"}
 {"do": "press", "control": "OK"}
@@ -202,9 +203,9 @@ TEST_F(DialogCommands, AModalDialogTakesTheCommandsUntilItEnds)
 
 TEST_F(DialogCommands, ModalDialogsNest)
 {
-    const Played played = play(R"({"do": "press", "control": "Open"}
-{"do": "press", "control": "Again"}
-{"do": "press", "control": "Again"}
+    const Played played = play(R"({"do": "press", "control": "Open..."}
+{"do": "press", "control": "Again..."}
+{"do": "press", "control": "Again..."}
 {"do": "dialogs"}
 {"do": "set", "control": "Text", "value": "deep"}
 {"do": "press", "control": "OK"}
@@ -219,7 +220,7 @@ TEST_F(DialogCommands, ModalDialogsNest)
 
 TEST_F(DialogCommands, ADialogBehindAModalOneIsOutOfReach)
 {
-    const Played played = play(R"({"do": "press", "control": "Open"}
+    const Played played = play(R"({"do": "press", "control": "Open..."}
 {"do": "set", "dialog": "Form", "control": "Name", "value": "x"}
 {"do": "set", "dialog": "Nothing", "control": "Name", "value": "x"}
 {"do": "db", "op": "add", "table": "STLD", "record": {"name": "DL"}}
@@ -233,7 +234,7 @@ TEST_F(DialogCommands, ADialogBehindAModalOneIsOutOfReach)
 
 TEST_F(DialogCommands, CloseCancelsAModalDialogWhichMayRefuse)
 {
-    const Played played = play(R"({"do": "press", "control": "Open"}
+    const Played played = play(R"({"do": "press", "control": "Open..."}
 {"do": "answer", "with": "no"}
 {"do": "close"}
 {"do": "close"}
@@ -245,7 +246,7 @@ TEST_F(DialogCommands, CloseCancelsAModalDialogWhichMayRefuse)
 
 TEST_F(DialogCommands, TheEndOfTheJournalCancelsModalDialogs)
 {
-    const Played played = play("{\"do\": \"press\", \"control\": \"Open\"}\n{\"do\": \"press\", \"control\": \"Again\"}\n");
+    const Played played = play("{\"do\": \"press\", \"control\": \"Open...\"}\n{\"do\": \"press\", \"control\": \"Again...\"}\n");
     EXPECT_EQ(played.status, zel::JournalPlayer::endedInModalDialog);
     EXPECT_EQ(played.replies.size(), 2U);
     EXPECT_EQ(form->name.GetWindowText(), "");
@@ -254,7 +255,7 @@ TEST_F(DialogCommands, TheEndOfTheJournalCancelsModalDialogs)
 
 TEST_F(DialogCommands, ADialogThatDoesNotWantToCloseIsEndedAtTheEndOfTheJournal)
 {
-    const Played played = play("{\"do\": \"press\", \"control\": \"Open\"}\n{\"do\": \"answer\", \"with\": \"no\"}\n");
+    const Played played = play("{\"do\": \"press\", \"control\": \"Open...\"}\n{\"do\": \"answer\", \"with\": \"no\"}\n");
     EXPECT_EQ(played.status, zel::JournalPlayer::endedInModalDialog);
 }
 
@@ -276,9 +277,9 @@ TEST_F(DialogCommands, AClosedModelessDialogIsGone)
 
 TEST_F(DialogCommands, EscapeAndEnterReachTheDialog)
 {
-    const Played played = play(R"({"do": "press", "control": "Open"}
+    const Played played = play(R"({"do": "press", "control": "Open..."}
 {"do": "key", "control": "Text", "value": "Enter"}
-{"do": "press", "control": "Open"}
+{"do": "press", "control": "Open..."}
 {"do": "key", "value": "Escape"}
 )");
     EXPECT_EQ(played.status, zel::JournalPlayer::done);
