@@ -11,7 +11,7 @@ namespace zel {
 
 using Key = std::uint32_t;
 
-/// A record of any type, shared and never changed: a modification replaces it.
+/// A record of any type, shared and, once it is in a table, never changed: a modification replaces it.
 using RecordPtr = std::shared_ptr<const void>;
 
 /// One table of the open model, without its record type. The typed handles `CDataXxx` stand on this; hosts and scripts use
@@ -37,9 +37,9 @@ public:
     [[nodiscard]] virtual Key nextInSequence(int kind, Key key) const = 0;                   ///< 0: the first, and at the end
 
     /// Adds records under the given keys, 0 meaning a new one. A key in use is refused unless `replace` is set.
-    virtual int add(int kind, const std::vector<Key>& keys, const std::vector<RecordPtr>& records, bool replace) = 0;
+    virtual int add(int kind, const std::vector<Key>& keys, std::vector<RecordPtr> records, bool replace) = 0;
     /// Replaces the records under `oldKeys` by `records` under `newKeys`.
-    virtual int modify(int kind, const std::vector<Key>& oldKeys, const std::vector<Key>& newKeys, const std::vector<RecordPtr>& records) = 0;
+    virtual int modify(int kind, const std::vector<Key>& oldKeys, const std::vector<Key>& newKeys, std::vector<RecordPtr> records) = 0;
     virtual int remove(int kind, const std::vector<Key>& keys) = 0;
     /// Moves the records, in the given order, right behind `afterKey`; 0 means to the front. Only on a table with a sequence.
     virtual int changeSequence(int kind, const std::vector<Key>& keys, Key afterKey) = 0;

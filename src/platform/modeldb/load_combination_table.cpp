@@ -6,7 +6,8 @@ namespace {
 
 int addAll(zel::ITable& table, int kind, std::vector<zel::RecordPtr> records)
 {
-    return table.add(kind, std::vector<zel::Key>(records.size(), 0), records, false);
+    const std::vector<zel::Key> newKeys(records.size(), 0);
+    return table.add(kind, newKeys, std::move(records), false);
 }
 
 }  // namespace
@@ -73,7 +74,7 @@ int CDataLcom::Add(int kind, std::vector<T_LCOM_D>&& records)
     for (T_LCOM_D& record : records) {    // with the fields that the table keeps, so that it need not copy the record
         record.kind = kind;
         record.number = ++place;
-        shared.push_back(std::make_shared<const T_LCOM_D>(std::move(record)));
+        shared.push_back(std::make_shared<T_LCOM_D>(std::move(record)));
     }
     records.clear();
     return addAll(store(), kind, std::move(shared));

@@ -135,7 +135,7 @@ std::int32_t recordPlace(const TableInfo& table, const void* record)
     return table.sequenceField.empty() ? 0 : *static_cast<const std::int32_t*>(table.record->find(table.sequenceField)->in(record));
 }
 
-RecordPtr withKeptFields(const TableInfo& table, const RecordPtr& record, int kind, Key key, std::int32_t place)
+RecordPtr withKeptFields(const TableInfo& table, RecordPtr record, int kind, Key key, std::int32_t place)
 {
     std::shared_ptr<void> changed;
     const auto keep = [&](std::string_view fieldName, auto value) {
@@ -146,8 +146,8 @@ RecordPtr withKeptFields(const TableInfo& table, const RecordPtr& record, int ki
         const void* current = changed ? changed.get() : record.get();
         if (*static_cast<const Value*>(field->in(current)) == value)
             return;
-        if (!changed)
-            changed = table.record->copy(record.get());
+        if (!changed)    // records are made as changeable objects; whoever holds one alone may still change it
+            changed = record.use_count() == 1 ? std::const_pointer_cast<void>(std::move(record)) : table.record->copy(record.get());
         *static_cast<Value*>(field->in(changed.get())) = value;
     };
     keep(table.sequenceField, place);

@@ -32,9 +32,9 @@ std::size_t characterCount(std::string_view text);
 /// The place in the table's sequence that the record carries; 0 for a table without one.
 std::int32_t recordPlace(const TableInfo& table, const void* record);
 
-/// A copy of the record with the fields that the table keeps itself: key, design kind and place in the sequence.
-/// The record itself, if nothing differs.
-RecordPtr withKeptFields(const TableInfo& table, const RecordPtr& record, int kind, Key key, std::int32_t place);
+/// The record with the fields that the table keeps itself: key, design kind and place in the sequence. It is the record itself
+/// if nothing differs or nobody else holds it, and a copy otherwise.
+RecordPtr withKeptFields(const TableInfo& table, RecordPtr record, int kind, Key key, std::int32_t place);
 
 /// Hash of a row: its address and every value. A table's rows are summed up, so that one row can be taken out or added.
 std::uint64_t rowHash(const TableInfo& table, int kind, Key key, const void* record);

@@ -3,6 +3,7 @@
 #include "platform/modeldb/record_values.h"
 #include "platform/modeldb/refusals.h"
 
+#include <algorithm>
 #include <limits>
 #include <unordered_set>
 
@@ -102,7 +103,7 @@ Key StoredTable::nextInSequence(int kind, Key key) const
     return next != within->records.end() ? next->first : 0;
 }
 
-int StoredTable::add(int kind, const std::vector<Key>& keys, const std::vector<RecordPtr>& records, bool replace)
+int StoredTable::add(int kind, const std::vector<Key>& keys, std::vector<RecordPtr> records, bool replace)
 {
     const Space* within = space(kind);
     if (within == nullptr)
@@ -130,7 +131,7 @@ int StoredTable::add(int kind, const std::vector<Key>& keys, const std::vector<R
         if (before && !replace)
             return refuse(Refusal::keyExists, {}, static_cast<int>(key));
         const std::int32_t itsPlace = before ? recordPlace(m_info, before.get()) : ++place;
-        batch.steps.push_back({before ? key : 0, key, kind, before, withKeptFields(m_info, records[i], kind, key, itsPlace)});
+        batch.steps.push_back({before ? key : 0, key, kind, before, withKeptFields(m_info, std::move(records[i]), kind, key, itsPlace)});
     }
     if (!acceptable(kind, batch.steps))
         return 0;
@@ -138,7 +139,7 @@ int StoredTable::add(int kind, const std::vector<Key>& keys, const std::vector<R
     return m_sink.make(name, std::move(batch));
 }
 
-int StoredTable::modify(int kind, const std::vector<Key>& oldKeys, const std::vector<Key>& newKeys, const std::vector<RecordPtr>& records)
+int StoredTable::modify(int kind, const std::vector<Key>& oldKeys, const std::vector<Key>& newKeys, std::vector<RecordPtr> records)
 {
     const Space* within = space(kind);
     if (within == nullptr)
@@ -162,7 +163,7 @@ int StoredTable::modify(int kind, const std::vector<Key>& oldKeys, const std::ve
             return refuse(Refusal::keyExists, {}, static_cast<int>(key));
         if (key != oldKeys[i])
             moved.push_back(oldKeys[i]);
-        batch.steps.push_back({oldKeys[i], key, kind, before, withKeptFields(m_info, records[i], kind, key, recordPlace(m_info, before.get()))});
+        batch.steps.push_back({oldKeys[i], key, kind, before, withKeptFields(m_info, std::move(records[i]), kind, key, recordPlace(m_info, before.get()))});
     }
     if (!moved.empty()) {    // whoever refers to the old key would refer to nothing
         const CString users = m_sink.usersOf(m_info.table, moved);
@@ -199,12 +200,15 @@ int StoredTable::remove(int kind, const std::vector<Key>& keys)
 
     const CString name = describeChange("Delete", batch.steps);
     if (sequenced()) {
+        std::int32_t first = std::numeric_limits<std::int32_t>::max();    // those before it keep their places
+        for (const Step& step : batch.steps)
+            first = std::min(first, recordPlace(m_info, step.before.get()));
         std::vector<Key> order;
-        for (const Key key : within->order) {
-            if (!leaving.contains(key))
-                order.push_back(key);
+        for (auto key = within->order.begin() + (first - 1); key != within->order.end(); ++key) {
+            if (!leaving.contains(*key))
+                order.push_back(*key);
         }
-        appendRenumbering(kind, *within, order, batch.steps);
+        appendRenumbering(kind, *within, order, first, batch.steps);
     }
     return m_sink.make(name, std::move(batch));
 }
@@ -236,19 +240,17 @@ int StoredTable::changeSequence(int kind, const std::vector<Key>& keys, Key afte
             order.insert(order.end(), keys.begin(), keys.end());
     }
     Batch batch{m_info.table, {}};
-    appendRenumbering(kind, *within, order, batch.steps);
+    appendRenumbering(kind, *within, order, 1, batch.steps);
     CString name = "Change the order of ";
     name += CString(m_info.noun) + "s";
     return m_sink.make(name, std::move(batch));
 }
 
-void StoredTable::appendRenumbering(int kind, const Space& space, const std::vector<Key>& order, std::vector<Step>& steps) const
+void StoredTable::appendRenumbering(int kind, const Space& space, const std::vector<Key>& order, std::int32_t place, std::vector<Step>& steps) const
 {
-    std::int32_t place = 0;
     for (const Key key : order) {
-        ++place;
         const RecordPtr& record = space.records.at(key);
-        RecordPtr renumbered = withKeptFields(m_info, record, kind, key, place);
+        RecordPtr renumbered = withKeptFields(m_info, record, kind, key, place++);
         if (renumbered != record)
             steps.push_back({key, key, kind, record, std::move(renumbered)});
     }
@@ -315,6 +317,10 @@ CString StoredTable::describeChange(const char* verb, const std::vector<Step>& s
 
 void StoredTable::apply(const Batch& batch)
 {
+    if (named() && !batch.steps.empty()) {
+        Space& space = m_spaces[static_cast<std::size_t>(batch.steps.front().kind)];
+        space.names.reserve(space.names.size() + batch.steps.size());
+    }
     for (const Step& step : batch.steps)
         applyStep(m_spaces[static_cast<std::size_t>(step.kind)], step);
     for (Space& space : m_spaces) {

@@ -23,8 +23,8 @@ public:
     [[nodiscard]] Key freeKeyAbove(int kind, Key key) const override;
     [[nodiscard]] Key nextInSequence(int kind, Key key) const override;
 
-    int add(int kind, const std::vector<Key>& keys, const std::vector<RecordPtr>& records, bool replace) override;
-    int modify(int kind, const std::vector<Key>& oldKeys, const std::vector<Key>& newKeys, const std::vector<RecordPtr>& records) override;
+    int add(int kind, const std::vector<Key>& keys, std::vector<RecordPtr> records, bool replace) override;
+    int modify(int kind, const std::vector<Key>& oldKeys, const std::vector<Key>& newKeys, std::vector<RecordPtr> records) override;
     int remove(int kind, const std::vector<Key>& keys) override;
     int changeSequence(int kind, const std::vector<Key>& keys, Key afterKey) override;
 
@@ -49,7 +49,8 @@ private:
     [[nodiscard]] bool acceptable(int kind, const std::vector<Step>& steps) const;
     [[nodiscard]] bool acceptableName(const CString& name) const;
     [[nodiscard]] bool namesStayUnique(const Space& space, const std::vector<Step>& steps) const;
-    void appendRenumbering(int kind, const Space& space, const std::vector<Key>& order, std::vector<Step>& steps) const;
+    /// Appends the steps that give the records of `order` the places from `place` on.
+    void appendRenumbering(int kind, const Space& space, const std::vector<Key>& order, std::int32_t place, std::vector<Step>& steps) const;
     [[nodiscard]] CString describeChange(const char* verb, const std::vector<Step>& steps) const;
     void applyStep(Space& space, const Step& step);
     void insert(Space& space, Key key, const RecordPtr& record);
