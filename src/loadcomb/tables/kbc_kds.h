@@ -2,15 +2,18 @@
 
 #include "loadcomb/tables/code_table.h"
 
-// KBC-USD16, KDS 41 30 : 2018, KDS 41 20 : 2022: one sequence of rows, service S1 to S8 and strength U1 to U7, then the pair with the
-// vertical seismic force. The editions differ in their wind numbers alone. KDS 41 30 : 2018 has both scales: that of KBC-USD16 for load
-// code 1 and that of KDS 41 20 : 2022 for load code 0. KBC-USD16 reads no underground sets.
+// KBC-USD16, Korean Building Code 2016; KDS 41 30 : 2018 and KDS 41 20 : 2022, Korean Design Standards of 2018 and 2022; ultimate strength
+// design of concrete. One sequence of rows serves them all: service S1 to S8, strength U1 to U7, then the pair with the vertical seismic
+// force.
 //
-// Left out: EP, WP, FP and EH stand in no row. The vertical increment (SPC)(ZEL) is printed for the service rows with EL of S5, S6 and S8
-// too, but increments are never taken in service rows, so those forms cannot arise and have no row here.
+// Covered: dead, live, roof live, snow, rain, wind, earthquake and EV. The editions differ in their wind numbers alone. KDS 41 30 : 2018
+// has both scales: that of KBC-USD16 for load code 1 and that of KDS 41 20 : 2022 for load code 0. KBC-USD16 reads no underground sets.
 //
-// S is the short-period coefficient and V the vertical load factor: a row with the tail (SPC)(ZEL)(DL+EV) has the product in the factors of
-// DL and EV and no item more.
+// Left out: EP, WP, FP and EH; cases of these types stand in no combination. The vertical increment (SPC)(ZEL) is printed for the service
+// rows with EL of S5, S6 and S8 too, but increments are never taken in service rows, so those forms cannot arise and have no row here.
+//
+// S is the short-period coefficient and V the vertical load factor: a row with the tail (SPC)(ZEL)(DL+EV) has the product in the factors
+// of DL and EV and no item more.
 namespace zel::codes {
 
 inline constexpr Row kbc_kds_rows[] = {

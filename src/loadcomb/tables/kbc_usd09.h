@@ -2,11 +2,15 @@
 
 #include "loadcomb/tables/kci_kbc_common.h"
 
-// KBC-USD09: service rows; strength U1 to U8 for the types strength, special and vertical; the pair with the vertical seismic force. The
-// seismic factors are read behind the service rows. For the underground types only the service rows are added.
+// KBC-USD09: ultimate strength design of concrete, Korean Building Code 2009.
 //
-// Left out: EP and WP stand in no row, wind sets and underground sets are not read. With increments, S * V (short-period coefficient times
-// vertical load factor) lies in the factor of DL; the rows of U7 and U8 without wind and earthquake stay as they are.
+// Covered: dead, live, roof live, snow, rain, wind, earthquake, fluid, EH and EV. Service rows; strength U1 to U8 for the types strength,
+// special and vertical; the pair with the vertical seismic force. The seismic factors are read behind the service rows. For the
+// underground types only the service rows are added.
+//
+// Left out: EP and WP; cases of these types stand in no combination. Wind sets and underground sets are not read. With increments, S * V
+// (short-period coefficient times vertical load factor) lies in the factor of DL; the rows of U7 and U8 without wind and earthquake stay
+// as they are.
 namespace zel::codes {
 
 inline constexpr Row kbc_usd09_first[] = {

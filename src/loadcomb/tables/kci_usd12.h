@@ -2,11 +2,15 @@
 
 #include "loadcomb/tables/kci_kbc_common.h"
 
-// KCI-USD12: service rows; strength U1 to U8 for the types strength, special and vertical; the pair with the vertical seismic force. The
-// seismic factors are read behind the service rows. For the underground types only the service rows are added.
+// KCI-USD12: ultimate strength design of concrete, Korea Concrete Institute, 2012.
 //
-// Left out: EP and WP stand in no row, wind sets and underground sets are not read. With increments, S * V (short-period coefficient times
-// vertical load factor) lies in the factors of the groups in the head of a row, and the tail names DL alone, with EV in the head too.
+// Covered: dead, live, roof live, snow, rain, wind, earthquake, fluid, EH and EV. Service rows; strength U1 to U8 for the types strength,
+// special and vertical; the pair with the vertical seismic force. The seismic factors are read behind the service rows. For the
+// underground types only the service rows are added.
+//
+// Left out: EP and WP; cases of these types stand in no combination. Wind sets and underground sets are not read. With increments, S * V
+// (short-period coefficient times vertical load factor) lies in the factors of the groups in the head of a row, and the tail names DL
+// alone, with EV in the head too.
 namespace zel::codes {
 
 inline constexpr Row kci_usd12_first[] = {
