@@ -1,0 +1,102 @@
+#include "cli/program.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace cli_test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Puts a file in the place of a standard stream of this process.
+void redirect(const fs::path& file, int stream, int flags)
+{
+    const int descriptor = open(file.c_str(), flags, 0644);
+    if (descriptor < 0 || dup2(descriptor, stream) < 0)
+        _exit(126);
+    close(descriptor);
+}
+
+int startWith(const std::vector<std::string>& arguments, const fs::path& input, const fs::path& output, const fs::path& error)
+{
+    const std::string program = std::string(ZEL_BIN_DIR) + "/zel";
+    std::vector<char*> words{const_cast<char*>(program.c_str())};
+    for (const std::string& argument : arguments)
+        words.push_back(const_cast<char*>(argument.c_str()));
+    words.push_back(nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        redirect(input, STDIN_FILENO, O_RDONLY);
+        redirect(output, STDOUT_FILENO, O_WRONLY | O_CREAT | O_TRUNC);
+        redirect(error, STDERR_FILENO, O_WRONLY | O_CREAT | O_TRUNC);
+        execv(program.c_str(), words.data());
+        _exit(127);
+    }
+    return child;
+}
+
+fs::path freshFolder()
+{
+    std::string name = (fs::temp_directory_path() / "zel-cli-XXXXXX").string();
+    return mkdtemp(name.data()) != nullptr ? fs::path(name) : fs::path();
+}
+
+}  // namespace
+
+Outcome zel(const std::vector<std::string>& arguments, const std::string& input)
+{
+    const fs::path folder = freshFolder();
+    write(folder / "in", input);
+    const int child = startWith(arguments, folder / "in", folder / "out", folder / "error");
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {}
+    Outcome run{WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(folder / "out"), contents(folder / "error")};
+    fs::remove_all(folder);
+    return run;
+}
+
+int start(const std::vector<std::string>& arguments, const fs::path& input, const fs::path& output)
+{
+    return startWith(arguments, input, output, "/dev/null");
+}
+
+void kill(int process)
+{
+    ::kill(process, SIGKILL);
+    int status = 0;
+    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {}
+}
+
+std::string contents(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void write(const fs::path& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+
+void CliTest::SetUp()
+{
+    folder = freshFolder();
+    ASSERT_FALSE(folder.empty());
+}
+
+void CliTest::TearDown() { fs::remove_all(folder); }
+
+std::string CliTest::modelWithTwoCases(const std::string& name) const
+{
+    const Outcome made = zel({"load", "-", path(name)}, R"({"format": "zel-model", "version": 1, "STLD": [{"name": "DL"}, {"name": "LL", "type": "L"}]})");
+    EXPECT_EQ(made.code, 0) << made.error;
+    return path(name);
+}
+
+}  // namespace cli_test
