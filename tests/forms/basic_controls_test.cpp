@@ -1,6 +1,5 @@
 #include "forms/sample_form.h"
 
-
 #include <gtest/gtest.h>
 
 namespace {

@@ -53,7 +53,7 @@ protected:
     }
     std::unique_ptr<zel::ModelDocument> model = zel::ModelDocument::inMemory();
     zel::HeadlessUserInterface host;
-    Properties* form = new Properties;    // goes with the document
+    Properties* form = new Properties;  // goes with the document
 };
 
 TEST_F(Tabs, ShowTheControlsOfTheChosenPageInReadingOrder)

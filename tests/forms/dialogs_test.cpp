@@ -85,8 +85,7 @@ TEST(ModalDialog, NestsAndLetsInputReachTheInnermostAlone)
     host.inModal([&](CDialog&) {
         host.inModal([&](CDialog& inner) {
             EXPECT_EQ(zel::activeDialog(), &inner);
-            EXPECT_EQ(outer.value.set(CString("x")).refusal,
-                      "the dialog \"Outer\" (Question) can't be reached: \"More\" (Question) waits for input");
+            EXPECT_EQ(outer.value.set(CString("x")).refusal, "the dialog \"Outer\" (Question) can't be reached: \"More\" (Question) waits for input");
             EXPECT_TRUE(static_cast<Question&>(inner).ok.press());
         });
         EXPECT_TRUE(outer.more.press());
@@ -242,7 +241,7 @@ TEST_F(ModelessDialogs, ClosedInsideTheirOwnHandlerLiveUntilItReturns)
     form->press.onClick([&] {
         form->DestroyWindow();
         closed = manager.GetDlg(1) == nullptr && !form->IsWindow();
-        form->name.SetWindowText("still there");    // the sanitizers watch over this
+        form->name.SetWindowText("still there");  // the sanitizers watch over this
     });
     EXPECT_TRUE(form->press.press());
     EXPECT_TRUE(closed) << "the id is free at once";
@@ -255,7 +254,7 @@ TEST_F(ModelessDialogs, ClosedWhileOneOfTheirHandlersRunsAModalDialogLiveUntilIt
     form->press.onClick([&] {
         Question question;
         host.inModal([&](CDialog&) {
-            form->DestroyWindow();    // as a notice does
+            form->DestroyWindow();  // as a notice does
             SampleForm* again = open(1);
             EXPECT_NE(again, form);
             EXPECT_TRUE(again->end.press());

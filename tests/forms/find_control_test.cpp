@@ -9,7 +9,10 @@ struct LabelCase {
     const char* label;
     const char* name;
 };
-void PrintTo(const LabelCase& row, std::ostream* out) { *out << '"' << row.label << '"'; }
+void PrintTo(const LabelCase& row, std::ostream* out)
+{
+    *out << '"' << row.label << '"';
+}
 
 constexpr LabelCase labels[] = {
     {"Name        :", "Name"},
@@ -25,7 +28,10 @@ constexpr LabelCase labels[] = {
 
 class Labels : public testing::TestWithParam<LabelCase> {};
 
-TEST_P(Labels, AreNormalised) { EXPECT_EQ(zel::normalisedLabel(GetParam().label), GetParam().name); }
+TEST_P(Labels, AreNormalised)
+{
+    EXPECT_EQ(zel::normalisedLabel(GetParam().label), GetParam().name);
+}
 
 INSTANTIATE_TEST_SUITE_P(All, Labels, testing::ValuesIn(labels));
 

@@ -1,5 +1,5 @@
-#include "contract/forms/loading_status.h"
 #include "contract/forms/forms.h"
+#include "contract/forms/loading_status.h"
 #include "contract/user_interface.h"
 #include "platform/forms/headless_user_interface.h"
 

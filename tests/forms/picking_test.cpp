@@ -42,7 +42,7 @@ protected:
 
     std::unique_ptr<zel::ModelDocument> model = zel::ModelDocument::inMemory();
     zel::HeadlessUserInterface host;
-    Domain* form = new Domain;    // goes with the document
+    Domain* form = new Domain;  // goes with the document
 };
 
 TEST_F(Picking, CollectsKeysInTheOrderOfPickingEachOnce)

@@ -61,7 +61,7 @@ public:
 
     std::unique_ptr<zel::ModelDocument> model = zel::ModelDocument::inMemory();
     zel::HeadlessUserInterface host;
-    SampleForm* form = new SampleForm;    // goes with the document
+    SampleForm* form = new SampleForm;  // goes with the document
 };
 
 }  // namespace forms_test

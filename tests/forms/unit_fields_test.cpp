@@ -16,8 +16,12 @@ struct ExpressionCase {
     ExpressionFault fault;
     double value;
 };
-void PrintTo(const ExpressionCase& row, std::ostream* out) { *out << '"' << row.text << '"'; }
+void PrintTo(const ExpressionCase& row, std::ostream* out)
+{
+    *out << '"' << row.text << '"';
+}
 
+// clang-format off
 constexpr ExpressionCase expressions[] = {
     {"2.4", ExpressionFault::none, 2.4},
     {" +3 ", ExpressionFault::none, 3.0},
@@ -56,6 +60,7 @@ constexpr ExpressionCase expressions[] = {
     {"0x10", ExpressionFault::character, 0.0},
     {"1=1", ExpressionFault::character, 0.0},
 };
+// clang-format on
 
 class Expressions : public testing::TestWithParam<ExpressionCase> {};
 
@@ -89,10 +94,7 @@ protected:
     CTextUnit lengthUnit{form, "lengthUnit", Unit::length};
     CEditUnit factor{form, "factor", "Factor :"};
 
-    void setUnits(std::int32_t lengthIndex, std::int32_t forceIndex) const
-    {
-        model->GetUnitCtrl()->SetUnitIndexCurrent({lengthIndex, forceIndex}, 1);
-    }
+    void setUnits(std::int32_t lengthIndex, std::int32_t forceIndex) const { model->GetUnitCtrl()->SetUnitIndexCurrent({lengthIndex, forceIndex}, 1); }
 };
 
 TEST_F(UnitFields, AnEmptyFieldHoldsNoNumber)

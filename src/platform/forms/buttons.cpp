@@ -9,8 +9,7 @@
 
 using zel::Taken;
 
-CButton::CButton(const zel::Place& place, std::string_view id, CString caption, zel::Action<> onClick)
-    : Control(place, id, {}), m_onClick(std::move(onClick))
+CButton::CButton(const zel::Place& place, std::string_view id, CString caption, zel::Action<> onClick) : Control(place, id, {}), m_onClick(std::move(onClick))
 {
     m_text = std::move(caption);
 }
@@ -78,10 +77,7 @@ void CRadioGroup::SetSel(int index)
         button->changed();
 }
 
-CRadioButton::CRadioButton(CRadioGroup& radios, std::string_view id, CString caption)
-    : CRadioButton(radios.m_place, radios, id, std::move(caption))
-{
-}
+CRadioButton::CRadioButton(CRadioGroup& radios, std::string_view id, CString caption) : CRadioButton(radios.m_place, radios, id, std::move(caption)) {}
 
 CRadioButton::CRadioButton(const zel::Place& place, CRadioGroup& radios, std::string_view id, CString caption)
     : Control(place, id, {}), m_radios(radios), m_index(static_cast<int>(radios.m_buttons.size()))

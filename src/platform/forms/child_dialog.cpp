@@ -1,7 +1,7 @@
 #include "contract/forms/child_dialog.h"
 
-#include "contract/forms/edit_unit.h"
 #include "contract/format_text.h"
+#include "contract/forms/edit_unit.h"
 #include "contract/messages.h"
 #include "contract/user_interface.h"
 

@@ -56,6 +56,7 @@ Control::Nested entryOf(const CDialog& inside)
 
 const char* kindName(Kind kind)
 {
+    // clang-format off
     switch (kind) {
     case Kind::edit: return "edit";
     case Kind::number: return "number";
@@ -75,6 +76,7 @@ const char* kindName(Kind kind)
     case Kind::graph: return "graph";
     case Kind::picture: return "picture";
     }
+    // clang-format on
     return "";
 }
 
@@ -202,7 +204,7 @@ Taken Control::focus()
     const UserAction action;
     if (Control* former = dialog().GetFocus())
         (void)former->leave();
-    if (Taken reached = reach(); !reached)    // leaving the other field may have closed or disabled this one
+    if (Taken reached = reach(); !reached)  // leaving the other field may have closed or disabled this one
         return reached;
     SetFocus();
     gotFocus();

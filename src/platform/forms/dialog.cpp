@@ -196,7 +196,7 @@ int CDialog::runModal()
         appear();
         if (zel::IUserInterface* host = zel::userInterface())
             host->runModal(*this);
-        if (!hasEnded())    // nobody is there to end it
+        if (!hasEnded())  // nobody is there to end it
             m_endCode = IDCANCEL;
     }
     const int code = m_endCode.value_or(IDCANCEL);
@@ -332,8 +332,12 @@ Taken CDialog::userKey(zel::UserKey key)
             return m_defaultButton->press();
         OnOK();
         break;
-    case zel::UserKey::escape: OnCancel(); break;
-    case zel::UserKey::tab: nextFocus(); break;
+    case zel::UserKey::escape:
+        OnCancel();
+        break;
+    case zel::UserKey::tab:
+        nextFocus();
+        break;
     }
     return {};
 }

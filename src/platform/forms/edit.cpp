@@ -1,8 +1,8 @@
 #include "contract/forms/edit.h"
 
+#include "contract/format_text.h"
 #include "contract/forms/dialog.h"
 #include "contract/forms/field_writer.h"
-#include "contract/format_text.h"
 
 using zel::Taken;
 

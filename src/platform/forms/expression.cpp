@@ -87,7 +87,7 @@ Expression evaluateExpression(std::string_view text)
 {
     if (text.find_first_not_of(alphabet) != std::string_view::npos)
         return {ExpressionFault::character, 0.0};
-    std::optional<double> value = number::read(text);    // most texts are plain numbers
+    std::optional<double> value = number::read(text);  // most texts are plain numbers
     if (!value) {
         const Rewritten rewritten = rewrite(text);
         if (rewritten.fault == ExpressionFault::tooBig)

@@ -217,7 +217,7 @@ Taken CListCtrl::doubleClick(int row)
     const zel::UserAction action;
     if (Taken selected = select({row}); !selected)
         return selected;
-    if (reach())    // the first click may have closed the dialog
+    if (reach())  // the first click may have closed the dialog
         fire(m_onDoubleClick);
     return {};
 }

@@ -1,8 +1,8 @@
 #include "contract/forms/lists.h"
 
+#include "contract/format_text.h"
 #include "contract/forms/field_writer.h"
 #include "contract/forms/find_control.h"
-#include "contract/format_text.h"
 #include "platform/forms/row_numbers.h"
 
 #include <algorithm>
@@ -158,7 +158,7 @@ void CComboBox::SetWindowText(const CString& text)
 int CComboBox::InsertString(int index, const CString& text, std::uintptr_t data)
 {
     const int place = ItemControl::InsertString(index, text, data);
-    if (m_selected >= place && m_selected < GetCount() - 1)    // an item was selected, and has moved down
+    if (m_selected >= place && m_selected < GetCount() - 1)  // an item was selected, and has moved down
         ++m_selected;
     return place;
 }

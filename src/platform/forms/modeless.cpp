@@ -15,10 +15,7 @@ CDlgModelessMgr* managerOf(const CDBDlgBase& dialog)
 
 }  // namespace
 
-CDBDlgBase::CDBDlgBase(unsigned templateId, CString title, CWnd* parent)
-    : CDlgMove(templateId, std::move(title), parent), m_pDoc(CDBDoc::GetDocPoint())
-{
-}
+CDBDlgBase::CDBDlgBase(unsigned templateId, CString title, CWnd* parent) : CDlgMove(templateId, std::move(title), parent), m_pDoc(CDBDoc::GetDocPoint()) {}
 
 CDBDlgBase::~CDBDlgBase()
 {
@@ -30,7 +27,7 @@ CDBDlgBase::~CDBDlgBase()
 
 unsigned CDBDlgBase::RegisterDialog()
 {
-    static unsigned last = 60000;    // above every template number, as some dialogs stand under theirs
+    static unsigned last = 60000;  // above every template number, as some dialogs stand under theirs
     return ++last;
 }
 
@@ -50,7 +47,7 @@ int CDBDlgBase::Create(unsigned id, unsigned templateId, CWnd* /*parent*/)
 void CDBDlgBase::OnOK()
 {
     if (isModal())
-        CDlgMove::OnOK();    // beside the views there is nothing to confirm
+        CDlgMove::OnOK();  // beside the views there is nothing to confirm
 }
 
 void CDBDlgBase::OnCancel()
@@ -63,7 +60,7 @@ void CDBDlgBase::OnCancel()
 
 void CDBDlgBase::PostNcDestroy()
 {
-    if (isModal())    // it lives on its owner's stack
+    if (isModal())  // it lives on its owner's stack
         return;
     if (CDlgModelessMgr* manager = managerOf(*this))
         manager->remove(*this);

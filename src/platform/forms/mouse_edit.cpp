@@ -1,7 +1,7 @@
 #include "contract/forms/mouse_edit.h"
 
-#include "contract/forms/field_writer.h"
 #include "contract/format_text.h"
+#include "contract/forms/field_writer.h"
 #include "contract/model_view.h"
 #include "contract/number_text.h"
 
@@ -44,7 +44,7 @@ Taken CMouseEdit::pick(const std::vector<unsigned>& picked, bool closed)
     if (Taken reached = reach(); !reached)
         return reached;
     const zel::UserAction action;
-    if (Taken focused = focus(); !focused)    // first: a handler of the focus may empty the field
+    if (Taken focused = focus(); !focused)  // first: a handler of the focus may empty the field
         return focused;
 
     std::vector<zel::Key> keys;

@@ -1,7 +1,7 @@
 #include "platform/forms/row_numbers.h"
 
-#include "contract/forms/find_control.h"
 #include "contract/format_text.h"
+#include "contract/forms/find_control.h"
 #include "platform/text/nearest.h"
 
 #include <algorithm>

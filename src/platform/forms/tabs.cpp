@@ -5,10 +5,7 @@
 
 using zel::Taken;
 
-CDlgTabCtrl::CDlgTabCtrl(const zel::Place& place, std::string_view id, zel::Action<> onSelect)
-    : Control(place, id, {}), m_onSelect(std::move(onSelect))
-{
-}
+CDlgTabCtrl::CDlgTabCtrl(const zel::Place& place, std::string_view id, zel::Action<> onSelect) : Control(place, id, {}), m_onSelect(std::move(onSelect)) {}
 
 CDlgTabCtrl::~CDlgTabCtrl()
 {

@@ -1,7 +1,7 @@
 #include "contract/user_interface.h"
 
-#include "contract/forms/loading_status.h"
 #include "contract/format_text.h"
+#include "contract/forms/loading_status.h"
 #include "contract/model_view.h"
 
 #include <cstdarg>

@@ -10,7 +10,7 @@ namespace zel {
 
 WindowList& WindowList::instance()
 {
-    static auto* list = new WindowList;    // never destroyed: dialogs may close as late as in destructors of statics
+    static auto* list = new WindowList;  // never destroyed: dialogs may close as late as in destructors of statics
     return *list;
 }
 
