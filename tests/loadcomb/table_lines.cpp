@@ -1,71 +1,60 @@
 #include "loadcomb/table_lines.h"
 
+#include "loadcomb/generator.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
-#include <set>
 
 namespace tables {
 
 namespace {
 
 using namespace zel::codes;
+using zel::loadcomb::Generator;
+using zel::loadcomb::GeneratorModel;
+using zel::loadcomb::GeneratorOptions;
+using zel::loadcomb::RowSource;
 
-/// "DL LL" cut at its blanks.
-std::vector<std::string_view> words(std::string_view text)
+// No two of the factors below come out as the same number.
+constexpr double shortPeriodCoefficient = 0.6;
+constexpr double verticalLoadFactor = 0.35;
+constexpr double verticalForceFactor = 0.37;
+
+/// A model with one load case in each group, named like the group and with the type of the group.
+GeneratorModel modelOf(std::string_view groups)
 {
-    std::vector<std::string_view> found;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(' '), text.size());
-        if (end > 0)
-            found.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
+    constexpr std::string_view types[groupCount] = {"D", "L", "LR", "W", "E", "S", "EEP", "R", "FP", "EP", "WP", "EH", "EV"};
+    GeneratorModel model;
+    while (!groups.empty()) {
+        const std::string_view group = groups.substr(0, groups.find(' '));
+        groups.remove_prefix(std::min(group.size() + 1, groups.size()));
+        const auto key = static_cast<std::uint32_t>(model.cases.size() + 1);
+        model.cases.push_back({key, CString(group), CString(types[static_cast<std::size_t>(wordOf(group))])});
     }
-    return found;
-}
-
-Facts factsOf(std::string_view groups, Word type)
-{
-    Facts facts = fact(type) | fact(Word::firstPass);
-    for (const std::string_view group : words(groups))
-        facts |= fact(wordOf(group));
-    if ((facts & (fact(Word::LR) | fact(Word::SL) | fact(Word::RL))) != 0)
-        facts |= fact(Word::X);
-    return facts;
-}
-
-/// The facts as a pass with snow in the place of roof live load sees them.
-Facts withSnow(Facts facts)
-{
-    facts &= ~(fact(Word::LR) | fact(Word::firstPass));
-    return (facts & fact(Word::SL)) != 0 ? facts | fact(Word::LR) : facts;
-}
-
-bool has(Facts facts, std::string_view group) { return (facts & fact(wordOf(group))) != 0; }
-
-/// A word of the text with both parentheses needs one of its groups, any other word needs each of its groups.
-bool canFeed(const Row& row, Facts facts)
-{
-    for (const std::string_view word : words(row.text)) {
-        int present = 0;
-        int absent = 0;
-        for (const Pair& pair : row.pairs) {
-            if (!pair.group.name.empty() && word.find(pair.group.name) != std::string_view::npos)
-                ++(has(facts, pair.group.name) ? present : absent);
-        }
-        const bool choice = word.find('(') != std::string_view::npos && word.find(')') != std::string_view::npos;
-        if (absent > 0 && (!choice || present == 0))
-            return false;
-    }
-    return true;
+    model.seismic.emplace();
+    model.seismic->shortPeriodCoefficient = shortPeriodCoefficient;
+    model.seismic->verticalLoadFactor = verticalLoadFactor;
+    model.seismic->verticalForceFactor = verticalForceFactor;
+    return model;
 }
 
 std::string numberText(double value)
 {
+    constexpr double spectrum = shortPeriodCoefficient * verticalLoadFactor;
     const struct {
         double value;
         const char* text;
-    } printed[] = {{2.0 / 3.0, "2/3"}, {0.7 * (2.0 / 3.0), "0.7*2/3"}, {1.0 / 1.35, "1/1.35"}, {0.75 * 1.4, "0.75*1.4"}};
+    } printed[] = {
+        {2.0 / 3.0, "2/3"},
+        {0.7 * (2.0 / 3.0), "0.7*2/3"},
+        {1.0 / 1.35, "1/1.35"},
+        {0.75 * 1.4, "0.75*1.4"},
+        {0.75 * 1.4 + spectrum, "0.75*1.4 + S*V"},
+        {0.75 * 1.4 - spectrum, "0.75*1.4 - S*V"},
+        {0.9 - spectrum, "0.9 - S*V"},
+        {verticalForceFactor, "VER"},
+    };
     for (const auto& one : printed) {
         if (value == one.value || value == -one.value)
             return (value < 0.0 ? "-" : "") + std::string(one.text);
@@ -74,14 +63,16 @@ std::string numberText(double value)
     return {digits, std::to_chars(digits, digits + sizeof digits, value).ptr};
 }
 
-std::string factorText(const Pair& pair)
+/// Whether the row was added by a pass that takes SL for LR: its text is not the printed one.
+bool readsSnow(const CodeTable& table, const RowSource& source)
 {
-    switch (pair.with) {
-    case plusSpectrum: return numberText(pair.factor) + " + S*V";
-    case minusSpectrum: return numberText(pair.factor) + " - S*V";
-    case verticalForce: return numberText(pair.factor) + "*VER";
-    default: return numberText(pair.factor);
+    for (const Part& part : table.parts) {
+        for (const Row& row : part.rows) {
+            if (row.text == source.text)
+                return false;
+        }
     }
+    return true;
 }
 
 struct Line {
@@ -93,26 +84,21 @@ struct Line {
 
 std::vector<Line> linesOf(const CodeTable& table, std::string_view groups, Word type)
 {
-    const Facts model = factsOf(groups, type);
+    const GeneratorModel model = modelOf(groups);
+    GeneratorOptions options;
+    options.combType = static_cast<int>(type) - static_cast<int>(Word::typeStrength);
+    Generator generator(model, options);
+    generator.trace();
+    generator.runTable(table);
+
     std::vector<Line> found;
-    std::set<std::string> known;
-    for (const Part& part : table.parts) {
-        const Facts facts = part.liveRoofIsSnow ? withSnow(model) : model;
-        if (!part.when.met(facts))
-            continue;
-        for (const Row& row : part.rows) {
-            if (!row.when.met(facts) || !canFeed(row, facts))
-                continue;
-            Line line{row.flag == service ? "service" : "strength", std::string(row.block), part.liveRoofIsSnow, {}};
-            for (const Pair& pair : row.pairs) {
-                if (pair.group.name.empty() || !has(facts, pair.group.name))
-                    continue;
-                const bool snow = part.liveRoofIsSnow && pair.group.name == "LR";
-                line.items += (line.items.empty() ? "" : ", ") + std::string(snow ? "SL" : pair.group.name) + " " + factorText(pair);
-            }
-            if (known.insert(line.flag + line.items).second)
-                found.push_back(line);
-        }
+    for (std::size_t i = 0; i < generator.rows().size(); ++i) {
+        const T_LCOM_D& record = generator.rows()[i];
+        const RowSource& source = generator.outcomes()[generator.origins()[i].row].source;
+        Line line{record.active == 0 ? "service" : "strength", source.block, readsSnow(table, source), {}};
+        for (const T_LCOM_ITEM& item : record.items)
+            line.items += (line.items.empty() ? "" : ", ") + model.cases[item.key - 1].name + " " + numberText(item.factor);
+        found.push_back(line);
     }
     return found;
 }

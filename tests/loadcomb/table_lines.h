@@ -6,15 +6,16 @@
 #include <string_view>
 #include <vector>
 
-// What a code's table hands over for a model with one case in each of the named groups, as lines to be read beside the printed code:
+// The combinations that a code's table gives for a model with one case in each of the named groups, as lines to be read beside the
+// printed code. Each line begins with the row that it comes from:
 //
 //     service 2: DL 2/3, LL 2/3, WL 2/3
 //     strength 7: DL 0.75*1.4, LL 1.275, WL 1.275
 //     strength 2 with snow: DL 1.2, SL 1.4                       row 2 in the pass that takes SL for LR
-//     strength 40: DL 0.75*1.4 + S*V, LL 1.275, EL 1
+//     strength 40: DL 0.75*1.4 + S*V, LL 1.275, EL 1             S short-period coefficient, V vertical load factor
+//     strength 69: DL -VER, EL 1                                 VER vertical force factor
 //
-// Only groups with cases stand in a line. A row that the model cannot feed is left out, as is a row with the flag and the factors of
-// an earlier one: the lines are the combinations of that model.
+// "service" and "strength" are what the combination is stored as, 0 and 1 in `active`.
 namespace tables {
 
 using Lines = std::vector<std::string>;

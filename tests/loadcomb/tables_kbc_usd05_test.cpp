@@ -110,8 +110,8 @@ TEST(KbcUsd05, TheVerticalBlockLiftsTheDeadLoad)
         "service 66: DL 0.75*1.4, EL -1",
         "service 67: DL 0.9, EL 1",
         "service 68: DL 0.9, EL -1",
-        "strength 69: DL -1*VER, EL 1",
-        "strength 70: DL -1*VER, EL -1",
+        "strength 69: DL -VER, EL 1",
+        "strength 70: DL -VER, EL -1",
         "strength 71: DL 0.75*1.4, LL 1.275",
         "strength 72: DL 1.4",
     }));
