@@ -1,10 +1,12 @@
 #pragma once
 
+#include "cli/combination_printer.h"
 #include "contract/records/unit_index.h"
 
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 /// The commands of `zel`, each in the file of its name. They return the exit code of the program and throw what ends the job
 /// with code 1: a std::exception whose text says what went wrong, where, and what to do.
@@ -47,5 +49,38 @@ struct PlayJournal {
     bool strict = false;
 };
 int playJournal(const PlayJournal& job);
+
+struct GenerateCombinations {
+    std::filesystem::path model;
+    std::string code;
+    int kind = 1;
+    bool replace = false;
+    int combType = 0;
+    bool orthogonal = false;
+    double alphaH = 1.0;
+    std::vector<std::string> scales;    ///< "CASE=FACTOR[,PARTNER]"
+    bool dryRun = false;
+    Format format = Format::table;
+    std::string out = "-";
+    std::string explain;                ///< name of a combination; empty for none
+    bool whyNot = false;
+};
+int generateCombinations(const GenerateCombinations& job);
+
+struct ListCombinations {
+    std::filesystem::path model;
+    std::optional<int> kind;            ///< none: all kinds
+    Format format = Format::table;
+    std::string out = "-";
+};
+int listCombinations(const ListCombinations& job);
+
+struct ListCodes {
+    bool json = false;
+};
+int listCodes(const ListCodes& job);
+
+/// Reads jobs from standard input, one a line, and prints the result of each on a line.
+int runBatch();
 
 }  // namespace zel::cli

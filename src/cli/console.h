@@ -7,16 +7,24 @@
 
 namespace zel::cli {
 
+/// A message that a job would have shown to a user.
+struct ToldMessage {
+    std::string key;     ///< in the message catalogue; the text itself where it has none
+    std::string text;
+};
+
 /// The user interface of a job that runs without dialogs: it keeps what the model would tell a user, answers every
 /// question with OK or Yes, and opens nothing. It is installed while it lives.
-class Console final : public IUserInterface {
+class Console : public IUserInterface {
 public:
-    Console() : m_former(setUserInterface(this)) {}
-    ~Console() override { setUserInterface(m_former); }
+    Console();
+    ~Console() override;
 
-    /// What was told, joined by blanks; empty if nothing was.
-    [[nodiscard]] std::string messages() const;
-    [[nodiscard]] const std::vector<CString>& messageList() const { return m_messages; }
+    [[nodiscard]] const std::vector<ToldMessage>& messages() const { return m_messages; }
+    /// The texts, joined by blanks, each once; empty if nothing was told.
+    [[nodiscard]] std::string told() const;
+    [[nodiscard]] std::vector<std::string> keys() const;
+    void forget() { m_messages.clear(); }
 
     int messageBox(const CString& text, unsigned type) override;
     bool openFile(const CString& /*filter*/, CString& /*path*/) override { return false; }
@@ -38,7 +46,7 @@ public:
 
 private:
     IUserInterface* m_former;
-    std::vector<CString> m_messages;
+    std::vector<ToldMessage> m_messages;
 };
 
 }  // namespace zel::cli

@@ -41,7 +41,7 @@ int loadModel(const LoadModel& job)
         storeRows(*document, rowsOfModelJson(json));
         document->saveCopy(job.model, job.replace);
     } catch (const JsonFault& fault) {
-        const std::string told = console.messages();
+        const std::string told = console.told();
         throw std::runtime_error(input.name() + ": " + fault.what() + (told.empty() ? "" : ": " + told) + ". Nothing was written.");
     }
     return succeeded;

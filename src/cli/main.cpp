@@ -98,6 +98,69 @@ void addPlay(CLI::App& app, Job& job)
                    "be opened; 2 some command could not be carried out.");
 }
 
+CLI::Option* addFormat(CLI::App& command, Format& format)
+{
+    static const std::map<std::string, Format> formats{{"table", Format::table}, {"json", Format::json}, {"csv", Format::csv}, {"lcb", Format::lcb}};
+    return command.add_option("--format", format, "table, for reading; json; csv, for spreadsheets; lcb, lines for other programs")
+        ->transform(CLI::CheckedTransformer(formats).description(""))
+        ->type_name("table|json|csv|lcb")
+        ->default_str("table");
+}
+
+void addGenerate(CLI::App& app, Job& job)
+{
+    static const std::map<std::string, int> types{{"strength", 0}, {"special", 1}, {"vertical", 2}, {"underground", 3}, {"underground-special", 4}};
+    CLI::App& command = addCommand(app, "generate", "Generate the load combinations of a design code",
+                                   "zel generate tower.qvx --code \"KDS 41 20 : 2022\" --replace --orthogonal --scale EX=1.25,EXe");
+    auto options = std::make_shared<GenerateCombinations>();
+    command.add_option("MODEL", options->model, "the model file")->required();
+    command.add_option("--code", options->code, "name of the design code; \"zel codes\" lists them")->required();
+    command.add_option("--kind", options->kind, "design kind, 1 to 5; only kind 1 (general) has design codes")->check(CLI::Range(1, 5))->capture_default_str();
+    CLI::Option* replace = command.add_flag("--replace", options->replace, "replace the combinations of the kind");
+    command.add_flag("--add")->description("add to the combinations of the kind (the default)")->excludes(replace);
+    command.add_option("--type", options->combType, "type of the combinations")
+        ->transform(CLI::CheckedTransformer(types).description(""))
+        ->type_name("strength|special|vertical|underground|underground-special")
+        ->default_str("strength");
+    command.add_flag("--orthogonal", options->orthogonal, "orthogonal effect by the 100:30 rule");
+    command.add_option("--alpha-h", options->alphaH, "alpha_H of horizontal earth pressure")->capture_default_str();
+    command.add_option("--scale", options->scales, "scale factor of a response spectrum case and its eccentric case; a case by name or #KEY; may be repeated")
+        ->type_name("CASE=FACTOR[,PARTNER]")
+        ->take_all();
+    command.add_flag("--dry-run", options->dryRun, "print, and store nothing");
+    addFormat(command, options->format);
+    command.add_option("--out", options->out, "file for the result; - is standard output")->capture_default_str();
+    command.add_option("--explain", options->explain, "print where this combination comes from, instead of the result")->type_name("NAME");
+    command.add_flag("--why-not", options->whyNot, "print which rows of the code gave nothing and why, instead of the result");
+    command.callback([options, &job] { job = [options] { return generateCombinations(*options); }; });
+}
+
+void addCombinations(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "combinations", "List or export the stored load combinations", "zel combinations tower.qvx --format csv --out tower.csv");
+    auto options = std::make_shared<ListCombinations>();
+    command.add_option("MODEL", options->model, "the model file")->required();
+    command.add_option("--kind", options->kind, "design kind, 1 to 5; all kinds without it")->check(CLI::Range(1, 5));
+    addFormat(command, options->format);
+    command.add_option("--out", options->out, "file for the result; - is standard output")->capture_default_str();
+    command.callback([options, &job] { job = [options] { return listCombinations(*options); }; });
+}
+
+void addCodes(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "codes", "List the design codes and what each treats", "zel codes");
+    auto options = std::make_shared<ListCodes>();
+    command.add_flag("--json", options->json, "print a JSON list");
+    command.callback([options, &job] { job = [options] { return listCodes(*options); }; });
+}
+
+void addBatch(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "batch", "Generate for many models: jobs from standard input, one JSON object a line, a result line each",
+                                   "zel batch < jobs.jsonl > results.jsonl");
+    command.callback([&job] { job = [] { return runBatch(); }; });
+}
+
 int run(const Job& job)
 {
     try {
@@ -123,6 +186,10 @@ int main(int argc, char** argv)
     addLoad(app, job);
     addDump(app, job);
     addPlay(app, job);
+    addGenerate(app, job);
+    addCombinations(app, job);
+    addCodes(app, job);
+    addBatch(app, job);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& asked) {    // --help or --version

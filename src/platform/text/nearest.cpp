@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace zel {
@@ -28,11 +29,18 @@ std::size_t distance(std::string_view left, std::string_view right)
     return row.back();
 }
 
+constexpr std::size_t longestWord = 200;    // a longer one is no typing error, and the comparison is quadratic
+
+bool holds(std::string_view text, std::string_view word)
+{
+    const auto found = std::search(text.begin(), text.end(), word.begin(), word.end(), [](char left, char right) { return lower(left) == lower(right); });
+    return !word.empty() && found != text.end();
+}
+
 }  // namespace
 
 std::string nearest(std::string_view word, std::span<const std::string_view> candidates)
 {
-    constexpr std::size_t longestWord = 200;    // a longer one is no typing error, and the comparison is quadratic
     if (word.size() > longestWord)
         return {};
     std::string_view best;
@@ -53,6 +61,32 @@ std::string didYouMean(std::string_view word, std::span<const std::string_view> 
 {
     const std::string best = nearest(word, candidates);
     return best.empty() ? std::string() : "; did you mean \"" + best + "\"?";
+}
+
+std::vector<std::string> nearestNames(std::string_view word, std::span<const std::string_view> candidates, std::size_t count)
+{
+    std::vector<std::pair<std::size_t, std::string>> ranked;
+    for (const std::string_view candidate : candidates) {
+        const bool same = holds(candidate, word) || holds(word, candidate);
+        const std::size_t far = same ? 1 : distance(word.substr(0, longestWord), candidate.substr(0, longestWord));
+        ranked.emplace_back(far, std::string(candidate));
+    }
+    std::stable_sort(ranked.begin(), ranked.end(), [](const auto& left, const auto& right) { return left.first < right.first; });
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < std::min(count, ranked.size()); ++i)
+        names.push_back(std::move(ranked[i].second));
+    return names;
+}
+
+std::string quotedList(const std::vector<std::string>& names)
+{
+    std::string list;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (i > 0)
+            list += i + 1 == names.size() ? " and " : ", ";
+        list += "\"" + names[i] + "\"";
+    }
+    return list;
 }
 
 }  // namespace zel

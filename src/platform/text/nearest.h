@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zel {
 
@@ -12,5 +14,11 @@ std::string nearest(std::string_view word, std::span<const std::string_view> can
 
 /// "; did you mean \"name\"?" for the nearest candidate, and an empty text when none is near.
 std::string didYouMean(std::string_view word, std::span<const std::string_view> candidates);
+
+/// At most `count` candidates, however far they are, the nearest first. One that holds the word is as near as one letter.
+std::vector<std::string> nearestNames(std::string_view word, std::span<const std::string_view> candidates, std::size_t count);
+
+/// "\"A\", \"B\" and \"C\""; empty for no names.
+std::string quotedList(const std::vector<std::string>& names);
 
 }  // namespace zel
