@@ -113,10 +113,15 @@ bool CLoadCaseUnderMainGrid::IsFree(const T_LCUG_SEIS& group, const CArray<T_LCU
     return true;
 }
 
-bool CLoadCaseUnderMainGrid::ValidateRecord(const CArray<CString>& texts, const CArray<int>& /*columns*/)
+bool CLoadCaseUnderMainGrid::IsComplete(const CArray<CString>& texts)
 {
     const CString missing = zel::loadText("IDS_ZEL_CMD___has_not_been_entered_");
-    if (!ValidateTexts({texts[loadCaseColumn], texts[directionColumn]}, {loadCaseColumn, directionColumn}, missing, Fields::passOver))
+    return ValidateTexts({texts[loadCaseColumn], texts[directionColumn]}, {loadCaseColumn, directionColumn}, missing, Fields::passOver);
+}
+
+bool CLoadCaseUnderMainGrid::ValidateRecord(const CArray<CString>& texts, const CArray<int>& /*columns*/)
+{
+    if (!IsComplete(texts))
         return false;
     T_LCUG_SEIS group;
     ReadTexts(texts, group);
@@ -154,12 +159,12 @@ bool CLoadCaseUnderMainGrid::DeleteFromDB(const CArray<int>& rows)
     return true;
 }
 
-// Pasting: the key of a row is its number
+// Pasting: the key of a row is its number. Whether rows are alike shows when all of them stand together.
 
-bool CLoadCaseUnderMainGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys,
+bool CLoadCaseUnderMainGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& /*columns*/, zel::GridValues& keys,
                                                  zel::GridValues& records)
 {
-    if (!ValidateRecord(texts, columns))
+    if (!IsComplete(texts))
         return false;
     const int row = zel::number::readInteger(texts[noColumn]).value_or(0);
     const T_LCUG_SEIS* stored = GroupOf(row);

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] static int GetDirByTitle(const CString& title);
 
 private:
+    /// Whether load case and direction have been entered; a warning if not.
+    bool IsComplete(const CArray<CString>& texts);
     /// Load case and direction out of the texts of a row; the earth pressures stay.
     static void ReadTexts(const CArray<CString>& texts, T_LCUG_SEIS& group);
     /// Whether no other row than `exceptRow` (from 1; 0: none) has the load case in that direction. A warning if one has.

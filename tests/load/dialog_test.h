@@ -2,6 +2,7 @@
 
 #include "command/exported_dialogs.h"
 #include "contract/forms/find_control.h"
+#include "contract/messages.h"
 #include "contract/tables/load_tables.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/messages/message_catalogue.h"
@@ -11,6 +12,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -35,6 +37,7 @@ public:
     }
 
     void set(std::string_view name, const char* value) const { done(at(name).set(CString(value))); }
+    void choose(std::string_view name, int place) const { done(at(name).set(static_cast<double>(place))); }
     void tick(std::string_view name, bool on) const { done(at(name).set(on)); }
     void press(std::string_view name) const { done(at(name).press()); }
     void select(std::string_view name, const std::vector<int>& rows) const { done(at(name).select(rows)); }

@@ -159,8 +159,7 @@ TEST_F(WindSets, AddAppendsTheSetAndASetOfALowBuildingHasNoTorsion)
         form.press("Add");
         EXPECT_THAT(form.rows(), ElementsAre(Texts{"1", "WY", "WAX", "WTX", "2.2", "0.8"}, Texts{"2", "WY", "WAX", "-", "-", "-"}));
         EXPECT_THAT(form.selected(), ElementsAre(1));
-        form.set("Torsion Wind Direction :", "1");
-        form.at("Torsion Wind Direction :").choose(1.0);
+        form.choose("Torsion Wind Direction :", 1);
         form.press("OK");
     });
     EXPECT_EQ(code, IDOK);
