@@ -48,6 +48,16 @@ public:
     /// Appends the items of `source` to `target`. Returns 0, with the target unchanged, when the sum exceeds 50 items.
     int Merge(T_LCOM_D& target, const T_LCOM_D& source) const;
 
+    /// Adds the loads of each static load case of `combination`, times its factor, to the static load case `targetKey`. One change of
+    /// the model. The combination may contain the target: everything is read before anything is written.
+    ///
+    /// Self weight: the factors are added up. Point loads, specified displacements and their interpolations: copied; those at the same
+    /// place and of the same sub-load case are added up. Line and area loads: each assigned type that holds a case of the combination
+    /// gives a new type, named by the old name and the first free number, assigned to the same objects.
+    /// @param attributes   which kinds of loads
+    /// @param deleteFlag   not 0: the target's own loads of these kinds are removed first
+    int MakeLoadsByCombination(const T_LCOM_D& combination, zel::Key targetKey, const T_LOAD_ATTR& attributes, int deleteFlag);
+
 private:
     static const T_LCOM_D& typed(const zel::RecordPtr& record) { return *static_cast<const T_LCOM_D*>(record.get()); }
 };
