@@ -2,6 +2,7 @@
 
 #include "loadcomb/number_token.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <vector>
@@ -106,10 +107,52 @@ Findings lookAt(std::string_view text)
             }
             break;
         default:
-            found.brackets |= looseSign(text, i, ignored) != 0;
+            if (i == 0 || text[i - 1] != ' ' || at(text, i + 1) != ' ')    // a sign between blanks is never loose
+                found.brackets |= looseSign(text, i, ignored) != 0;
         }
     }
     return found;
+}
+
+/// Walks parentheses from left to right: how deep the place is, and whether one has closed what was not open.
+struct Depth {
+    int open = 0;
+    bool unpaired = false;
+
+    void pass(char c)
+    {
+        if (c == '(')
+            ++open;
+        else if (c == ')' && --open < 0)
+            unpaired = true;
+    }
+};
+
+/// Length of the longest part of `text`, no longer than `limit`, that ends before a blank and has all its parentheses in pairs.
+std::size_t pairedFront(std::string_view text, std::size_t limit)
+{
+    Depth depth;
+    std::size_t length = 0;
+    for (std::size_t i = 0; i < std::min(text.size(), limit) && !depth.unpaired; ++i) {
+        if (text[i] == ' ' && depth.open == 0)
+            length = i;
+        depth.pass(text[i]);
+    }
+    return length;
+}
+
+/// Length of the longest end of `text`, no longer than `limit`, that begins with a blank and has all its parentheses in pairs.
+std::size_t pairedBack(std::string_view text, std::size_t limit)
+{
+    Depth depth;
+    std::size_t length = 0;
+    for (std::size_t i = 1; i <= std::min(text.size(), limit) && !depth.unpaired; ++i) {
+        const char c = text[text.size() - i];
+        depth.pass(c == '(' ? ')' : (c == ')' ? '(' : c));    // backwards each is the other
+        if (c == ' ' && depth.open == 0 && !depth.unpaired)
+            length = i;
+    }
+    return length;
 }
 
 /// Shortens names of which none overlaps another; `i` is the "L" of the first.
@@ -138,22 +181,24 @@ void deleteLooseSigns(std::string& text)
 
 void deleteShortParentheses(std::string& text)
 {
-    std::string kept;
     std::vector<std::size_t> open;
-    for (const char c : text) {
+    std::size_t kept = 0;    // characters of the result, which grows in the place of what has been read
+    for (const char c : std::string_view(text)) {
         if (c == '(')
-            open.push_back(kept.size());
+            open.push_back(kept);
         if (c == ')' && !open.empty()) {
             const std::size_t partner = open.back();
             open.pop_back();
-            if (static_cast<std::ptrdiff_t>(kept.size() - partner) < shortestPair) {
-                kept.erase(partner, 1);
+            if (static_cast<std::ptrdiff_t>(kept - partner) < shortestPair) {
+                std::copy(text.begin() + static_cast<std::ptrdiff_t>(partner) + 1, text.begin() + static_cast<std::ptrdiff_t>(kept),
+                          text.begin() + static_cast<std::ptrdiff_t>(partner));
+                --kept;
                 continue;
             }
         }
-        kept += c;
+        text[kept++] = c;
     }
-    text = std::move(kept);
+    text.resize(kept);
 }
 
 void shortenGroupNames(std::string& text)
@@ -175,6 +220,43 @@ void rewriteDescription(std::string& text)
         shortenGroupNames(text);
     else if (found.firstName != nowhere)
         shortenSeparateNames(text, found.firstName);
+}
+
+SharedRewriting::SharedRewriting(const std::string& first, const std::string& last)
+{
+    const std::size_t shorter = std::min(first.size(), last.size());
+    const auto alike = static_cast<std::size_t>(std::mismatch(first.begin(), first.begin() + static_cast<std::ptrdiff_t>(shorter), last.begin()).first - first.begin());
+    m_front = first.substr(0, pairedFront(first, alike));
+    const auto alikeBack = static_cast<std::size_t>(std::mismatch(first.rbegin(), first.rbegin() + static_cast<std::ptrdiff_t>(shorter), last.rbegin()).first - first.rbegin());
+    m_back = first.substr(first.size() - pairedBack(first, std::min(alikeBack, shorter - m_front.size())));
+    m_rewrittenFront = m_front;
+    rewriteDescription(m_rewrittenFront);
+    m_rewrittenBack = m_back;
+    rewriteDescription(m_rewrittenBack);
+}
+
+void SharedRewriting::rewrite(std::string& text) const
+{
+    const std::size_t front = m_front.size();
+    const std::size_t back = m_back.size();
+    const bool shares = text.size() > front + back && (front == 0 || text[front] == ' ') && text.compare(0, front, m_front) == 0 && text.compare(text.size() - back, back, m_back) == 0;
+    if (!shares) {
+        rewriteDescription(text);
+        return;
+    }
+    const std::string_view middle(text.data() + front, text.size() - front - back);
+    const Findings found = lookAt(middle);
+    if (found.brackets || found.nestedNames || found.firstName != nowhere) {
+        std::string own(middle);
+        rewriteDescription(own);
+        text.assign(m_rewrittenFront).append(own).append(m_rewrittenBack);
+        return;
+    }
+    // The middle stays and only moves: rewriting never makes a text longer.
+    char* to = std::copy(m_rewrittenFront.begin(), m_rewrittenFront.end(), text.data());
+    to = std::copy(middle.begin(), middle.end(), to);
+    to = std::copy(m_rewrittenBack.begin(), m_rewrittenBack.end(), to);
+    text.resize(static_cast<std::size_t>(to - text.data()));
 }
 
 void cutDescription(std::string& text)

@@ -11,6 +11,22 @@ namespace zel::loadcomb {
 /// All steps below, in their order.
 ZEL_CMD_API void rewriteDescription(std::string& text);
 
+/// Rewrites the many formulas of one row, which begin and end alike: the common parts are rewritten once.
+///
+/// A part in front of a blank with all its parentheses in pairs, and a part behind one, are rewritten the same by themselves as in the whole
+/// formula. So the result is that of `rewriteDescription`, whatever the formulas are.
+class ZEL_CMD_API SharedRewriting {
+public:
+    /// @param first, last  two formulas of the row; what they share is taken for shared by all
+    SharedRewriting(const std::string& first, const std::string& last);
+
+    void rewrite(std::string& text) const;
+
+private:
+    std::string m_front, m_rewrittenFront;    ///< up to a blank, without it
+    std::string m_back, m_rewrittenBack;      ///< from a blank on
+};
+
 /// Deletes every "(APH)" that is left.
 ZEL_CMD_API void deleteAlphaTokens(std::string& text);
 

@@ -1,6 +1,5 @@
 #include "loadcomb/generator.h"
 
-#include "loadcomb/description.h"
 #include "loadcomb/number_token.h"
 #include "loadcomb/row_text.h"
 #include "loadcomb/tables/code_registry.h"
@@ -262,22 +261,23 @@ void Generator::addRow(int serviceOrStrength, std::string_view rowText, std::spa
         expansion.extend(row.groups[i], row.factors[i]);
 
     Drafts& drafts = expansion.drafts();
-    for (std::size_t i = 0; i < drafts.list.size(); ++i)
-        finish(std::move(drafts.list[i]), flag != 0, m_state.tracing ? std::move(drafts.choices[i]) : Choices());
     if (drafts.list.empty())
-        noteOutcome(drafts.started ? RowResult::noOrthogonalPair : RowResult::setWithoutCases);
-    else if (m_outcomes.back().combinations == 0)
+        return noteOutcome(drafts.started ? RowResult::noOrthogonalPair : RowResult::setWithoutCases);
+    const SharedRewriting rewriting(drafts.list.front().text, drafts.list.back().text);
+    for (std::size_t i = 0; i < drafts.list.size(); ++i)
+        finish(std::move(drafts.list[i]), flag != 0, m_state.tracing ? std::move(drafts.choices[i]) : Choices(), rewriting);
+    if (m_outcomes.back().combinations == 0)
         noteOutcome(RowResult::onlyDuplicates);
 }
 
-void Generator::finish(Draft&& draft, bool strength, Choices choices)
+void Generator::finish(Draft&& draft, bool strength, Choices choices, const SharedRewriting& rewriting)
 {
     T_LCOM_D record;
     record.number = draft.number;
     record.active = strength ? 1 : 0;
     record.description = std::move(draft.text);
     record.items = std::move(draft.items);
-    rewriteDescription(record.description);
+    rewriting.rewrite(record.description);
     if (draft.number != 0)
         appendExtras(record);
 

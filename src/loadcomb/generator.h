@@ -7,6 +7,7 @@
 #include "contract/records/slcf.h"
 #include "loadcomb/code_rows.h"
 #include "loadcomb/combination_list.h"
+#include "loadcomb/description.h"
 #include "loadcomb/expansion.h"
 #include "loadcomb/origin.h"
 
@@ -92,7 +93,7 @@ public:
 
 private:
     void noteOutcome(RowResult result, std::string missing = {});
-    void finish(Draft&& draft, bool strength, Choices choices);
+    void finish(Draft&& draft, bool strength, Choices choices, const SharedRewriting& rewriting);
     void appendExtras(T_LCOM_D& record) const;
 
     GeneratorModel m_model;

@@ -1,0 +1,282 @@
+// The generator of load combinations on a tower: one case each of D, L, LR and S, n wind sets with along, across and torsion case, 8 earthquake
+// cases in 4 orthogonal pairs, each with an eccentric partner; code "KDS 41 20 : 2022", orthogonal. n is the argument.
+//
+//   Generate          in memory, without a model
+//     rows_per_second       combinations made in a second
+//     ratio_to_bare_build   time over a loop that copies the same names, formulas and items into the same structs
+//     bytes_ratio           peak of the memory taken during the run over the bytes of the rows
+//     growth                exponent of the time over n: from n/10 (n/4 for 400) to n
+//   Store             the rows of a run into a model file
+//     ratio_to_bare_insert  time over prepared inserts of the same rows in one transaction
+//
+// Each ratio is measured inside one run, the two sides in turn.
+
+#include "contract/tables/load_combination_table.h"
+#include "loadcomb/generator.h"
+#include "platform/modeldb/file_format.h"
+#include "platform/modeldb/model_document.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <malloc.h>
+#include <new>
+#include <sqlite3.h>
+#include <stdexcept>
+
+namespace {
+
+/// Memory taken and given back while it is switched on [bytes].
+struct MemoryCount {
+    bool on = false;
+    std::ptrdiff_t now = 0;
+    std::ptrdiff_t peak = 0;
+};
+MemoryCount memory;
+
+}  // namespace
+
+void* operator new(std::size_t size)
+{
+    void* const taken = std::malloc(size == 0 ? 1 : size);
+    if (taken == nullptr)
+        throw std::bad_alloc();
+    if (memory.on) {
+        memory.now += static_cast<std::ptrdiff_t>(malloc_usable_size(taken));
+        memory.peak = std::max(memory.peak, memory.now);
+    }
+    return taken;
+}
+
+void operator delete(void* given) noexcept
+{
+    if (memory.on)
+        memory.now -= static_cast<std::ptrdiff_t>(malloc_usable_size(given));
+    std::free(given);
+}
+
+void operator delete(void* given, std::size_t) noexcept
+{
+    operator delete(given);
+}
+
+namespace {
+
+using zel::loadcomb::Generator;
+using zel::loadcomb::GeneratorModel;
+using zel::loadcomb::GeneratorOptions;
+
+constexpr const char* code = "KDS 41 20 : 2022";
+
+template <class Work> double timed(Work&& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+struct Tower {
+    GeneratorModel model;
+    GeneratorOptions options;
+
+    explicit Tower(std::int64_t windSets)
+    {
+        add("DL", "D");
+        add("LL", "L");
+        add("LR", "LR");
+        add("SL", "S");
+        model.windSets.emplace();
+        for (std::int64_t i = 1; i <= windSets; ++i) {
+            T_LCWD_BASE set;
+            const std::string number = std::to_string(i);
+            set.along = add("W" + number, "W");
+            set.across = add("WA" + number, "WA");
+            set.torsion = add("WT" + number, "WT");
+            model.windSets->sets.push_back(set);
+        }
+        model.orthogonal.emplace();
+        for (int i = 1; i <= 4; ++i) {
+            const std::string number = std::to_string(i);
+            const std::uint32_t x = add("RX" + number, "E");
+            const std::uint32_t y = add("RY" + number, "E");
+            model.orthogonal->pairs.push_back({x, y});
+            for (const std::uint32_t key : {x, y}) {
+                options.scaleFactors[key] = 1.0 + 0.05 * i;
+                options.eccentricCases[key] = add((key == x ? "ESX" : "ESY") + number, "E");
+            }
+        }
+        options.orthoOption = true;
+    }
+
+    std::uint32_t add(const std::string& name, const char* type)
+    {
+        const auto key = static_cast<std::uint32_t>(model.cases.size() + 1);
+        model.cases.push_back({key, name, type});
+        return key;
+    }
+};
+
+std::vector<T_LCOM_D> generated(const Tower& tower)
+{
+    Generator generator(tower.model, tower.options);
+    generator.dispatch(code);
+    return std::move(generator.rows());
+}
+
+/// The same structs with the same contents, as bare as they can be built.
+std::vector<T_LCOM_D> built(const std::vector<T_LCOM_D>& rows)
+{
+    std::vector<T_LCOM_D> copies;
+    for (const T_LCOM_D& row : rows) {
+        T_LCOM_D& copy = copies.emplace_back();
+        copy.kind = row.kind;
+        copy.name = row.name;
+        copy.number = row.number;
+        copy.active = row.active;
+        copy.description = row.description;
+        copy.items = row.items;
+    }
+    return copies;
+}
+
+std::ptrdiff_t peakOf(const Tower& tower)
+{
+    memory = {true, 0, 0};
+    const std::vector<T_LCOM_D> rows = generated(tower);
+    memory.on = false;
+    return memory.peak;
+}
+
+std::ptrdiff_t bytesOf(const std::vector<T_LCOM_D>& rows)
+{
+    std::ptrdiff_t bytes = 0;
+    for (const T_LCOM_D& row : rows) {
+        std::size_t size = sizeof row + row.items.size() * sizeof(T_LCOM_ITEM);
+        if (row.description.size() > 15)    // longer than what a string holds in itself
+            size += row.description.size() + 1;
+        bytes += static_cast<std::ptrdiff_t>(size);
+    }
+    return bytes;
+}
+
+double bestTime(const Tower& tower, int runs)
+{
+    double best = 1e9;
+    for (int i = 0; i < runs; ++i)
+        best = std::min(best, timed([&] { benchmark::DoNotOptimize(generated(tower)); }));
+    return best;
+}
+
+void Generate(benchmark::State& state)
+{
+    const Tower tower(state.range(0));
+    double ours = 0.0;
+    double bare = 0.0;
+    double rowCount = 0.0;
+    for (auto iteration : state) {
+        std::vector<T_LCOM_D> rows;
+        const double seconds = timed([&] { rows = generated(tower); });
+        std::vector<T_LCOM_D> copies;
+        bare += timed([&] { copies = built(rows); });
+        ours += seconds;
+        rowCount = static_cast<double>(rows.size());
+        state.SetIterationTime(seconds);
+    }
+    state.counters["rows"] = rowCount;
+    state.counters["rows_per_second"] = static_cast<double>(state.iterations()) * rowCount / ours;
+    state.counters["ratio_to_bare_build"] = ours / bare;
+    state.counters["bytes_ratio"] = static_cast<double>(peakOf(tower)) / static_cast<double>(bytesOf(generated(tower)));
+    if (state.range(0) > 1) {
+        const double smaller = static_cast<double>(state.range(0) >= 400 ? state.range(0) / 4 : state.range(0) / 10);
+        const double ratio = bestTime(tower, 5) / bestTime(Tower(static_cast<std::int64_t>(smaller)), 5);
+        state.counters["growth"] = std::log(ratio) / std::log(static_cast<double>(state.range(0)) / smaller);
+    }
+}
+BENCHMARK(Generate)->Arg(1)->Arg(10)->Arg(100)->Arg(400)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+std::filesystem::path scratch(const char* name)
+{
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / name;
+    for (const char* suffix : {"", "-wal", "-shm", "-journal"})
+        std::filesystem::remove(path.string() + suffix);
+    return path;
+}
+
+void check(int result)
+{
+    if (result != SQLITE_OK && result != SQLITE_DONE && result != SQLITE_ROW)
+        throw std::runtime_error(sqlite3_errstr(result));
+}
+
+/// Prepared inserts of the same rows into the same tables with the same settings, and nothing else.
+double bareInsert(const std::filesystem::path& path, const std::vector<T_LCOM_D>& rows)
+{
+    sqlite3* database = nullptr;
+    check(sqlite3_open(path.c_str(), &database));
+    const zel::SqlTable& table = zel::sqlTable(zel::tableInfo(Table::LCOM));
+    const zel::SqlTable& itemTable = table.lists.front();
+    const CString setUp = "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; PRAGMA cache_size=-65536; " + table.create + itemTable.create;
+    check(sqlite3_exec(database, setUp.c_str(), nullptr, nullptr, nullptr));
+    sqlite3_stmt* insert = nullptr;
+    sqlite3_stmt* insertItem = nullptr;
+    check(sqlite3_prepare_v2(database, zel::insertStatement(table).c_str(), -1, &insert, nullptr));
+    check(sqlite3_prepare_v2(database, zel::insertStatement(itemTable).c_str(), -1, &insertItem, nullptr));
+    const double seconds = timed([&] {
+        check(sqlite3_exec(database, "BEGIN", nullptr, nullptr, nullptr));
+        int key = 0;
+        for (const T_LCOM_D& row : rows) {
+            sqlite3_bind_int(insert, 1, 1);
+            sqlite3_bind_int64(insert, 2, ++key);
+            sqlite3_bind_text(insert, 3, row.name.data(), static_cast<int>(row.name.size()), SQLITE_STATIC);
+            sqlite3_bind_int(insert, 4, key);
+            sqlite3_bind_int(insert, 5, row.active);
+            sqlite3_bind_text(insert, 6, row.description.data(), static_cast<int>(row.description.size()), SQLITE_STATIC);
+            check(sqlite3_step(insert));
+            sqlite3_reset(insert);
+            int place = 0;
+            for (const T_LCOM_ITEM& item : row.items) {
+                sqlite3_bind_int(insertItem, 1, 1);
+                sqlite3_bind_int64(insertItem, 2, key);
+                sqlite3_bind_int(insertItem, 3, ++place);
+                sqlite3_bind_int(insertItem, 4, item.type);
+                sqlite3_bind_int64(insertItem, 5, item.key);
+                sqlite3_bind_double(insertItem, 6, item.factor);
+                check(sqlite3_step(insertItem));
+                sqlite3_reset(insertItem);
+            }
+        }
+        check(sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr));
+    });
+    sqlite3_finalize(insert);
+    sqlite3_finalize(insertItem);
+    sqlite3_close(database);
+    return seconds;
+}
+
+void Store(benchmark::State& state)
+{
+    const std::vector<T_LCOM_D> rows = generated(Tower(state.range(0)));
+    double ours = 0.0;
+    double bare = 0.0;
+    for (auto iteration : state) {
+        bare += bareInsert(scratch("zel-bench-loadcomb-bare.db"), rows);
+        const auto model = zel::ModelDocument::create(scratch("zel-bench-loadcomb.qvx"));
+        std::vector<T_LCOM_D> given = rows;
+        const double seconds = timed([&] {
+            if (CDataLcom().Add(1, std::move(given)) == 0)
+                state.SkipWithError("the model refused the rows");
+        });
+        ours += seconds;
+        state.SetIterationTime(seconds);
+    }
+    state.counters["ratio_to_bare_insert"] = ours / bare;
+    state.counters["rows_per_second"] = static_cast<double>(state.iterations()) * static_cast<double>(rows.size()) / ours;
+}
+BENCHMARK(Store)->Arg(10)->Arg(100)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(3);
+
+}  // namespace
+
+BENCHMARK_MAIN();
