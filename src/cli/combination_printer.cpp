@@ -59,7 +59,8 @@ std::string titleOf(const Reference& reference)
     return (reference.first == loadCaseItem ? "#" : std::to_string(reference.first) + ":#") + std::to_string(reference.second);
 }
 
-Sheet makeSheet(const std::vector<PrintedCombination>& combinations)
+/// @param number  makes the text of a factor
+Sheet makeSheet(const std::vector<PrintedCombination>& combinations, std::string (*number)(double))
 {
     const std::vector<Reference> used = references(combinations);
     const bool kinds = std::any_of(combinations.begin(), combinations.end(), [&](const PrintedCombination& each) { return each.kind != combinations.front().kind; });
@@ -88,7 +89,7 @@ Sheet makeSheet(const std::vector<PrintedCombination>& combinations)
             row.push_back(std::to_string(each.kind));
         row.insert(row.end(), {std::to_string(each.number), each.record->name, std::to_string(each.record->active), each.record->description});
         for (std::size_t i = 0; i < used.size(); ++i)
-            row.push_back(given[i] ? shortest(sums[i]) : std::string());
+            row.push_back(given[i] ? number(sums[i]) : std::string());
         sheet.rows.push_back(std::move(row));
     }
     return sheet;
@@ -156,8 +157,8 @@ void printTable(const Sheet& sheet, std::ostream& out)
 void printCombinations(Format format, const std::vector<PrintedCombination>& combinations, std::ostream& out)
 {
     switch (format) {
-    case Format::table: printTable(makeSheet(combinations), out); break;
-    case Format::csv: printCsv(makeSheet(combinations), out); break;
+    case Format::table: printTable(makeSheet(combinations, readable), out); break;
+    case Format::csv: printCsv(makeSheet(combinations, shortest), out); break;
     case Format::lcb: printLcb(combinations, out); break;
     case Format::json: printResultJson(true, {}, combinations, out); break;
     }

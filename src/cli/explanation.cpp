@@ -20,10 +20,10 @@ using loadcomb::RowOutcome;
 using loadcomb::RowResult;
 using loadcomb::RowSource;
 
-/// "1.0" rather than "1": a number that is a factor.
+/// "1.0" rather than "1": a number that is a factor. Ten digits leave out what the last bit of a product shows.
 std::string factorText(double value)
 {
-    const std::string text = shortest(value);
+    const std::string text = rounded(value, 10);
     return text.find_first_of(".e") == std::string::npos ? text + ".0" : text;
 }
 
@@ -148,9 +148,9 @@ void printChoices(const Generator& run, const Origin& origin, std::ostream& out)
 {
     for (const Choice& choice : origin.choices) {
         if (choice.windEntry >= 0)
-            out << "Wind      entry " << choice.windEntry + 1 << " of the wind sets: " << run.state().windCombinations[static_cast<std::size_t>(choice.windEntry)].description << '\n';
+            out << "Wind       entry " << choice.windEntry + 1 << " of the wind sets: " << run.state().windCombinations[static_cast<std::size_t>(choice.windEntry)].description << '\n';
         else if (choice.windCase != 0)
-            out << "Wind      case " << caseName(run, choice.windCase) << '\n';
+            out << "Wind       case " << caseName(run, choice.windCase) << '\n';
         for (const EarthquakeChoice& chosen : choice.earthquakes) {
             out << "Earthquake " << caseName(run, chosen.key);
             if (choice.earthquakes.size() > 1)
@@ -168,11 +168,20 @@ const char* reason(RowResult result)
     case RowResult::gave: return "gave combinations";
     case RowResult::noFactors: return "every factor came out as 0";
     case RowResult::groupWithoutCases: return "no load case of";
-    case RowResult::setWithoutCases: return "no load case of any of";
+    case RowResult::setWithoutCases: return "no load case of";
     case RowResult::noOrthogonalPair: return "no earthquake case has a partner at right angles";
     case RowResult::onlyDuplicates: return "rows before it give the same combinations";
     }
     return "";
+}
+
+/// "\"EP\" or \"WP\"" of "EP, WP".
+std::string groupList(const std::string& groups)
+{
+    std::string list = groups;
+    for (std::size_t comma = list.find(", "); comma != std::string::npos; comma = list.find(", ", comma))
+        list.replace(comma, 2, "\" or \"");
+    return list.empty() ? list : " \"" + list + "\"";
 }
 
 }  // namespace
@@ -187,8 +196,8 @@ void explainCombination(const Generator& run, const std::string& code, const std
     const Origin& origin = run.origins()[static_cast<std::size_t>(found - rows.begin())];
     const RowOutcome& row = run.outcomes()[origin.row];
     out << trimmed(found->name) << ": " << found->description << '\n'
-        << "Code      " << code << ", " << rowName(row.source) << '\n'
-        << "Formula   " << row.source.text << '\n';
+        << "Code       " << code << ", " << rowName(row.source) << '\n'
+        << "Formula    " << row.source.text << '\n';
     printChoices(run, origin, out);
     printFactors(run, origin, *found, out);
     std::set<std::size_t> absorbed(origin.absorbedRows.begin(), origin.absorbedRows.end());
@@ -205,7 +214,7 @@ void explainMissing(const Generator& run, const std::string& code, std::ostream&
     for (const RowOutcome& row : run.outcomes()) {
         if (row.result == RowResult::gave)
             continue;
-        out << "  " << rowName(row.source) << "  " << row.source.text << "\n      " << reason(row.result) << (row.missing.empty() ? "" : " \"" + row.missing + "\"") << '\n';
+        out << "  " << rowName(row.source) << "  " << row.source.text << "\n      " << reason(row.result) << groupList(row.missing) << '\n';
     }
     std::set<std::uint32_t> used;
     for (const T_LCOM_D& record : run.rows()) {
