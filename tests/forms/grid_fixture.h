@@ -62,6 +62,14 @@ private:
     void put(std::string_view name, const CString& value) { fields[CString{name}] = value; }
 };
 
+inline CString fieldOf(const Control& control, std::string_view name)
+{
+    GridFields writer;
+    control.describe(writer);
+    const auto found = writer.fields.find(name);
+    return found == writer.fields.end() ? "(no such field)" : found->second;
+}
+
 /// A member of a frame, as the test grids list them.
 struct Member {
     int key = 0;
@@ -218,13 +226,7 @@ public:
             all.push_back(line(row));
         return all;
     }
-    [[nodiscard]] CString field(std::string_view fieldName) const
-    {
-        GridFields writer;
-        describe(writer);
-        const auto found = writer.fields.find(fieldName);
-        return found == writer.fields.end() ? "(no such field)" : found->second;
-    }
+    [[nodiscard]] CString field(std::string_view fieldName) const { return fieldOf(*this, fieldName); }
 
     static CArray<CString> textsOf(const Member& member)
     {

@@ -51,14 +51,14 @@ struct GridColumn {
 
 /// What one cell has different from its column.
 struct GridCellStyle {
-    std::optional<GridKind> kind;
-    std::optional<bool> disabled;
-    std::optional<bool> readOnly;
-    std::optional<GridNumberStyle> number;
-    std::optional<std::vector<CString>> choices;
+    std::optional<GridKind> kind{};
+    std::optional<bool> disabled{};
+    std::optional<bool> readOnly{};
+    std::optional<GridNumberStyle> number{};
+    std::optional<std::vector<CString>> choices{};
     int span = 1;    ///< columns that it covers, to the right
-    std::optional<Colour> background;
-    std::optional<Colour> foreground;
+    std::optional<Colour> background{};
+    std::optional<Colour> foreground{};
 };
 
 }  // namespace zel

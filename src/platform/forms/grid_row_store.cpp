@@ -31,7 +31,7 @@ void GridRowStore::setEnd(Row& row, int column, std::uint32_t end)
 
 void GridRowStore::addColumn()
 {
-    for (const auto& row : m_rows) {
+    for (Row* row : m_rows) {
         if (row->block.empty())
             continue;
         const std::uint32_t last = m_columns > 0 ? end(*row, m_columns - 1) : 0;
@@ -41,23 +41,36 @@ void GridRowStore::addColumn()
     ++m_columns;
 }
 
+GridRowStore::Row* GridRowStore::newRow()
+{
+    if (m_unused.empty())
+        return &m_pool.emplace_back();
+    Row* const row = m_unused.back();
+    m_unused.pop_back();
+    return row;
+}
+
 void GridRowStore::reset(int count, bool filled)
 {
     m_rows.clear();
-    m_rows.resize(static_cast<std::size_t>(std::max(count, 0)));
-    for (auto& row : m_rows) {
-        row = std::make_unique<Row>();
-        row->filled = filled;
+    m_unused.clear();
+    m_pool.clear();
+    m_rows.reserve(static_cast<std::size_t>(std::max(count, 0)));
+    for (int row = 0; row < count; ++row) {
+        m_rows.push_back(newRow());
+        m_rows.back()->filled = filled;
     }
 }
 
 void GridRowStore::insert(int row)
 {
-    m_rows.insert(m_rows.begin() + row, std::make_unique<Row>());
+    m_rows.insert(m_rows.begin() + row, newRow());
 }
 
 void GridRowStore::erase(int row)
 {
+    at(row) = {};
+    m_unused.push_back(&at(row));
     m_rows.erase(m_rows.begin() + row);
 }
 
@@ -77,10 +90,10 @@ std::vector<int> GridRowStore::move(const std::vector<int>& rows, int target)
         if (!moved[static_cast<std::size_t>(row)])
             order.push_back(row);
 
-    std::vector<std::unique_ptr<Row>> sorted(m_rows.size());
+    std::vector<Row*> sorted(m_rows.size());
     std::vector<int> place(m_rows.size());
     for (std::size_t to = 0; to < order.size(); ++to) {
-        sorted[to] = std::move(m_rows[static_cast<std::size_t>(order[to])]);
+        sorted[to] = m_rows[static_cast<std::size_t>(order[to])];
         place[static_cast<std::size_t>(order[to])] = static_cast<int>(to);
     }
     m_rows = std::move(sorted);
@@ -89,7 +102,7 @@ std::vector<int> GridRowStore::move(const std::vector<int>& rows, int target)
 
 void GridRowStore::select(const std::vector<int>& rows)
 {
-    for (const auto& row : m_rows)
+    for (Row* row : m_rows)
         row->selected = 0;
     std::uint32_t number = 0;
     for (const int row : rows)

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <deque>
 #include <string_view>
 #include <vector>
 
@@ -15,6 +15,8 @@ namespace zel {
 class GridRowStore {
 public:
     explicit GridRowStore(int columns = 0) : m_columns(columns) {}
+    GridRowStore(const GridRowStore&) = delete;
+    GridRowStore& operator=(const GridRowStore&) = delete;
 
     [[nodiscard]] int count() const { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] int columns() const { return m_columns; }
@@ -63,8 +65,12 @@ private:
     [[nodiscard]] static std::uint32_t end(const Row& row, int column);
     static void setEnd(Row& row, int column, std::uint32_t end);
 
+    [[nodiscard]] Row* newRow();
+
     int m_columns = 0;
-    std::vector<std::unique_ptr<Row>> m_rows;
+    std::deque<Row> m_pool;        ///< all rows that were ever made since the last reset; they stay where they are
+    std::vector<Row*> m_unused;    ///< those of them that were taken out
+    std::vector<Row*> m_rows;      ///< plain pointers, so that a row is put in by moving a block of bytes
 };
 
 }  // namespace zel
