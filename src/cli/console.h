@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/user_interface.h"
+#include "platform/os/machine.h"
 
 #include <string>
 #include <vector>
@@ -39,9 +40,9 @@ public:
     void history(const CString& /*line*/) override {}
     void busy(const CString& /*text*/) override {}
     bool startProcess(const CString& /*commandLine*/) override { return false; }
-    [[nodiscard]] CString programFolder() const override { return {}; }
+    [[nodiscard]] CString programFolder() const override { return os::programFolder(); }
     [[nodiscard]] std::chrono::system_clock::time_point now() const override { return std::chrono::system_clock::now(); }
-    [[nodiscard]] std::uint64_t physicalMemory() const override { return 0; }
+    [[nodiscard]] std::uint64_t physicalMemory() const override { return os::physicalMemory(); }
     void modelingMode(int /*mode*/) override {}
 
 private:

@@ -41,8 +41,12 @@ int loadModel(const LoadModel& job)
         storeRows(*document, rowsOfModelJson(json));
         document->saveCopy(job.model, job.replace);
     } catch (const JsonFault& fault) {
-        const std::string told = console.told();
-        throw std::runtime_error(input.name() + ": " + fault.what() + (told.empty() ? "" : ": " + told) + ". Nothing was written.");
+        std::string sentence = input.name() + ": " + fault.what();
+        if (const std::string told = console.told(); !told.empty())
+            sentence += ": " + told;
+        if (!sentence.ends_with('.') && !sentence.ends_with('?'))
+            sentence += '.';
+        throw std::runtime_error(sentence + " Nothing was written.");
     }
     return succeeded;
 }

@@ -7,6 +7,7 @@
 #include "journal/model_commands.h"
 #include "journal/notice_json.h"
 #include "journal/open_commands.h"
+#include "platform/os/machine.h"
 #include "platform/text/nearest.h"
 
 #include <algorithm>
@@ -98,11 +99,16 @@ Json openDialogNames()
 }  // namespace
 
 JournalPlayer::JournalPlayer(CDBDoc& document, std::istream& script, std::ostream& transcript, JournalOptions options)
-    : m_document(document), m_script(script), m_transcript(transcript), m_options(options), m_former(setUserInterface(this))
+    : m_document(document), m_script(script), m_transcript(transcript), m_options(options), m_former(setUserInterface(this)),
+      m_formerView(I_ZELModelBase::setCurrent(&m_view))
 {
 }
 
-JournalPlayer::~JournalPlayer() { setUserInterface(m_former); }
+JournalPlayer::~JournalPlayer()
+{
+    I_ZELModelBase::setCurrent(m_formerView);
+    setUserInterface(m_former);
+}
 
 JournalPlayer::Status JournalPlayer::play()
 {
@@ -358,11 +364,11 @@ bool JournalPlayer::startProcess(const CString& commandLine)
     return true;    // a script starts no outside program: nobody sits before its window
 }
 
-CString JournalPlayer::programFolder() const { return m_former != nullptr ? m_former->programFolder() : CString(); }
+CString JournalPlayer::programFolder() const { return m_former != nullptr ? m_former->programFolder() : os::programFolder(); }
 
 std::chrono::system_clock::time_point JournalPlayer::now() const { return m_former != nullptr ? m_former->now() : std::chrono::system_clock::now(); }
 
-std::uint64_t JournalPlayer::physicalMemory() const { return m_former != nullptr ? m_former->physicalMemory() : 0; }
+std::uint64_t JournalPlayer::physicalMemory() const { return m_former != nullptr ? m_former->physicalMemory() : os::physicalMemory(); }
 
 void JournalPlayer::gridWarning(Control& grid, const CString& text) { event({{"event", "warning"}, {"grid", grid.id()}, {"text", text}}); }
 

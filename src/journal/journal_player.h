@@ -7,6 +7,7 @@
 #include "journal/journal_command.h"
 #include "journal/journal_reply.h"
 #include "journal/journal_script.h"
+#include "platform/forms/headless_user_interface.h"
 
 #include <deque>
 #include <functional>
@@ -81,6 +82,8 @@ private:
     JournalOptions m_options;
     HostCommands m_host;
     IUserInterface* m_former;
+    HeadlessModelView m_view;
+    I_ZELModelBase* m_formerView;
 
     std::optional<JournalReply> m_reply;           ///< of the command that was read last, until it is written
     std::deque<std::string> m_answers;

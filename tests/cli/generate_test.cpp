@@ -219,11 +219,55 @@ TEST_F(Generate, ExplainTellsRowChoicesAndProducts)
 {
     const Outcome run = zel({"generate", model, "--code", "AIK-USD94", "--replace", "--dry-run", "--scale", "EX=1.25", "--explain", "gLCB13"});
     EXPECT_EQ(run.code, 0) << run.error;
-    EXPECT_TRUE(run.out.starts_with("gLCB13: 0.9D + 1.3(1.1EX)\n")) << run.out;
+    EXPECT_TRUE(run.out.starts_with("gLCB13: 0.9D + 1.3(1.25)(1.1EX)\n")) << run.out;
     EXPECT_NE(run.out.find("Code       AIK-USD94, row "), std::string::npos) << run.out;
     EXPECT_NE(run.out.find("Earthquake EX\n"), std::string::npos) << run.out;
     EXPECT_NE(run.out.find(" = 1.43 x 1.25 x 1.0    (row x scale factor x over-strength)"), std::string::npos) << run.out;
     EXPECT_EQ(zel({"generate", model, "--code", "AIK-USD94", "--dry-run", "--explain", "gLCB99"}).code, 1);
+}
+
+/// The product of "0.7 x 1.25 x 1.0".
+double product(const std::string& numbers)
+{
+    std::istringstream words(numbers);
+    double result = 1.0;
+    for (std::string word; words >> word;) {
+        if (word != "x")
+            result *= std::stod(word);
+    }
+    return result;
+}
+
+TEST_F(Generate, EveryExplainedProductIsTheFactorOfItsItem)
+{
+    ASSERT_EQ(zel({"load", "-", model, "--replace"},
+                  R"({"format": "zel-model", "version": 1,
+                      "STLD": [{"key": 1, "name": "DL", "type": "D"}, {"key": 2, "name": "LL", "type": "L"}, {"key": 3, "name": "WA", "type": "W"}, {"key": 4, "name": "WC", "type": "WA"},
+                               {"key": 5, "name": "WT", "type": "WT"}, {"key": 6, "name": "EX", "type": "E"}, {"key": 7, "name": "EY", "type": "E"}, {"key": 8, "name": "EXe", "type": "USER"}],
+                      "LCWD": {"sets": [{"along": 3, "across": 4, "torsion": 5}]}, "LCOE": {"pairs": [{"case1": 6, "case2": 7}]},
+                      "SLCF": {"shortPeriodCoefficient": 0.5, "overStrengthFactors": [{"loadCaseKey": 6, "factor": 2.5}]}})")
+                  .code,
+              0);
+    std::vector<std::string> job{"generate", model, "--code", "KDS 41 20 : 2022", "--dry-run", "--orthogonal", "--type", "special", "--scale", "EX=1.25,EXe"};
+    std::vector<std::string> listing = job;
+    listing.insert(listing.end(), {"--format", "json"});
+    const json rows = json::parse(zel(listing).out).at("rows");
+    ASSERT_GT(rows.size(), 50U);
+    job.insert(job.end(), {"--explain", ""});
+    for (std::size_t i = 0; i < rows.size(); i += 9) {
+        job.back() = rows[i].at("name");
+        const Outcome run = zel(job);
+        ASSERT_EQ(run.code, 0) << run.error;
+        std::istringstream lines(run.out.substr(run.out.find("Factors\n") + 8));
+        std::string line;
+        for (const json& item : rows[i].at("items")) {
+            ASSERT_TRUE(std::getline(lines, line)) << run.out;
+            const std::size_t equals = line.find(" = ");
+            ASSERT_NE(equals, std::string::npos) << run.out;
+            const std::string numbers = line.substr(equals + 3, line.find("    (") - equals - 3);
+            EXPECT_NEAR(product(numbers), item.at("factor").get<double>(), 1e-9) << run.out;
+        }
+    }
 }
 
 TEST_F(Generate, WhyNotTellsTheRowsThatGaveNothingAndTheIdleCases)

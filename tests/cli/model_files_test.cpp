@@ -86,7 +86,7 @@ TEST_F(ModelFiles, AFailingLoadLeavesTheOldFileUntouchedAndNothingBeside)
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
     const Outcome failed = zel({"load", "-", path("fresh.qvx")}, R"({"format": "zel-model", "version": 1, "STLD": [{"name": "A"}, {"nam": "B"}]})");
-    EXPECT_EQ(failed.error, "zel: standard input: STLD[1].nam: there is no such field; did you mean \"name\"?. Nothing was written.\n");
+    EXPECT_EQ(failed.error, "zel: standard input: STLD[1].nam: there is no such field; did you mean \"name\"? Nothing was written.\n");
     EXPECT_FALSE(std::filesystem::exists(path("fresh.qvx")));
 }
 
