@@ -23,11 +23,11 @@ constexpr int descriptionColumn = 5;
 const CArray<CString> defaultTexts(6);
 
 struct ColumnStyle {
-    const char* title;    ///< message key, or the title itself
+    std::string_view title;    ///< message key, or the title itself
     zel::GridKind kind;
-    std::size_t unit;     ///< entry of the record's unit types
+    std::size_t unit;          ///< entry of the record's unit types
     int width;
-    int places;           ///< decimals of a number; -1 for a text
+    int places;                ///< decimals of a number; -1 for a text
 };
 
 constexpr ColumnStyle columnStyles[] = {
@@ -38,6 +38,11 @@ constexpr ColumnStyle columnStyles[] = {
     {"IDS_ZEL_CMD__Factor",      zel::GridKind::real,    4,  60,  2},
     {"IDS_ZEL_CMD__Description", zel::GridKind::text,    3, 178, -1},
 };
+
+CString titleOf(const ColumnStyle& style)
+{
+    return style.title.starts_with("IDS_") ? zel::loadText(style.title.data()) : CString(style.title);
+}
 
 const CLoadDB& loadTypes()
 {
@@ -52,7 +57,7 @@ void CCMLoadCaseGrid::Initialize()
 {
     RemoveColumns();
     for (const ColumnStyle& style : columnStyles) {
-        const int index = AddColInfo(zel::loadText(style.title), static_cast<int>(style.kind), T_STLD_D::unit[style.unit]);
+        const int index = AddColInfo(titleOf(style), static_cast<int>(style.kind), T_STLD_D::unit[style.unit]);
         SetColWidth(index, style.width);
         SetColAlign(index, style.places < 0 ? zel::GridAlign::left : zel::GridAlign::right);
         if (style.places >= 0)

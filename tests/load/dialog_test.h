@@ -3,6 +3,7 @@
 #include "command/exported_dialogs.h"
 #include "contract/forms/find_control.h"
 #include "contract/messages.h"
+#include "contract/tables/load_set_tables.h"
 #include "contract/tables/load_tables.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/messages/message_catalogue.h"
@@ -115,6 +116,15 @@ protected:
         user.inModal([&use](CDialog& dialog) { use(Form(dialog)); });
         Dialog dialog;
         return dialog.DoModal();
+    }
+
+    /// Notices that no dialog here reacts to: other hints, and an empty buffer after a write to a table without update codes.
+    void tellOfNoChange()
+    {
+        for (const long long hint : {2LL, 5LL, 6LL, 7LL, 8LL, 9LL, 100LL, -1LL, -4LL})
+            model->notify(nullptr, hint, nullptr);
+        ASSERT_NE(CDataSurs().Add(T_SURS_D()), 0);
+        ASSERT_EQ(model->GetViewBuff()->GetCount(), 0);
     }
 
     /// Keys of the boxes so far; forgets them.
