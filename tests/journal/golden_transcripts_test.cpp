@@ -31,6 +31,14 @@ std::vector<std::string> journals()
     return names;
 }
 
+/// The surroundings of the first place where two lines differ.
+std::string difference(const std::string& found, const std::string& wanted)
+{
+    const auto place = std::mismatch(found.begin(), found.end(), wanted.begin(), wanted.end()).first - found.begin();
+    const auto from = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, place - 60));
+    return "  wanted ..." + (from < wanted.size() ? wanted.substr(from, 160) : "") + "\n  found  ..." + (from < found.size() ? found.substr(from, 160) : "") + "\n";
+}
+
 class GoldenTranscripts : public journal_test::JournalTest, public testing::WithParamInterface<std::string> {
 protected:
     void SetUp() override { zel::MessageCatalogue::builtIn().showKeys(GetParam().ends_with(".keys")); }
@@ -50,7 +58,7 @@ TEST_P(GoldenTranscripts, AJournalGivesTheTranscriptThatWasReviewed)
     std::string found;
     for (int line = 1; std::getline(expected, wanted); ++line) {
         ASSERT_TRUE(std::getline(given, found)) << "ends before line " << line;
-        EXPECT_EQ(found, wanted) << GetParam() << ".expected, line " << line << "; tests/journals/accept shows the difference";
+        EXPECT_TRUE(found == wanted) << GetParam() << ".expected, line " << line << ":\n" << difference(found, wanted) << "tests/journals/accept shows all of it";
     }
     EXPECT_FALSE(std::getline(given, found)) << "goes on with " << found;
 }
