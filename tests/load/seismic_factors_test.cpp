@@ -342,7 +342,7 @@ TYPED_TEST(SeismicFactors, ALoadCaseWithAnotherKeyKeepsItsEntry)
 {
     const zel::Key ex = this->addCase("EX", "E");
     this->store({{ex, 2.5}});
-    this->open([this, ex](const Form& form) {
+    this->open([ex](const Form& form) {
         CDataStld cases;
         ASSERT_NE(cases.Get(ex), 0);
         cases.currentKey = 40;
