@@ -2,7 +2,6 @@
 
 #include "contract/forms/control.h"
 #include "contract/forms/field_writer.h"
-#include "contract/forms/grid.h"
 
 namespace zel {
 
@@ -25,13 +24,7 @@ public:
     void text(std::string_view name, const CString& value) override { put(name, value); }
     void flag(std::string_view name, bool value) override { put(name, value); }
     void number(std::string_view name, std::optional<int> value) override { put(name, value ? Json(*value) : Json()); }
-    void numbers(std::string_view name, const std::vector<int>& values) override
-    {
-        Json list = Json::array();
-        for (const int value : values)
-            list.push_back(value == CTBGrid::append ? Json("append") : Json(value));    // no row and no column has a number below 0
-        put(name, std::move(list));
-    }
+    void numbers(std::string_view name, const std::vector<int>& values) override { put(name, values); }
     void keys(std::string_view name, const std::vector<unsigned>& values) override { put(name, values); }
     void texts(std::string_view name, const std::vector<CString>& values) override { put(name, values); }
     void cell(std::string_view name, std::optional<int> row, int column) override
