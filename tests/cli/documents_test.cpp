@@ -97,8 +97,9 @@ TEST_F(Documents, CombinationsShowWhatTheCommandsPrint)
         }
         const Outcome run = zel(shown.words);
         EXPECT_EQ(run.code, 0) << whole << "\n" << run.error;
-        if (!shown.output.empty())
+        if (!shown.output.empty()) {
             EXPECT_TRUE(agrees(run.out, shown.output)) << whole;
+        }
     }
 }
 
