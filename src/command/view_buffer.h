@@ -80,4 +80,17 @@ template <class... Handles> void readChanges(const CViewBuff& buffer, const Tabl
     walk(TableReader<Handles>(watches)...);
 }
 
+/// Whether a buffer holds a change of the table.
+template <class Handle> bool concerns(const CViewBuff& buffer)
+{
+    const Table table = tableOf(static_cast<const Handle*>(nullptr));
+    POSITION position = buffer.GetStartBuffer();
+    while (position != nullptr) {
+        const std::int32_t code = buffer.GetNextBuffer(position).updateCode;
+        if (code >= updateCode(table, Change::added) && code <= updateCode(table, Change::modifiedFrom))
+            return true;
+    }
+    return false;
+}
+
 }  // namespace zel
