@@ -5,6 +5,7 @@
 #include "load/load_case_underground_dlg.h"
 #include "load/load_case_wind_direct_dlg.h"
 #include "load/under_seis_factor.h"
+#include "loadcomb/cm_load_mllc_dlg.h"
 
 #include <algorithm>
 #include <array>
@@ -24,6 +25,7 @@ template <class Dialog> std::unique_ptr<CInternationalDlg> makeExported() { retu
 
 /// All that are built so far, sorted.
 inline constexpr std::array exportedDialogs{
+    ExportedDialog{"CCMLoadMLLCDlg", &makeExported<CCMLoadMLLCDlg>},
     ExportedDialog{"CCmdSetOrthoLCDlg", &makeExported<CCmdSetOrthoLCDlg>},
     ExportedDialog{"CDgnGenSeisFactor", &makeExported<CDgnGenSeisFactor>},
     ExportedDialog{"CLoadCaseUndergroundDlg", &makeExported<CLoadCaseUndergroundDlg>},

@@ -181,6 +181,17 @@ TEST_F(LoadsByCombination, WithNoKindTickedCopyNothing)
     EXPECT_EQ(model->undoName(), "Add 3 static load cases");
 }
 
+TEST_F(LoadsByCombination, PassACaseOverThatIsGoneAndNameIt)
+{
+    combination.items = {{1, 77, 1.0}, {1, 1, 1.0}};
+    add(Table::PTLA, T_PTLA_D{10, 77, 0, {5, 0, 0, 0, 0, 0}});
+    add(Table::PTLA, T_PTLA_D{10, 1, 0, {1, 0, 0, 0, 0, 0}});
+    ASSERT_NE(make({.pointLoad = 1}), 0);
+    EXPECT_DOUBLE_EQ(all<T_PTLA_D>(Table::PTLA).at(2).value[0], 1.0);
+    ASSERT_EQ(host.outputs.size(), 1U);
+    EXPECT_NE(host.outputs[0].find("77"), std::string::npos);
+}
+
 TEST_F(LoadsByCombination, AreRefusedForATargetThatIsNotThere)
 {
     EXPECT_EQ(CDataLcom().MakeLoadsByCombination(combination, 99, {.selfWeight = 1}, 0), 0);

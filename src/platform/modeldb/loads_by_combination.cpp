@@ -1,7 +1,9 @@
 #include "contract/document.h"
+#include "contract/messages.h"
 #include "contract/records/all.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_tables.h"
+#include "contract/user_interface.h"
 #include "platform/modeldb/record_values.h"
 
 #include <algorithm>
@@ -252,8 +254,13 @@ int CDataLcom::MakeLoadsByCombination(const T_LCOM_D& combination, zel::Key targ
     const bool removeOwn = deleteFlag != 0;
     Factors factors;
     for (const T_LCOM_ITEM& item : combination.items) {
-        if (item.type == 1)
+        if (item.type != 1)
+            continue;
+        T_STLD_D source;
+        if (cases.Get(item.key, source) != 0)
             factors[item.key] += item.factor;
+        else
+            GMsgOutFormatNF(CMsgDll::pfuncLoadStr("IDS_DB_LOADS_LOAD_CASE_GONE", 0), static_cast<int>(item.key));
     }
 
     // Everything is read here, before the first write.
@@ -261,8 +268,10 @@ int CDataLcom::MakeLoadsByCombination(const T_LCOM_D& combination, zel::Key targ
     if (attributes.selfWeight != 0) {
         double sum = removeOwn ? 0.0 : cases.currentRecord.selfWeightFactor;
         T_STLD_D source;
-        for (const auto& [key, factor] : factors)
-            sum += cases.Get(key, source) != 0 ? factor * source.selfWeightFactor : 0.0;
+        for (const auto& [key, factor] : factors) {
+            if (cases.Get(key, source) != 0)
+                sum += factor * source.selfWeightFactor;
+        }
         if (sum != cases.currentRecord.selfWeightFactor) {
             T_STLD_D target = cases.currentRecord;
             target.selfWeightFactor = sum;
