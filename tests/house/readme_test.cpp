@@ -34,4 +34,11 @@ TEST(HouseRules, TheReadmeListsTheFormsThatAreThere)
     EXPECT_EQ(listed, built) << "the table \"Forms\" in README.md (first) and the forms in src/ (second)";
 }
 
+TEST(HouseRules, TheReadmeLeadsToEveryDocument)
+{
+    const std::set<std::string> listed = found("`(docs/[a-z-]+\\.md)`", [](const house::File& file) { return file.path == "README.md"; });
+    for (const house::File& file : house::files())
+        EXPECT_TRUE(!house::isIn(file, "docs/", {".md"}) || listed.contains(file.path)) << file.path << " is not in README.md, \"Read on\"";
+}
+
 }  // namespace
