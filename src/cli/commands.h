@@ -75,6 +75,11 @@ struct ListCombinations {
 };
 int listCombinations(const ListCombinations& job);
 
+struct ListEnvelopes {
+    std::filesystem::path model;
+};
+int listEnvelopes(const ListEnvelopes& job);
+
 struct ListCodes {
     bool json = false;
 };

@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include "contract/units.h"
+#include "contract/version.h"
 
 #include <functional>
 #include <iostream>
@@ -12,7 +13,7 @@ namespace {
 
 using namespace zel::cli;
 
-constexpr const char* version = "zel 0.1.0";
+const std::string version = std::string("zel ") + zel::versionText;
 
 using Job = std::function<int()>;
 
@@ -146,6 +147,14 @@ void addCombinations(CLI::App& app, Job& job)
     command.callback([options, &job] { job = [options] { return listCombinations(*options); }; });
 }
 
+void addEnvelopes(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "envelopes", "List the envelopes and what each is made of", "zel envelopes tower.qvx");
+    auto options = std::make_shared<ListEnvelopes>();
+    command.add_option("MODEL", options->model, "the model file")->required();
+    command.callback([options, &job] { job = [options] { return listEnvelopes(*options); }; });
+}
+
 void addCodes(CLI::App& app, Job& job)
 {
     CLI::App& command = addCommand(app, "codes", "List the design codes and what each treats", "zel codes");
@@ -188,6 +197,7 @@ int main(int argc, char** argv)
     addPlay(app, job);
     addGenerate(app, job);
     addCombinations(app, job);
+    addEnvelopes(app, job);
     addCodes(app, job);
     addBatch(app, job);
     try {
