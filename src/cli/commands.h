@@ -80,6 +80,13 @@ struct ListEnvelopes {
 };
 int listEnvelopes(const ListEnvelopes& job);
 
+struct ImportLcb {
+    std::filesystem::path model;
+    std::string file;                   ///< "-" is standard input
+    int kind = 1;
+};
+int importLcb(const ImportLcb& job);
+
 struct ListCodes {
     bool json = false;
 };

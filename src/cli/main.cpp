@@ -155,6 +155,22 @@ void addEnvelopes(CLI::App& app, Job& job)
     command.callback([options, &job] { job = [options] { return listEnvelopes(*options); }; });
 }
 
+void addImportLcb(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "import-lcb", "Add the load combinations of an LCB file", "zel import-lcb tower.qvx tower.lcb");
+    auto options = std::make_shared<ImportLcb>();
+    command.add_option("MODEL", options->model, "the model file")->required();
+    command.add_option("FILE", options->file, "the LCB file; - is standard input")->required();
+    command.add_option("--kind", options->kind, "design kind, 1 to 5")->check(CLI::Range(1, 5))->capture_default_str();
+    command.callback([options, &job] { job = [options] { return importLcb(*options); }; });
+    command.footer("One combination a line: its ID, any text, then load case and factor by turns. A load case is named by its place in the\n"
+                   "sequence of the static load cases, from 1. \"**\" as a field begins a comment, and lines of one ID are one combination:\n"
+                   "  12, any, 1, 1.2, 2, 1.6, ** dead and live\n"
+                   "The combinations are named LCB and their ID. All of them are stored, or none.\n\n"
+                   "Example:\n  zel import-lcb tower.qvx tower.lcb\n\n"
+                   "Exit status: 0 all combinations were stored; 1 the file or the model has a fault, and nothing was stored; 2 wrong usage.");
+}
+
 void addCodes(CLI::App& app, Job& job)
 {
     CLI::App& command = addCommand(app, "codes", "List the design codes and what each treats", "zel codes");
@@ -197,6 +213,7 @@ int main(int argc, char** argv)
     addPlay(app, job);
     addGenerate(app, job);
     addCombinations(app, job);
+    addImportLcb(app, job);
     addEnvelopes(app, job);
     addCodes(app, job);
     addBatch(app, job);

@@ -5,39 +5,17 @@
 #include "contract/messages.h"
 #include "load/under_seis_factor.h"
 
-#include <algorithm>
-
 namespace {
 
 // The scale-up factor may be as small and as great as these.
 constexpr double smallestFactor = 1.0;
 constexpr double greatestFactor = 10.0;
 
-// Columns of the list.
-constexpr int factorColumn = 0;
-constexpr int loadCaseColumn = 1;
-constexpr int eccentricColumn = 2;
-
 constexpr int proposedCases = 2;
-
-CString noCase()
-{
-    return zel::loadText("IDS_ZEL_CMD__NONE");
-}
 
 CString noRow()
 {
     return zel::loadText("IDS_ZEL_CMD__None");
-}
-
-CString nameOf(zel::Key key)
-{
-    return key == 0 ? noCase() : CDataStld().GetNameByKey(key);
-}
-
-zel::Key keyOf(const CListCtrl& list, int row)
-{
-    return static_cast<zel::Key>(list.GetItemData(row));
 }
 
 CArray<zel::Key> tickedKeys(const CCheckListBox& list, bool all)
@@ -99,7 +77,7 @@ void CLoadCaseUndergroundDlg::ReadRecord()
 void CLoadCaseUndergroundDlg::InitCtrl()
 {
     m_rowName = noRow();
-    InitListCtrl_RS();
+    InitListCtrl_RS("IDS_ZEL_CMD__Load_Case");
     SetComboBox_RS();
     SetListCtrl_Seis();
     grid.Initialize();
@@ -131,17 +109,6 @@ void CLoadCaseUndergroundDlg::Dlg2Data()
 
 // Scale-up of seismic load cases
 
-void CLoadCaseUndergroundDlg::InitListCtrl_RS()
-{
-    m_factors.clear();
-    m_eccentricKeys.clear();
-    list.DeleteAllItems();
-    list.DeleteAllColumns();
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD__Factor"), 65);
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD__Load_Case"), 95);
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_ES_Load_Name"), 95);
-}
-
 void CLoadCaseUndergroundDlg::SetComboBox_RS()
 {
     const auto isSeismic = [](const T_STLD_D& record) { return record.type.starts_with('E'); };
@@ -170,29 +137,7 @@ void CLoadCaseUndergroundDlg::AddDataToScList(double factor, zel::Key key, zel::
         zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Exist_Eccentric_Data____");
         return;    // the factor stays
     }
-    m_eccentricKeys[key] = eccentricKey;
-
-    const CString name = nameOf(key);
-    int row = 0;
-    if (!CheckRSName(name, row)) {
-        row = list.InsertItem(list.GetItemCount(), {}, key);
-        Write_RSListCtrlBox(row, factor, name, nameOf(eccentricKey));
-    } else if (zel::askYesNo("IDS_ZEL_CMD__Existed_Earthquake_Load_Case_____nModi")) {
-        OverWrite_RSListCtrlBox(row, factor, name, nameOf(eccentricKey));
-    }
-}
-
-void CLoadCaseUndergroundDlg::Write_RSListCtrlBox(int row, double factor, const CString& name, const CString& eccentricName)
-{
-    list.SetItemText(row, factorColumn, zel::numberText("%10.3f", factor));
-    list.SetItemText(row, loadCaseColumn, name);
-    list.SetItemText(row, eccentricColumn, eccentricName);
-    list.SelectOnly(row);
-}
-
-void CLoadCaseUndergroundDlg::OverWrite_RSListCtrlBox(int row, double factor, const CString& name, const CString& eccentricName)
-{
-    Write_RSListCtrlBox(row, factor, name, eccentricName);
+    StoreScaleUp({factor, key, eccentricKey});
 }
 
 bool CLoadCaseUndergroundDlg::CheckRSSameLC()
@@ -210,25 +155,6 @@ bool CLoadCaseUndergroundDlg::CheckRSScaleFactor()
         return true;
     zel::showMessage("IDS_ZEL_CMD__Warning___Check_Scale_Up_Factor_____n_");
     return false;
-}
-
-bool CLoadCaseUndergroundDlg::CheckRSName(const CString& name, int& row) const
-{
-    for (int each = 0; each < list.GetItemCount(); ++each) {
-        if (list.GetItemText(each, loadCaseColumn) == name) {
-            row = each;
-            return true;
-        }
-    }
-    return false;
-}
-
-bool CLoadCaseUndergroundDlg::IsInPair(zel::Key key, zel::Key eccentricKey, zel::Key except) const
-{
-    return std::ranges::any_of(m_eccentricKeys, [=](const auto& pair) {
-        const auto has = [&pair](zel::Key wanted) { return wanted != 0 && (pair.first == wanted || pair.second == wanted); };
-        return !has(except) && (has(key) || has(eccentricKey));
-    });
 }
 
 zel::Key CLoadCaseUndergroundDlg::GetKey() const
@@ -259,8 +185,9 @@ void CLoadCaseUndergroundDlg::OnCmdLoadcombScModBtn()
     if (eccentricity.GetCheck() && !CheckRSSameLC())
         return;
     const int row = list.GetFirstSelected();
-    if (row < 0) {
-        zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Not_Selected_Data____");
+    const T_LCUG_SF* selected = ScaleUpAt(row);
+    if (selected == nullptr) {
+        zel::showMessage("IDS_ZEL_CMD__Error___Not_Selected_Data____");
         return;
     }
     if (!CheckRSScaleFactor())
@@ -269,36 +196,20 @@ void CLoadCaseUndergroundDlg::OnCmdLoadcombScModBtn()
         zel::showMessage("IDS_ZEL_CMD__Error___Check_Load_Case____");
         return;
     }
-    const zel::Key key = GetKey();
-    const zel::Key eccentricKey = GetEccentricKey();
-    const zel::Key oldKey = keyOf(list, row);
-    if (IsInPair(key, eccentricKey, oldKey)) {
+    if (IsInPair(GetKey(), GetEccentricKey(), selected->loadCaseKey)) {
         zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Exist_Eccentric_Data____");
         return;
     }
-    const double factor = scaleUpFactor.GetEditValue();
-    m_factors.erase(oldKey);
-    m_eccentricKeys.erase(oldKey);
-    m_factors[key] = factor;
-    m_eccentricKeys[key] = eccentricKey;
-    list.SetItemData(row, key);
-    OverWrite_RSListCtrlBox(row, factor, nameOf(key), nameOf(eccentricKey));
+    ReplaceScaleUp(row, {scaleUpFactor.GetEditValue(), GetKey(), GetEccentricKey()});
 }
 
 void CLoadCaseUndergroundDlg::OnCmdLoadcombScDelBtn()
 {
-    int row = list.GetFirstSelected();
-    if (row < 0) {
-        zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Not_Selected_Data____");
-        return;
-    }
-    m_factors.erase(keyOf(list, row));
-    m_eccentricKeys.erase(keyOf(list, row));
-    list.DeleteItem(row);
-    if (list.GetItemCount() <= row)
-        --row;
-    if (row >= 0)
-        list.SelectOnly(row);
+    const int row = list.GetFirstSelected();
+    if (row < 0)
+        zel::showMessage("IDS_ZEL_CMD__Error___Not_Selected_Data____");
+    else
+        RemoveScaleUp(row);
 }
 
 void CLoadCaseUndergroundDlg::OnCmdConsEccentricity()
@@ -311,7 +222,7 @@ void CLoadCaseUndergroundDlg::OnItemchangedCmdLoadcombScList()
     const int row = list.GetFirstSelected();
     if (row < 0)
         return;
-    scaleUpFactor.SetEditUnit(m_factors[keyOf(list, row)]);
+    scaleUpFactor.SetEditUnit(ScaleUpAt(row)->factor);
     zel::selectText(loadCase, list.GetItemText(row, loadCaseColumn));
     zel::selectText(esLoadCase, list.GetItemText(row, eccentricColumn));
 }

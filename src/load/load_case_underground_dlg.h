@@ -5,12 +5,11 @@
 #include "contract/forms/forms.h"
 #include "contract/tables/load_set_tables.h"
 #include "load/load_case_under_main_grid.h"
-
-#include <map>
+#include "load/scale_up_form.h"
 
 /// Set Load Cases for Underground Load: which seismic cases are scaled up and by how much, and which earth pressures act with a
 /// seismic case in each direction.
-class ZEL_CMD_API CLoadCaseUndergroundDlg final : public CDlgMove, public zel::ModelListener {
+class ZEL_CMD_API CLoadCaseUndergroundDlg final : public CDlgMove, public zel::ModelListener, private zel::ScaleUpForm {
 public:
     explicit CLoadCaseUndergroundDlg(CWnd* parent = nullptr);
     ~CLoadCaseUndergroundDlg() override;
@@ -28,18 +27,12 @@ private:
     void Dlg2Data();
 
     // Scale-up of seismic load cases.
-    void InitListCtrl_RS();
+    CListCtrl& ScaleUpList() override { return list; }
     void SetComboBox_RS();
     void Show_EditComboBox(bool enable);
     void AddDataToScList(double factor, zel::Key key, zel::Key eccentricKey);
-    void Write_RSListCtrlBox(int row, double factor, const CString& name, const CString& eccentricName);
-    void OverWrite_RSListCtrlBox(int row, double factor, const CString& name, const CString& eccentricName);
     [[nodiscard]] bool CheckRSSameLC();
     [[nodiscard]] bool CheckRSScaleFactor();
-    /// Whether the list holds the name of a load case, and in which row.
-    [[nodiscard]] bool CheckRSName(const CString& name, int& row) const;
-    /// Whether one of the cases stands in an eccentric pair; pairs with the case `except` do not count.
-    [[nodiscard]] bool IsInPair(zel::Key key, zel::Key eccentricKey, zel::Key except) const;
     [[nodiscard]] zel::Key GetKey() const;
     [[nodiscard]] zel::Key GetEccentricKey() const;
     void OnCmdLoadcombScAddBtn();
@@ -88,8 +81,6 @@ private:
     CButton    ok{closing, "ok", "OK", &CLoadCaseUndergroundDlg::OnOK};
     CButton    cancel{closing, "cancel", "Cancel", &CLoadCaseUndergroundDlg::OnCancel};
 
-    T_LCUG_D m_record;                               ///< working copy
-    std::map<zel::Key, double> m_factors;            ///< scale-up of each load case; the list mirrors both maps
-    std::map<zel::Key, zel::Key> m_eccentricKeys;    ///< its case of accidental eccentricity, 0 for none
-    CString m_rowName;                               ///< grid row that the check lists show
+    T_LCUG_D m_record;    ///< working copy
+    CString m_rowName;    ///< grid row that the check lists show
 };

@@ -7,15 +7,6 @@
 
 namespace zel {
 
-namespace {
-
-// Columns of the list.
-constexpr int factorColumn = 0;
-constexpr int loadCaseColumn = 1;
-constexpr int eccentricColumn = 2;
-
-}  // namespace
-
 void ScaleUpForm::InitListCtrl_RS(const char* loadCaseTitle)
 {
     ClearScaleUps();

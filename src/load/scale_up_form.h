@@ -20,6 +20,11 @@ public:
 protected:
     virtual ~ScaleUpForm() = default;
 
+    // Columns of the list.
+    static constexpr int factorColumn = 0;
+    static constexpr int loadCaseColumn = 1;
+    static constexpr int eccentricColumn = 2;
+
     virtual CListCtrl& ScaleUpList() = 0;
 
     /// Empties list and maps, and sets the columns.

@@ -287,7 +287,7 @@ TEST_F(UndergroundSets, ModifyAndDeleteWithoutARowSayThatNoDataIsSelected)
         form.press("Modify");
         form.press("Delete");
     });
-    const CString nothing = "IDS_ZEL_CMD__ADDD__Error___Not_Selected_Data____";
+    const CString nothing = "IDS_ZEL_CMD__Error___Not_Selected_Data____";
     EXPECT_THAT(boxes(), ElementsAre(nothing, nothing));
 }
 
