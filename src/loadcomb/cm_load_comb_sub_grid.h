@@ -1,0 +1,74 @@
+#pragma once
+
+#include "contract/forms/grid_common.h"
+#include "contract/tables/load_combination_table.h"
+
+#include <optional>
+#include <vector>
+
+/// The items of one combination in the normal form, in their order: a load case and its factor. A row that is left writes the
+/// combination.
+class CCMLoadCombSubGrid final : public CTBCommon {
+public:
+    using CTBCommon::CTBCommon;
+
+    void Initialize() override;
+    /// Shows the items of a combination, as they are now; key 0: of none. A row under edit of another one is ended first.
+    void ShowItems(int kind, zel::Key key);
+    [[nodiscard]] bool HasCombination() const { return m_key != 0; }
+    /// Follows changes of the load cases.
+    void FollowLoadCases();
+    /// Whether the user was refused when leaving the grid: its row waits for a correction.
+    [[nodiscard]] bool IsRefused() const { return m_refused && IsEdit(); }
+
+    bool AddToDB(int row) override;
+    bool AddToDB(const zel::GridValues& keys, const zel::GridValues& records) override;
+    bool DeleteFromDB(int row) override { return DeleteFromDB(CArray<int>{row}); }
+    bool DeleteFromDB(const CArray<int>& rows) override;
+    bool ModifyToDB(int row) override;
+    bool ModifyToDB(const zel::GridValues& oldKeys, const zel::GridValues& keys, const zel::GridValues& records) override;
+    [[nodiscard]] int GetKeyColID() const override { return placeColumn; }
+    [[nodiscard]] CString GetNewKey() override { return std::to_string(GetCountData() + 1); }
+    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records) override;
+    void DeleteKeyAndDataArray(zel::GridValues& keys, zel::GridValues& records) override;
+    bool ValidateField(const CString& text, int column) override;
+    bool ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns) override;
+    [[nodiscard]] int GetCountData() override { return static_cast<int>(Items().size()); }
+    void MakeItemNormal(int count, const CArray<int>& columns) override;
+    [[nodiscard]] CString GetPasteRefusedText(const CString& warning) override;
+    /// Takes load cases out of the host's tree: lines of type, key, name with "(ST)", and factor, separated by tabs.
+    bool OnDropText(int row, int column, const CString& text) override;
+    /// Leaving the grid leaves its row.
+    void lostFocus() override;
+
+private:
+    static constexpr int caseColumn = 0;
+    static constexpr int factorColumn = 1;
+    static constexpr int placeColumn = 2;    ///< hidden: number of the item, from 1
+
+    struct Case {
+        zel::Key key = 0;
+        CString text;
+    };
+    /// An item as a row holds it; none where the row is empty or its factor is 0.
+    using RowItem = std::optional<T_LCOM_ITEM>;
+
+    void FillCases();
+    /// Key of a load case by its text in the list; 0 if it is none of them.
+    [[nodiscard]] zel::Key CaseOf(const CString& text) const;
+    /// @param stored  the item before; null for a new one. Its factor is kept if its text is
+    [[nodiscard]] RowItem ItemOf(const CArray<CString>& texts, const T_LCOM_ITEM* stored) const;
+    /// Tests a factor's text and that there is one, with a warning.
+    bool ValidateFactor(const CString& text);
+    void WarnOfMissing(const char* what);
+
+    [[nodiscard]] std::vector<T_LCOM_ITEM> Items() const;
+    /// Writes the items of the combination in place of all. False, with nothing changed, if there are too many or the model refuses.
+    bool Write(const std::vector<T_LCOM_ITEM>& items);
+
+    int m_kind = 1;
+    zel::Key m_key = 0;                                    ///< of the combination that is shown
+    std::vector<Case> m_cases;
+    std::optional<std::vector<T_LCOM_ITEM>> m_beforePaste; ///< while a block is pasted: the items before any of it was written
+    bool m_refused = false;
+};

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "contract/forms/grid_common.h"
+#include "contract/tables/load_combination_table.h"
+
+#include <unordered_set>
+#include <vector>
+
+namespace zel {
+
+/// Whether a combination may hold so many items in the editor, which takes 50; a message if not.
+bool itemsFit(const std::vector<T_LCOM_ITEM>& items);
+
+/// The first "LCB%d" that no combination of the kind bears; %d starts behind their count.
+CString newCombinationName(int kind);
+
+/// Replaces combinations in one change. False where the model refuses it.
+bool writeCombinations(int kind, const std::vector<Key>& keys, const std::vector<T_LCOM_D>& records);
+
+/// A grid whose rows are the load combinations of one design kind, in their sequence. Rows are read from the model when they are
+/// looked at, so that thousands of them open at once.
+class CombinationGrid : public CTBCommon {
+public:
+    CombinationGrid(const Place& place, std::string_view id, int kind) : CTBCommon(place, id), m_kind(kind) {}
+
+    void Initialize() override;
+    /// Shows the combinations of another design kind.
+    void SetKind(int kind);
+    /// Follows a change of the model. The time goes with the number of rows, for a long change as for a single one.
+    /// @param changed  keys of the combinations that were added or modified; those that are gone show by themselves
+    void Follow(const std::unordered_set<Key>& changed);
+    /// Key of the combination in a row; 0 for the append row and outside of the rows.
+    [[nodiscard]] Key KeyOf(int row) const { return IsDataRow(row) ? GetRowKey(row) : 0; }
+    /// Makes the row of a combination current, if it can.
+    void ShowCombination(Key key);
+
+    bool AddToDB(int row) override;
+    bool AddToDB(const GridValues& keys, const GridValues& records) override;
+    bool DeleteFromDB(int row) override { return DeleteFromDB(CArray<int>{row}); }
+    bool DeleteFromDB(const CArray<int>& rows) override;
+    bool ModifyToDB(int row) override;
+    bool ModifyToDB(const GridValues& oldKeys, const GridValues& keys, const GridValues& records) override;
+    [[nodiscard]] CString GetNewKey() override;
+    [[nodiscard]] CString GetDefValue(int column) override;
+    int GetSelectedKeys(CArray<std::uint32_t>& keys) override;
+    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, GridValues& keys, GridValues& records) override;
+    bool ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns) override;
+    [[nodiscard]] int GetCountData() override { return CDataLcom().GetCount(m_kind); }
+    void MakeItemFiltered(int count, const CArray<int>& rows, const CArray<int>& columns) override;
+    void MakeItemNormal(int count, const CArray<int>& columns) override;
+    bool OnSelDragRowsDrop(int firstRow, int lastRow, int targetRow) override;
+    bool OnSelDragColsDrop(int firstColumn, int lastColumn, int targetColumn) override;
+    [[nodiscard]] CString GetPasteRefusedText(const CString& warning) override;
+
+protected:
+    /// Index of the column of the place in the sequence, which can't be edited and stays in front.
+    static constexpr int noColumn = 0;
+
+    /// Indices of the other columns that every grid of combinations has.
+    struct Columns {
+        int name = 0;
+        int active = 0;
+        int description = 0;
+    };
+    [[nodiscard]] virtual Columns columns() const = 0;
+    virtual void AddColumns() = 0;
+    /// Adds one of the columns above, under its usual title and width.
+    void AddNo();
+    void AddName();
+    void AddActive();
+    void AddDescription();
+
+    /// Items of a combination into the texts of its row, and back; texts by index. For grids that show them.
+    virtual void ShowItems(const T_LCOM_D& /*record*/, CArray<CString>& /*texts*/) const {}
+    /// @param record  the combination as it is stored; an empty one in a new row
+    /// @return  false, after a message, if they can't be taken
+    virtual bool ReadItems(const CArray<CString>& /*texts*/, T_LCOM_D& /*record*/) { return true; }
+
+private:
+    [[nodiscard]] CArray<CString> TextsOf(const T_LCOM_D& record) const;
+    bool ReadTexts(const CArray<CString>& texts, T_LCOM_D& record);
+    void TakeOrder(const std::vector<Key>& keys);
+    void Refresh(const std::unordered_set<Key>& changed);
+
+    int m_kind;
+    std::vector<Key> m_keys;    ///< of the rows, in order
+};
+
+}  // namespace zel
