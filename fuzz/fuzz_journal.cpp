@@ -16,8 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::unique_ptr<zel::ModelDocument> document = zel::ModelDocument::inMemory();
-    zel::storeRows(*document, zel::rowsOfModelJson(zel::parseJson(
-                                  R"({"format": "zel-model", "version": 1, "STLD": [{"name": "DL"}, {"name": "LL", "type": "L"}, {"name": "EX", "type": "E"}]})")));
+    zel::storeRows(*document,
+                   zel::rowsOfModelJson(zel::parseJson(
+                       R"({"format": "zel-model", "version": 1, "STLD": [{"name": "DL"}, {"name": "LL", "type": "L"}, {"name": "EX", "type": "E"}]})")));
     const std::string text(reinterpret_cast<const char*>(data), size);
     std::istringstream script(text);
     std::ostringstream transcript;

@@ -23,7 +23,7 @@ Names codes(bool (*test)(const CString&))
 
 TEST(DesignCodes, AreSixteenInTheOrderOfTheForm)
 {
-    const Names expected{"AIK-USD94", "KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022", "KCI-USD12", "KBC-USD09",  "KBC-USD05",  "KCI-USD99",
+    const Names expected{"AIK-USD94",  "KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022", "KCI-USD12", "KBC-USD09", "KBC-USD05",  "KCI-USD99",
                          "KSCE-USD96", "ACI318-89", "ACI318-95",        "ACI318-99",        "ACI318-02", "BS8110-97", "GB50010-02", "CSA-A23.3-94"};
     Names names{"old"};
     CDBLib::GetConLcomCodeNameList(names);

@@ -90,7 +90,8 @@ TEST(HouseRules, HeavyHeadersStandInOneFile)
 {
     std::vector<std::string> users;
     for (const File& file : house::files()) {
-        if (house::isSource(file, "src/") && std::any_of(file.lines.begin(), file.lines.end(), [](const std::string& line) { return line.starts_with("#include <CLI/"); }))
+        if (house::isSource(file, "src/") &&
+            std::any_of(file.lines.begin(), file.lines.end(), [](const std::string& line) { return line.starts_with("#include <CLI/"); }))
             users.push_back(file.path);
     }
     EXPECT_LE(users.size(), 1U) << "CLI11 takes seconds to compile; " << (users.empty() ? "" : users.back());

@@ -53,7 +53,7 @@ const std::vector<File>& files()
 bool isIn(const File& file, const std::string& folder, const std::vector<std::string>& endings)
 {
     return file.path.starts_with(folder) &&
-           std::any_of(endings.begin(), endings.end(), [&file](const std::string& ending) { return file.path.ends_with(ending); });
+        std::any_of(endings.begin(), endings.end(), [&file](const std::string& ending) { return file.path.ends_with(ending); });
 }
 
 bool isSource(const File& file, const std::string& folder)

@@ -5,7 +5,7 @@
 namespace {
 
 enum class Wind { single, sets };
-enum class Seismic { plain, factors };    // a code that reads seismic factors reads orthogonal pairs too
+enum class Seismic { plain, factors };  // a code that reads seismic factors reads orthogonal pairs too
 enum class Underground { none, sets };
 
 struct DesignCode {

@@ -89,12 +89,12 @@ void MessageCatalogue::read(Bytes mo)
     const MoReader reader(mo);
     if (!reader.valid())
         return;
-    const std::size_t most = mo.size() / 16;    // each entry takes that much in the two tables
+    const std::size_t most = mo.size() / 16;  // each entry takes that much in the two tables
     const std::size_t count = std::min(reader.count(), most);
     for (std::size_t i = 0; i < count; ++i) {
         const std::optional<std::string_view> key = reader.key(i);
         const std::optional<std::string_view> text = reader.translation(i);
-        if (key && text && !key->empty())    // the empty key holds the file's own header
+        if (key && text && !key->empty())  // the empty key holds the file's own header
             texts_.insert_or_assign(std::string(*key), std::string(withoutBars(*text)));
     }
 }

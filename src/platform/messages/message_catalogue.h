@@ -34,8 +34,8 @@ private:
     void read(std::span<const unsigned char> mo);
 
     std::unordered_map<std::string, std::string> texts_;
-    std::map<std::string, std::string, std::less<>> unknown_;     ///< keys without a text that were asked for
-    std::map<std::string, std::string, std::less<>> prefixed_;    ///< texts with their keys before them, as asked for
+    std::map<std::string, std::string, std::less<>> unknown_;   ///< keys without a text that were asked for
+    std::map<std::string, std::string, std::less<>> prefixed_;  ///< texts with their keys before them, as asked for
     std::mutex mutex_;
     bool showKeys_ = false;
 };

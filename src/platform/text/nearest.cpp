@@ -10,7 +10,10 @@ namespace zel {
 
 namespace {
 
-char lower(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
+char lower(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
 
 /// Number of letters to insert, drop or change, by the usual table of which only the last row is kept.
 std::size_t distance(std::string_view left, std::string_view right)
@@ -29,7 +32,7 @@ std::size_t distance(std::string_view left, std::string_view right)
     return row.back();
 }
 
-constexpr std::size_t longestWord = 200;    // a longer one is no typing error, and the comparison is quadratic
+constexpr std::size_t longestWord = 200;  // a longer one is no typing error, and the comparison is quadratic
 
 bool holds(std::string_view text, std::string_view word)
 {
