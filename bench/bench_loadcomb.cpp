@@ -11,72 +11,27 @@
 //
 // Each ratio is measured inside one run, the two sides in turn.
 
+#include "bare_combinations.h"
 #include "contract/tables/load_combination_table.h"
+#include "counted_memory.h"
 #include "loadcomb/generator.h"
-#include "platform/modeldb/file_format.h"
 #include "platform/modeldb/model_document.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cmath>
-#include <cstdlib>
-#include <filesystem>
-#include <malloc.h>
-#include <new>
-#include <sqlite3.h>
-#include <stdexcept>
 
 namespace {
 
-/// Memory taken and given back while it is switched on [bytes].
-struct MemoryCount {
-    bool on = false;
-    std::ptrdiff_t now = 0;
-    std::ptrdiff_t peak = 0;
-};
-MemoryCount memory;
-
-}  // namespace
-
-void* operator new(std::size_t size)
-{
-    void* const taken = std::malloc(size == 0 ? 1 : size);
-    if (taken == nullptr)
-        throw std::bad_alloc();
-    if (memory.on) {
-        memory.now += static_cast<std::ptrdiff_t>(malloc_usable_size(taken));
-        memory.peak = std::max(memory.peak, memory.now);
-    }
-    return taken;
-}
-
-void operator delete(void* given) noexcept
-{
-    if (memory.on)
-        memory.now -= static_cast<std::ptrdiff_t>(malloc_usable_size(given));
-    std::free(given);
-}
-
-void operator delete(void* given, std::size_t) noexcept
-{
-    operator delete(given);
-}
-
-namespace {
-
+using zel::bench::bareInsert;
+using zel::bench::memory;
+using zel::bench::scratch;
+using zel::bench::timed;
 using zel::loadcomb::Generator;
 using zel::loadcomb::GeneratorModel;
 using zel::loadcomb::GeneratorOptions;
 
 constexpr const char* code = "KDS 41 20 : 2022";
-
-template <class Work> double timed(Work&& work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 struct Tower {
     GeneratorModel model;
@@ -196,65 +151,6 @@ void Generate(benchmark::State& state)
     }
 }
 BENCHMARK(Generate)->Arg(1)->Arg(10)->Arg(100)->Arg(400)->UseManualTime()->Unit(benchmark::kMillisecond);
-
-std::filesystem::path scratch(const char* name)
-{
-    const std::filesystem::path path = std::filesystem::temp_directory_path() / name;
-    for (const char* suffix : {"", "-wal", "-shm", "-journal"})
-        std::filesystem::remove(path.string() + suffix);
-    return path;
-}
-
-void check(int result)
-{
-    if (result != SQLITE_OK && result != SQLITE_DONE && result != SQLITE_ROW)
-        throw std::runtime_error(sqlite3_errstr(result));
-}
-
-/// Prepared inserts of the same rows into the same tables with the same settings, and nothing else.
-double bareInsert(const std::filesystem::path& path, const std::vector<T_LCOM_D>& rows)
-{
-    sqlite3* database = nullptr;
-    check(sqlite3_open(path.c_str(), &database));
-    const zel::SqlTable& table = zel::sqlTable(zel::tableInfo(Table::LCOM));
-    const zel::SqlTable& itemTable = table.lists.front();
-    const CString setUp = "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; PRAGMA cache_size=-65536; " + table.create + itemTable.create;
-    check(sqlite3_exec(database, setUp.c_str(), nullptr, nullptr, nullptr));
-    sqlite3_stmt* insert = nullptr;
-    sqlite3_stmt* insertItem = nullptr;
-    check(sqlite3_prepare_v2(database, zel::insertStatement(table).c_str(), -1, &insert, nullptr));
-    check(sqlite3_prepare_v2(database, zel::insertStatement(itemTable).c_str(), -1, &insertItem, nullptr));
-    const double seconds = timed([&] {
-        check(sqlite3_exec(database, "BEGIN", nullptr, nullptr, nullptr));
-        int key = 0;
-        for (const T_LCOM_D& row : rows) {
-            sqlite3_bind_int(insert, 1, 1);
-            sqlite3_bind_int64(insert, 2, ++key);
-            sqlite3_bind_text(insert, 3, row.name.data(), static_cast<int>(row.name.size()), SQLITE_STATIC);
-            sqlite3_bind_int(insert, 4, key);
-            sqlite3_bind_int(insert, 5, row.active);
-            sqlite3_bind_text(insert, 6, row.description.data(), static_cast<int>(row.description.size()), SQLITE_STATIC);
-            check(sqlite3_step(insert));
-            sqlite3_reset(insert);
-            int place = 0;
-            for (const T_LCOM_ITEM& item : row.items) {
-                sqlite3_bind_int(insertItem, 1, 1);
-                sqlite3_bind_int64(insertItem, 2, key);
-                sqlite3_bind_int(insertItem, 3, ++place);
-                sqlite3_bind_int(insertItem, 4, item.type);
-                sqlite3_bind_int64(insertItem, 5, item.key);
-                sqlite3_bind_double(insertItem, 6, item.factor);
-                check(sqlite3_step(insertItem));
-                sqlite3_reset(insertItem);
-            }
-        }
-        check(sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr));
-    });
-    sqlite3_finalize(insert);
-    sqlite3_finalize(insertItem);
-    sqlite3_close(database);
-    return seconds;
-}
 
 void Store(benchmark::State& state)
 {

@@ -7,27 +7,20 @@
 // Each ratio is measured inside one run, the two sides in turn.
 
 #include "contract/tables/load_tables.h"
+#include "measure.h"
 #include "platform/modeldb/file_format.h"
 #include "platform/modeldb/model_document.h"
 
 #include <benchmark/benchmark.h>
-#include <chrono>
-#include <filesystem>
 #include <random>
-#include <sqlite3.h>
 
 namespace {
 
+using zel::bench::check;
+using zel::bench::scratch;
+using zel::bench::timed;
+
 constexpr int rowCount = 100'000;
-
-using Seconds = std::chrono::duration<double>;
-
-template <class Work> double timed(Work&& work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return Seconds(std::chrono::steady_clock::now() - start).count();
-}
 
 std::vector<T_STLD_D> records()
 {
@@ -40,20 +33,6 @@ std::vector<T_STLD_D> records()
         record.selfWeightFactor = 0.25 * i;
     }
     return made;
-}
-
-std::filesystem::path scratch(const char* name)
-{
-    const std::filesystem::path path = std::filesystem::temp_directory_path() / name;
-    for (const char* suffix : {"", "-wal", "-shm", "-journal"})
-        std::filesystem::remove(path.string() + suffix);
-    return path;
-}
-
-void check(int code)
-{
-    if (code != SQLITE_OK && code != SQLITE_DONE && code != SQLITE_ROW)
-        throw std::runtime_error(sqlite3_errstr(code));
 }
 
 /// A prepared insert of the same rows into the same schema with the same settings, and nothing else.

@@ -4,38 +4,15 @@
 #include "contract/tables/model_tables.h"
 #include "contract/tables/property_tables.h"
 #include "model_fixture.h"
+#include "modeldb/full_disk.h"
 #include "platform/modeldb/file_format.h"
 #include "platform/modeldb/flat_layout.h"
 #include "platform/modeldb/record_values.h"
 
-#include <csignal>
 #include <random>
 #include <sqlite3.h>
-#include <sys/resource.h>
 
 namespace zel::test {
-
-/// While it lives, no file of this process may grow beyond a size [bytes]: what a full disk does.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t size) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limit{size, m_former.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_former);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_former{};
-    void (*m_handler)(int);
-};
 
 class ModelFiles : public testing::Test {
 protected:

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdlib>
+#include <malloc.h>
+#include <new>
+
+// Counts the allocations of the program. It replaces the global operators: include it in one file of a program.
+
+namespace zel::bench {
+
+/// Memory taken and given back while it is switched on [bytes].
+struct MemoryCount {
+    bool on = false;
+    std::ptrdiff_t now = 0;
+    std::ptrdiff_t peak = 0;
+};
+inline MemoryCount memory;
+
+}  // namespace zel::bench
+
+void* operator new(std::size_t size)
+{
+    void* const taken = std::malloc(size == 0 ? 1 : size);
+    if (taken == nullptr)
+        throw std::bad_alloc();
+    using zel::bench::memory;
+    if (memory.on) {
+        memory.now += static_cast<std::ptrdiff_t>(malloc_usable_size(taken));
+        memory.peak = std::max(memory.peak, memory.now);
+    }
+    return taken;
+}
+
+void operator delete(void* given) noexcept
+{
+    using zel::bench::memory;
+    if (memory.on)
+        memory.now -= static_cast<std::ptrdiff_t>(malloc_usable_size(given));
+    std::free(given);
+}
+
+void operator delete(void* given, std::size_t) noexcept
+{
+    operator delete(given);
+}
+
