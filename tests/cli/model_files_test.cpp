@@ -1,4 +1,5 @@
 #include "cli/program.h"
+#include "modeldb/model_text.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ TEST_F(ModelFiles, NewMakesAnEmptyModelInTheGivenUnits)
     const Outcome made = zel({"new", path("a.qvx"), "--length", "m", "--force", "TON"});
     EXPECT_EQ(made.code, 0) << made.error;
     EXPECT_EQ(made.out + made.error, "");
-    EXPECT_EQ(zel({"dump", path("a.qvx")}).out, "{\"format\": \"zel-model\", \"version\": 1, \"units\": {\"length\": \"M\", \"force\": \"TON\"}}\n");
+    EXPECT_EQ(zel::test::withoutEmptyTables(zel({"dump", path("a.qvx")}).out), "{\"format\": \"zel-model\", \"version\": 1, \"units\": {\"length\": \"M\", \"force\": \"TON\"}}\n");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1) << "a closed model is one file";
 }
 
@@ -69,7 +70,7 @@ TEST_F(ModelFiles, LoadRefusesAnExistingModelUnlessItIsToReplaceIt)
     EXPECT_NE(refused.error.find("--replace"), std::string::npos) << refused.error;
     EXPECT_EQ(contents(model), before);
     EXPECT_EQ(zel({"load", "-", model, "--replace"}, R"({"format": "zel-model", "version": 1})").code, 0);
-    EXPECT_EQ(zel({"dump", model}).out.find("STLD"), std::string::npos);
+    EXPECT_NE(zel({"dump", model}).out.find("\"STLD\": []"), std::string::npos);
     EXPECT_EQ(zel({"load", "-", path("new.qvx"), "--replace"}, twoCases).code, 0) << "nothing to replace is no fault";
 }
 

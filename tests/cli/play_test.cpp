@@ -1,4 +1,5 @@
 #include "cli/program.h"
+#include "modeldb/model_text.h"
 
 #include <algorithm>
 
@@ -64,7 +65,7 @@ TEST_F(Play, WhatTheFormWroteIsWhatALaterDumpShows)
     ASSERT_EQ(zel({"new", model}).code, 0);
     const Outcome played = zel({"play", model, "--strict", "--script", std::string(ZEL_SOURCE_DIR) + "/tests/journals/static_load_cases.jsonl"});
     EXPECT_EQ(played.code, 0) << played.error;
-    EXPECT_EQ(zel({"dump", model}).out,
+    EXPECT_EQ(zel::test::withoutEmptyTables(zel({"dump", model}).out),
               R"({"format": "zel-model", "version": 1, "units": {"length": "M", "force": "KN"},
  "STLD": [
   {"key": 4, "name": "EX", "no": 1, "type": "E", "description": "", "selfWeightFactor": 0.0, "subLoadCaseCount": 0, "combinationType": 2, "majorCase": 0},

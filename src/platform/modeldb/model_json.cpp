@@ -27,12 +27,10 @@ void checkHead(const Json& model)
     if (!model.is_object())
         throw JsonFault("a model must be an object, not " + std::string(jsonKind(model)));
     const auto format = model.find("format");
-    if (format == model.end() || *format != Json(modelJsonFormat))
+    if (format != model.end() && *format != Json(modelJsonFormat))
         throw JsonFault("format", "must be \"" + std::string(modelJsonFormat) + "\"; this is no model");
     const auto version = model.find("version");
-    if (version == model.end())
-        throw JsonFault("version", "is missing");
-    if (integerFromJson(*version, "version", 1, std::numeric_limits<int>::max()) != modelJsonVersion)
+    if (version != model.end() && integerFromJson(*version, "version", 1, std::numeric_limits<int>::max()) != modelJsonVersion)
         throw JsonFault("version", "is newer than " + std::to_string(modelJsonVersion) + ", which this program reads; take a newer program");
 }
 
@@ -151,7 +149,8 @@ void printRow(ITable& table, int kind, Key key, std::ostream& out)
 void printRows(ITable& table, std::ostream& out)
 {
     const bool kinded = table.info().shape == TableShape::kinded;
-    const char* separator = "[\n  ";
+    const char* separator = "\n  ";
+    out << "[";
     for (int kind = kinded ? firstKind : 0; kind <= (kinded ? lastKind : 0); ++kind) {
         for (const Key key : table.keys(kind)) {
             out << separator;
@@ -160,17 +159,6 @@ void printRows(ITable& table, std::ostream& out)
         }
     }
     out << "]";
-}
-
-bool holdsSomething(ITable& table)
-{
-    if (table.info().shape != TableShape::kinded)
-        return table.count(0) != 0;
-    for (int kind = firstKind; kind <= lastKind; ++kind) {
-        if (table.count(kind) != 0)
-            return true;
-    }
-    return false;
 }
 
 }  // namespace
@@ -230,7 +218,7 @@ void printModelJson(CDBDoc& document, std::ostream& out)
         << lengthUnitName(units.length) << "\", \"force\": \"" << forceUnitName(units.force) << "\"}";
     for (const TableInfo& info : tableList()) {
         ITable& table = document.table(info.table);
-        if (!holdsSomething(table))
+        if (info.shape == TableShape::single && table.count(0) == 0)    // never written: absent, which is not the same as its defaults
             continue;
         out << ",\n \"" << info.code << "\": ";
         if (info.shape == TableShape::single)
