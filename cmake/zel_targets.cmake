@@ -45,6 +45,14 @@ function(zel_program name)
     target_link_libraries(${name} PRIVATE ${arg_USES} ${arg_HIDES})
 endfunction()
 
+# zel_example(name [USES ...]): the program <name>_example of examples/<name>.cpp.
+function(zel_example name)
+    cmake_parse_arguments(arg "" "" "USES" ${ARGN})
+    add_executable(${name}_example "${CMAKE_SOURCE_DIR}/examples/${name}.cpp")
+    target_include_directories(${name}_example PRIVATE "${CMAKE_SOURCE_DIR}/src")
+    target_link_libraries(${name}_example PRIVATE ${arg_USES})
+endfunction()
+
 # One program for each file <folder>/<prefix>*.cpp; it may read the tree and run the programs that are built beside it.
 # WITH: further sources of each.
 function(zel_programs folder prefix)
