@@ -260,8 +260,9 @@ CString CCMLoadCombSubGrid::GetPasteRefusedText(const CString& /*warning*/)
 bool CCMLoadCombSubGrid::OnDropText(int /*row*/, int /*column*/, const CString& text)
 {
     constexpr std::size_t factorField = 3;
+    const zel::GridBlock lines = zel::readGridBlock(text);
     std::vector<T_LCOM_ITEM> items = Items();
-    for (const CArray<CString>& fields : zel::readGridBlock(text)) {
+    for (const CArray<CString>& fields : lines) {
         const zel::Key key = droppedCase(fields);
         const CString factor = fields.size() > factorField ? fields[factorField] : CString();
         if (key == 0 || !ValidateFactor(factor))
@@ -269,7 +270,7 @@ bool CCMLoadCombSubGrid::OnDropText(int /*row*/, int /*column*/, const CString& 
         if (const double value = RealOf(trimmed(factor)); value != 0.0)
             items.push_back({staticCase, key, value});
     }
-    return Write(items);
+    return !lines.empty() && Write(items);
 }
 
 void CCMLoadCombSubGrid::lostFocus()
