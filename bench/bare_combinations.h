@@ -15,8 +15,9 @@ inline double bareInsert(const std::filesystem::path& path, const std::vector<T_
     check(sqlite3_open(path.c_str(), &database));
     const SqlTable& table = sqlTable(tableInfo(Table::LCOM));
     const SqlTable& itemTable = table.lists.front();
-    const CString setUp = "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; PRAGMA cache_size=-65536; " + table.create + itemTable.create;
-    check(sqlite3_exec(database, setUp.c_str(), nullptr, nullptr, nullptr));
+    const CString settings = "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; PRAGMA cache_size=-65536";
+    for (const CString& statement : {settings, table.create, itemTable.create})
+        check(sqlite3_exec(database, statement.c_str(), nullptr, nullptr, nullptr));
     sqlite3_stmt* insert = nullptr;
     sqlite3_stmt* insertItem = nullptr;
     check(sqlite3_prepare_v2(database, insertStatement(table).c_str(), -1, &insert, nullptr));
