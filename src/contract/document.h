@@ -57,8 +57,10 @@ public:
     [[nodiscard]] virtual CString undoName() const = 0;
     [[nodiscard]] virtual CString redoName() const = 0;
 
-    /// Changes made between these two calls are one change: one transaction, one undo step, one notice at the end. They nest.
-    /// `endChange` with 0 takes everything since `beginChange` back; it returns 0 when nothing was kept.
-    virtual void beginChange(const CString& name) = 0;
+    /// Changes made between these two calls are one change: one transaction, one undo step. They nest. Listeners get one notice at the
+    /// end, or with `NoticeTime::each` one at each write, as if it stood alone. `endChange` with 0 takes everything since
+    /// `beginChange` back; it returns 0 when nothing was kept.
+    enum class NoticeTime { atEnd, each };
+    virtual void beginChange(const CString& name, NoticeTime notices = NoticeTime::atEnd) = 0;
     virtual int endChange(int keep) = 0;
 };

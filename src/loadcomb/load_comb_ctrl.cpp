@@ -2,6 +2,7 @@
 
 #include "command/guarded.h"
 #include "command/messages.h"
+#include "contract/change_scope.h"
 #include "contract/messages.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"
@@ -55,7 +56,14 @@ void CLoadCombCtrl::SetEccentricCases(const std::map<std::uint32_t, std::uint32_
 
 int CLoadCombCtrl::Generate(int mode, const CString& codeName, Storing storing)
 {
-    return zel::guarded(0, [&] { return generate(mode, codeName, storing); });
+    return zel::guarded(0, [&] {
+        if (mode != replaceMode || storing == Storing::dryRun)
+            return generate(mode, codeName, storing);
+        // Deleting the old combinations and storing the new ones is one action of the user, though each is told by itself.
+        zel::ChangeScope change(*CDBDoc::GetDocPoint(), "Generate load combinations", CDBDoc::NoticeTime::each);
+        const int result = generate(mode, codeName, storing);
+        return change.end() != 0 ? result : 0;
+    });
 }
 
 const std::vector<T_LCOM_D>& CLoadCombCtrl::rows() const

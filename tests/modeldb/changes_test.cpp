@@ -194,6 +194,30 @@ TEST_F(Undo, SeveralWritesMadeOneChangeAreOneStepAndOneNotice)
     EXPECT_EQ(cases.GetCount(), 0);
 }
 
+TEST_F(Undo, WritesOfOneChangeMayBeToldEachByItself)
+{
+    CDataStld cases;
+    cases.Add(loadCase("A"));
+    const NoticeLog log;
+    model->beginChange("Replace", CDBDoc::NoticeTime::each);
+    cases.Del(CString("A"));
+    cases.Add(loadCase("B"));
+    ASSERT_EQ(log.notices.size(), 2U);
+    EXPECT_EQ(log.notices[0].changes, (Changes{"DEL 1 A 1"}));
+    EXPECT_EQ(log.notices[1].changes, (Changes{"ADD 1 B 1"}));
+    EXPECT_NE(model->endChange(1), 0);
+    EXPECT_EQ(log.notices.size(), 2U);
+    EXPECT_EQ(model->undoName(), "Replace");
+    model->Undo();
+    EXPECT_NE(cases.Get("A"), 0);
+    EXPECT_EQ(cases.GetCount(), 1);
+    model->beginChange("Nothing", CDBDoc::NoticeTime::each);
+    cases.Add(loadCase("C"));
+    EXPECT_EQ(model->endChange(0), 0);
+    EXPECT_EQ(log.notices.back().hint, 1) << "whoever was told of C is told that it is gone again";
+    EXPECT_EQ(log.notices.back().changes, (Changes{"DEL 2 C 2"}));
+}
+
 TEST_F(Undo, AChangeThatIsNotKeptLeavesNothing)
 {
     const NoticeLog log;

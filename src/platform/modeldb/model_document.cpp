@@ -171,10 +171,11 @@ int ModelDocument::make(const CString& name, Batch&& batch)
     return static_cast<int>(endChange(1) != 0 && done);
 }
 
-void ModelDocument::beginChange(const CString& name)
+void ModelDocument::beginChange(const CString& name, NoticeTime notices)
 {
     if (m_depth++ > 0)
         return;
+    m_noticeTime = notices;
     m_running = {name, {}, {}};
     m_failed = false;
 }
@@ -201,6 +202,8 @@ bool ModelDocument::perform(Batch batch)
     }
     m_tables[static_cast<std::size_t>(batch.table)]->apply(batch);
     m_running.batches.push_back(std::move(batch));
+    if (m_noticeTime == NoticeTime::each)
+        tell({{}, {m_running.batches.back()}, {}}, Hint::write);
     return true;
 }
 
@@ -208,6 +211,8 @@ void ModelDocument::takeBack()
 {
     for (auto batch = m_running.batches.rbegin(); batch != m_running.batches.rend(); ++batch)
         m_tables[static_cast<std::size_t>(batch->table)]->apply(inverse(*batch));
+    if (m_noticeTime == NoticeTime::each && !m_running.batches.empty())    // who has been told of it is told that it is gone again
+        tell(inverse(m_running), Hint::undo);
     m_running.batches.clear();
 }
 
@@ -229,7 +234,8 @@ int ModelDocument::endChange(int keep)
     }
     m_redo.clear();
     m_undo.push_back(std::exchange(m_running, {}));
-    tell(m_undo.back(), Hint::write);
+    if (m_noticeTime == NoticeTime::atEnd)
+        tell(m_undo.back(), Hint::write);
     return 1;
 }
 

@@ -63,7 +63,7 @@ public:
     int Redo() override;
     [[nodiscard]] CString undoName() const override { return m_undo.empty() ? CString() : m_undo.back().name; }
     [[nodiscard]] CString redoName() const override { return m_redo.empty() ? CString() : m_redo.back().name; }
-    void beginChange(const CString& name) override;
+    void beginChange(const CString& name, NoticeTime notices = NoticeTime::atEnd) override;
     int endChange(int keep) override;
 
 private:
@@ -99,6 +99,7 @@ private:
     ChangeRecord m_running;    // the change between beginChange and endChange
     int m_depth = 0;
     bool m_failed = false;
+    NoticeTime m_noticeTime = NoticeTime::atEnd;
     std::vector<ChangeRecord> m_undo;
     std::vector<ChangeRecord> m_redo;
 };
