@@ -23,22 +23,23 @@ TEST_F(ObjectStyleGenerator, StoresTheRowsOfTheCodeOverOneCaseOfEachKind)
 {
     addCases("DL:D LL:L WX:W EX:E");
     EXPECT_EQ(generator.Run(1, "AIK-USD94", replaceMode), 14);
-    EXPECT_EQ(stored(), (Lines{
-        "LC1 | 0 | 1.0DL+1.0LL | DL 1, LL 1",
-        "LC2 | 0 | (1.0DL+1.0LL+1.0WL)/1.5 | DL 0.6666667, LL 0.6666667, WX 0.6666667",
-        "LC3 | 0 | (1.0DL+1.0LL-1.0WL)/1.5 | DL 0.6666667, LL 0.6666667, WX -0.6666667",
-        "LC4 | 0 | (1.0DL+1.0LL+1.0*SF*EL)/1.5 | DL 0.6666667, LL 0.6666667, EX 0.6666667",
-        "LC5 | 0 | (1.0DL+1.0LL-1.0*SF*EL)/1.5 | DL 0.6666667, LL 0.6666667, EX -0.6666667",
-        "LC6 | 1 | 1.4DL+1.7LL | DL 1.4, LL 1.7",
-        "LC7 | 1 | 0.75(1.4DL+1.7LL+1.7WL) | DL 1.05, LL 1.275, WX 1.275",
-        "LC8 | 1 | 0.75(1.4DL+1.7LL-1.7WL) | DL 1.05, LL 1.275, WX -1.275",
-        "LC9 | 1 | 0.9DL+1.3WL | DL 0.9, WX 0.3",
-        "LC10 | 1 | 0.9DL-1.3WL | DL 0.9, WX -0.3",
-        "LC11 | 1 | 0.75(1.4DL+1.7LL+1.7(1.1*SF*EL)) | DL 1.05, LL 1.275, EX 1.4025",
-        "LC12 | 1 | 0.75(1.4DL+1.7LL-1.7(1.1*SF*EL)) | DL 1.05, LL 1.275, EX -1.4025",
-        "LC13 | 1 | 0.9DL+1.3(1.1*SF*EL) | LL 0.9, EX 1.43",
-        "LC14 | 1 | 0.9DL-1.3(1.1*SF*EL) | LL 0.9, EX -1.43",
-    }));
+    EXPECT_EQ(stored(),
+              (Lines{
+                  "LC1 | 0 | 1.0DL+1.0LL | DL 1, LL 1",
+                  "LC2 | 0 | (1.0DL+1.0LL+1.0WL)/1.5 | DL 0.6666667, LL 0.6666667, WX 0.6666667",
+                  "LC3 | 0 | (1.0DL+1.0LL-1.0WL)/1.5 | DL 0.6666667, LL 0.6666667, WX -0.6666667",
+                  "LC4 | 0 | (1.0DL+1.0LL+1.0*SF*EL)/1.5 | DL 0.6666667, LL 0.6666667, EX 0.6666667",
+                  "LC5 | 0 | (1.0DL+1.0LL-1.0*SF*EL)/1.5 | DL 0.6666667, LL 0.6666667, EX -0.6666667",
+                  "LC6 | 1 | 1.4DL+1.7LL | DL 1.4, LL 1.7",
+                  "LC7 | 1 | 0.75(1.4DL+1.7LL+1.7WL) | DL 1.05, LL 1.275, WX 1.275",
+                  "LC8 | 1 | 0.75(1.4DL+1.7LL-1.7WL) | DL 1.05, LL 1.275, WX -1.275",
+                  "LC9 | 1 | 0.9DL+1.3WL | DL 0.9, WX 0.3",
+                  "LC10 | 1 | 0.9DL-1.3WL | DL 0.9, WX -0.3",
+                  "LC11 | 1 | 0.75(1.4DL+1.7LL+1.7(1.1*SF*EL)) | DL 1.05, LL 1.275, EX 1.4025",
+                  "LC12 | 1 | 0.75(1.4DL+1.7LL-1.7(1.1*SF*EL)) | DL 1.05, LL 1.275, EX -1.4025",
+                  "LC13 | 1 | 0.9DL+1.3(1.1*SF*EL) | LL 0.9, EX 1.43",
+                  "LC14 | 1 | 0.9DL-1.3(1.1*SF*EL) | LL 0.9, EX -1.43",
+              }));
     EXPECT_TRUE(host.boxes.empty());
 }
 
@@ -54,12 +55,13 @@ TEST_F(ObjectStyleGenerator, ARowSurvivesOnlyIfEachOfItsKindsHasACase)
 {
     addCases("DL:D WX:W");
     EXPECT_EQ(generator.Run(1, "KCI-USD99", addMode), 4);
-    EXPECT_EQ(stored(), (Lines{
-        "LC1 | 1 | 0.75(1.4DL+1.7WL) | DL 1.05, WX 1.275",
-        "LC2 | 1 | 0.75(1.4DL-1.7WL) | DL 1.05, WX -1.275",
-        "LC3 | 1 | 0.9DL+1.3WL | DL 0.9, WX 1.3",
-        "LC4 | 1 | 0.9DL-1.3WL | DL 0.9, WX -1.3",
-    }));
+    EXPECT_EQ(stored(),
+              (Lines{
+                  "LC1 | 1 | 0.75(1.4DL+1.7WL) | DL 1.05, WX 1.275",
+                  "LC2 | 1 | 0.75(1.4DL-1.7WL) | DL 1.05, WX -1.275",
+                  "LC3 | 1 | 0.9DL+1.3WL | DL 0.9, WX 1.3",
+                  "LC4 | 1 | 0.9DL-1.3WL | DL 0.9, WX -1.3",
+              }));
 }
 
 TEST_F(ObjectStyleGenerator, TypesAreComparedExactly)
@@ -82,13 +84,14 @@ TEST_F(ObjectStyleGenerator, EachWindCaseMakesACombinationOfItsOwnInModelOrder)
     EXPECT_EQ(generator.Run(1, "AIK-USD94", addMode), 14);
     const Lines lines = stored();
     ASSERT_EQ(lines.size(), 14U);
-    EXPECT_EQ(Lines(lines.begin(), lines.begin() + 5), (Lines{
-        "LC1 | 0 | 1.0DL+1.0LL | D1 1, D2 1, L1 1, L2 1",
-        "LC2 | 0 | (1.0DL+1.0LL+1.0WL)/1.5 | D1 0.6666667, D2 0.6666667, L1 0.6666667, L2 0.6666667, WY 0.6666667",
-        "LC3 | 0 | (1.0DL+1.0LL+1.0WL)/1.5 | D1 0.6666667, D2 0.6666667, L1 0.6666667, L2 0.6666667, WX 0.6666667",
-        "LC4 | 0 | (1.0DL+1.0LL-1.0WL)/1.5 | D1 0.6666667, D2 0.6666667, L1 0.6666667, L2 0.6666667, WY -0.6666667",
-        "LC5 | 0 | (1.0DL+1.0LL-1.0WL)/1.5 | D1 0.6666667, D2 0.6666667, L1 0.6666667, L2 0.6666667, WX -0.6666667",
-    }));
+    EXPECT_EQ(Lines(lines.begin(), lines.begin() + 5),
+              (Lines{
+                  "LC1 | 0 | 1.0DL+1.0LL | D1 1, D2 1, L1 1, L2 1",
+                  "LC2 | 0 | (1.0DL+1.0LL+1.0WL)/1.5 | D1 0.6666667, D2 0.6666667, L1 0.6666667, L2 0.6666667, WY 0.6666667",
+                  "LC3 | 0 | (1.0DL+1.0LL+1.0WL)/1.5 | D1 0.6666667, D2 0.6666667, L1 0.6666667, L2 0.6666667, WX 0.6666667",
+                  "LC4 | 0 | (1.0DL+1.0LL-1.0WL)/1.5 | D1 0.6666667, D2 0.6666667, L1 0.6666667, L2 0.6666667, WY -0.6666667",
+                  "LC5 | 0 | (1.0DL+1.0LL-1.0WL)/1.5 | D1 0.6666667, D2 0.6666667, L1 0.6666667, L2 0.6666667, WX -0.6666667",
+              }));
 }
 
 TEST_F(ObjectStyleGenerator, EachEarthquakeCaseMakesACombinationWithItsOwnScaleFactor)
@@ -97,12 +100,13 @@ TEST_F(ObjectStyleGenerator, EachEarthquakeCaseMakesACombinationWithItsOwnScaleF
     generator.SetScaleFactors({{2, 1.25}, {3, 2.0}});
     EXPECT_EQ(generator.Run(1, "AIK-USD94", addMode), 4);
     // 1.43 is 1.42999994754... in 32 bits; times 1.25 that is 1.787499934..., between 1.78749990463 and 1.78750002384.
-    EXPECT_EQ(stored(), (Lines{
-        "LC1 | 1 | 0.9DL+1.3(1.1*SF*EL) | LL 0.9, EX 1.7874999",
-        "LC2 | 1 | 0.9DL+1.3(1.1*SF*EL) | LL 0.9, EY 2.86",
-        "LC3 | 1 | 0.9DL-1.3(1.1*SF*EL) | LL 0.9, EX -1.7874999",
-        "LC4 | 1 | 0.9DL-1.3(1.1*SF*EL) | LL 0.9, EY -2.86",
-    }));
+    EXPECT_EQ(stored(),
+              (Lines{
+                  "LC1 | 1 | 0.9DL+1.3(1.1*SF*EL) | LL 0.9, EX 1.7874999",
+                  "LC2 | 1 | 0.9DL+1.3(1.1*SF*EL) | LL 0.9, EY 2.86",
+                  "LC3 | 1 | 0.9DL-1.3(1.1*SF*EL) | LL 0.9, EX -1.7874999",
+                  "LC4 | 1 | 0.9DL-1.3(1.1*SF*EL) | LL 0.9, EY -2.86",
+              }));
 }
 
 TEST_F(ObjectStyleGenerator, ScaleFactorsReachEarthquakeAlone)
@@ -191,6 +195,27 @@ TEST_F(ObjectStyleGenerator, TakesTheKindsTwoToFiveAndReadsOneForAnyOther)
     EXPECT_EQ(names(1), (std::vector<CString>{"old"}));
 }
 
+TEST_F(ObjectStyleGenerator, AKindThatIsNoneIsReadAsOneAndRefusedByTheModel)
+{
+    addCases("DL:D LL:L");
+    addCombination("mine", 1);
+    EXPECT_EQ(generator.Run(6, "ACI318-99", replaceMode), 0);
+    EXPECT_EQ(generator.designKind(), 1U);
+    EXPECT_EQ(generator.generatedCombinations().count(), 2U);
+    EXPECT_EQ(host.boxes.size(), 2U) << "one refusal a combination";
+    EXPECT_EQ(names(1), (std::vector<CString>{"mine"})) << "what is replaced is the kind as passed";
+}
+
+TEST_F(ObjectStyleGenerator, ARunInsideAChangeIsTakenBackWithIt)
+{
+    addCases("DL:D LL:L");
+    addCombination("mine");
+    model->beginChange("outer");
+    EXPECT_EQ(generator.Run(1, "ACI318-99", replaceMode), 2);
+    model->endChange(0);
+    EXPECT_EQ(names(), (std::vector<CString>{"mine"}));
+}
+
 TEST_F(ObjectStyleGenerator, WithoutALoadCaseItShowsAMessageAndWritesNothing)
 {
     addCombination("mine", 1, {});
@@ -236,14 +261,16 @@ TEST_F(ObjectStyleGenerator, ReadsTheCombinationsAsObjectsWithLinks)
     generator.Run(1, "no code", addMode);
     Lines read;
     for (const JhloadCombination* combination : generator.currentCombinations()) {
-        std::string line = std::to_string(combination->id) + " " + combination->name + " " + std::to_string(combination->active) + " " + combination->description;
+        std::string line =
+            std::to_string(combination->id) + " " + combination->name + " " + std::to_string(combination->active) + " " + combination->description;
         for (const JhassoLoadcombLoadcase* link : combination->cases)
             line += "; " + std::to_string(link->id) + " " + link->loadcase()->name + " " + shortest(link->factor) + " of type " + std::to_string(link->type);
         read.push_back(line);
         EXPECT_EQ(combination->code, nullptr);
     }
-    EXPECT_EQ(read, (Lines{"1 LC1 0 text of mine; 1 DL 1.2 of type 1; 2 LL -0.5 of type 1", "2 LC2 0 text of other; 3 LL 1.6 of type 1",
-                           "3 LC3 1 text of third"})) << "only the flag 1 is active";
+    EXPECT_EQ(read,
+              (Lines{"1 LC1 0 text of mine; 1 DL 1.2 of type 1; 2 LL -0.5 of type 1", "2 LC2 0 text of other; 3 LL 1.6 of type 1", "3 LC3 1 text of third"}))
+        << "only the flag 1 is active";
     EXPECT_EQ((*generator.currentLoadcases().begin())->combinations.count(), 1U);
     EXPECT_EQ((*std::next(generator.currentLoadcases().begin()))->combinations.count(), 2U);
 }

@@ -62,7 +62,7 @@ TEST_F(ObjectStyleReport, HoldsTheTitleAndThreeSectionsUnderTheirMessages)
     EXPECT_EQ(lines[0], "");
     EXPECT_EQ(lines[1].substr(0, lines[1].find(']') + 1), "[IDS_ZEL_CMD______AUTO_GENERATION_OF_LOAD_COMBINATIO]");
     EXPECT_EQ(lines[2], "");
-    Lines outline;    // headings, names, empty lines
+    Lines outline;  // headings, names, empty lines
     for (std::size_t i = 3; i < lines.size(); ++i) {
         if (lines[i].find("[IDS_ZEL_CMD__Jhload") == 0)
             outline.push_back(lines[i].substr(0, lines[i].find(']') + 1));
@@ -72,8 +72,8 @@ TEST_F(ObjectStyleReport, HoldsTheTitleAndThreeSectionsUnderTheirMessages)
     Lines expected{"[IDS_ZEL_CMD__JhloadCombination_Objects_for_Code__]"};
     for (int row = 1; row <= 86; ++row)
         expected.push_back("LC" + std::to_string(row));
-    for (const char* line : {"", "[IDS_ZEL_CMD__JhloadCombination_Objects_for_Current_]", "LC1", "", "[IDS_ZEL_CMD__JhloadCombination_Objects_for_Generate]",
-                             "LC2", "LC3", ""})
+    for (const char* line :
+         {"", "[IDS_ZEL_CMD__JhloadCombination_Objects_for_Current_]", "LC1", "", "[IDS_ZEL_CMD__JhloadCombination_Objects_for_Generate]", "LC2", "LC3", ""})
         expected.push_back(line);
     EXPECT_EQ(outline, expected);
 }
@@ -96,16 +96,18 @@ TEST_F(ObjectStyleReport, FieldsStandToTheRightAndGrowWithTheirContent)
     addCases("DL:D LL:L Wind_along_X:W");
     addCombination("mine", 1, {{1, 1, 1.0}, {1, 3, -0.66666666666666663}});
     JhautoGenLoadcomb generator(1);
-    ASSERT_EQ(generator.Run(1, "AIK-USD94", replaceMode), 8);    // 1 to 3 and 6 to 10
+    ASSERT_EQ(generator.Run(1, "AIK-USD94", replaceMode), 8);  // 1 to 3 and 6 to 10
     EXPECT_TRUE(generator.PrintCurrentCombinations());
     const std::string current = zel::MessageCatalogue::builtIn().find("IDS_ZEL_CMD__JhloadCombination_Objects_for_Current_");
-    EXPECT_EQ(report(), current + "\n"
-                        "LC1\n"
-                        "   kind :     1\n"
-                        "   desc : text of mine\n"
-                        " factor :     1Loadcase :    DL   type :     D\n"
-                        " factor : -0.666667Loadcase : Wind_along_X   type :     W\n"
-                        "\n");
+    EXPECT_EQ(report(),
+              current +
+                  "\n"
+                  "LC1\n"
+                  "   kind :     1\n"
+                  "   desc : text of mine\n"
+                  " factor :     1Loadcase :    DL   type :     D\n"
+                  " factor : -0.666667Loadcase : Wind_along_X   type :     W\n"
+                  "\n");
 }
 
 TEST_F(ObjectStyleReport, CodeRowsShowTheirLoadKinds)
@@ -116,13 +118,14 @@ TEST_F(ObjectStyleReport, CodeRowsShowTheirLoadKinds)
     generator.Run(4, "AIK-USD94", addMode);
     EXPECT_TRUE(generator.PrintCodeCombinations());
     const Lines lines = reportLines();
-    EXPECT_EQ(Lines(lines.begin() + 1, lines.begin() + 6), (Lines{
-        "LC1",
-        "   kind :     1",
-        "   desc : 1.0DL+1.0LL",
-        " factor :     1Loadcase : Jhloadcase1   type :     D",
-        " factor :     1Loadcase : Jhloadcase2   type :     L",
-    }));
+    EXPECT_EQ(Lines(lines.begin() + 1, lines.begin() + 6),
+              (Lines{
+                  "LC1",
+                  "   kind :     1",
+                  "   desc : 1.0DL+1.0LL",
+                  " factor :     1Loadcase : Jhloadcase1   type :     D",
+                  " factor :     1Loadcase : Jhloadcase2   type :     L",
+              }));
     EXPECT_EQ(lines[lines.size() - 2], " factor :  -1.4Loadcase : Jhloadcase5   type :     E") << "the last row of KSCE-USD96";
     EXPECT_EQ(lines.back(), "");
 }
@@ -136,19 +139,20 @@ TEST_F(ObjectStyleReport, GeneratedCombinationsShowLoadCases)
     ASSERT_EQ(generator.Run(5, "ACI318-89", addMode), 2);
     EXPECT_TRUE(generator.PrintGeneratedCombinations());
     const Lines lines = reportLines();
-    EXPECT_EQ(Lines(lines.begin() + 1, lines.end()), (Lines{
-        "LC1",
-        "   kind :     1",
-        "   desc : 0.9DL+1.3(1.1*SF*EL)",
-        " factor :   0.9Loadcase :    DL   type :     D",
-        " factor : 1.7875Loadcase :    EX   type :     E",
-        "LC2",
-        "   kind :     1",
-        "   desc : 0.9DL-1.3(1.1*SF*EL)",
-        " factor :   0.9Loadcase :    DL   type :     D",
-        " factor : -1.7875Loadcase :    EX   type :     E",
-        "",
-    }));
+    EXPECT_EQ(Lines(lines.begin() + 1, lines.end()),
+              (Lines{
+                  "LC1",
+                  "   kind :     1",
+                  "   desc : 0.9DL+1.3(1.1*SF*EL)",
+                  " factor :   0.9Loadcase :    DL   type :     D",
+                  " factor : 1.7875Loadcase :    EX   type :     E",
+                  "LC2",
+                  "   kind :     1",
+                  "   desc : 0.9DL-1.3(1.1*SF*EL)",
+                  " factor :   0.9Loadcase :    DL   type :     D",
+                  " factor : -1.7875Loadcase :    EX   type :     E",
+                  "",
+              }));
 }
 
 TEST_F(ObjectStyleReport, ALinkWithoutACaseShowsBlanks)

@@ -19,7 +19,7 @@ public:
     void clearCombination() { clear(m_combination, &JhloadCombination::cases); }
     void clearLoadcase() { clear(m_loadcase, &Jhloadcase::combinations); }
 
-    std::int32_t type = 1;    ///< what the case is; 1 static load case
+    std::int32_t type = 1;  ///< what the case is; 1 static load case
     float factor = 1.0F;
 
 private:

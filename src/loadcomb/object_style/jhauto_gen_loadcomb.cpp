@@ -86,7 +86,7 @@ void JhautoGenLoadcomb::readCombinations()
             link.factor = static_cast<float>(item.factor);
             link.type = item.type;
             link.setCombination(&combination);
-            link.setLoadcase(m_currentLoadcases.find(item.key));    // an item without its case stays a link without a case
+            link.setLoadcase(m_currentLoadcases.find(item.key));  // an item without its case stays a link without a case
         }
     }
     m_generatedCount = m_mode == replaceMode ? 0 : static_cast<std::uint32_t>(keys.size());
@@ -118,7 +118,7 @@ void JhautoGenLoadcomb::expandCode()
 
 void JhautoGenLoadcomb::expandRow()
 {
-    CString steering;    // the kind of which each combination takes one case
+    CString steering;  // the kind of which each combination takes one case
     for (const JhassoLoadcombLoadcase* link : m_row->cases) {
         const CString& symbol = link->loadcase()->type;
         if (casesOf(symbol).empty())
@@ -185,8 +185,8 @@ int JhautoGenLoadcomb::replaceRecords(const std::vector<T_LCOM_D>& records) cons
     if (m_mode == replaceMode) {
         std::vector<zel::Key> keys;
         table.GetKeyList(m_kind, keys);
-        for (const zel::Key key : keys)
-            table.Del(m_kind, key);
+        for (auto key = keys.rbegin(); key != keys.rend(); ++key)  // from the last, so that no sequence number behind it changes
+            table.Del(m_kind, *key);
     }
     int stored = 0;
     for (const T_LCOM_D& record : records)

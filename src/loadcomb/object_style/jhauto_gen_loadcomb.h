@@ -89,21 +89,21 @@ private:
     Combinations m_currentCombinations;
     Loadcases m_currentLoadcases;
     Combinations m_generatedCombinations;
-    Links m_generatedLinks;    // and those of the current combinations, under the same counter
+    Links m_generatedLinks;  // also those of the current combinations, under the same counter
     Combinations m_codeCombinations;
     Codes m_codes;
     Loadcases m_loadKinds;
     Links m_codeLinks;
 
-    const JhloadCombination* m_row = nullptr;    // that is being expanded
-    std::uint32_t m_generatedCount = 0;          // for names
+    const JhloadCombination* m_row = nullptr;  // that is being expanded
+    std::uint32_t m_generatedCount = 0;        // for names
     std::uint32_t m_linkCount = 0;
-    std::uint32_t m_combinationCount = 0;        // for ids
+    std::uint32_t m_combinationCount = 0;  // for ids
     std::uint32_t m_designKind = 1;
     int m_kind = 1;
     CString m_codeName;
     int m_mode = addMode;
     std::map<std::uint32_t, double> m_scaleFactors;
-    CString m_reportName{"lcomb" ".out"};
+    CString m_reportName{"lcomb.out"};
     std::ofstream m_report;
 };

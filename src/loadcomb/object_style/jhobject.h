@@ -14,6 +14,6 @@ public:
     Jhobject& operator=(const Jhobject&) = delete;
     virtual ~Jhobject() = default;
 
-    std::uint32_t id;    ///< given by the maker; objects of two classes may have the same
+    std::uint32_t id;  ///< given by the maker; objects of two classes may have the same
     CString name;
 };

@@ -86,7 +86,7 @@ private:
     using Objects = std::list<T*>;
     Objects m_objects;
     typename Objects::iterator m_cursor{};
-    std::unordered_map<const T*, typename Objects::iterator> m_places;    // long lists refuse what they hold without a walk
+    std::unordered_map<const T*, typename Objects::iterator> m_places;  // long lists refuse what they hold without a walk
 };
 
 }  // namespace zel::loadcomb
