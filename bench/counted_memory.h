@@ -33,6 +33,15 @@ void* operator new(std::size_t size)
     return taken;
 }
 
+void* operator new(std::size_t size, const std::nothrow_t& /*nothrow*/) noexcept
+{
+    try {
+        return operator new(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
 void operator delete(void* given) noexcept
 {
     using zel::bench::memory;
@@ -45,4 +54,3 @@ void operator delete(void* given, std::size_t) noexcept
 {
     operator delete(given);
 }
-

@@ -275,10 +275,14 @@ void CCMAutoLoadCombDlg::OnOK()
         return;
 
     CDBDoc* document = CDBDoc::GetDocPoint();
-    document->beginChange("Generate load combinations of \"" + code() + "\"");    // scale-ups and combinations are one step to undo
-    const bool generated = StoreScaleUps() && HasOrthogonalPairs() && Generate(alpha);
-    const bool kept = document->endChange(1) != 0;    // what is written stays, whatever failed behind it
-    if (generated && kept)
+    document->beginChange("Generate load combinations of \"" + code() + "\"", CDBDoc::NoticeTime::each);    // one step to undo
+    const bool ready = StoreScaleUps() && HasOrthogonalPairs();
+    const bool generated = ready && Generate(alpha);
+    if (document->endChange(1) == 0)    // what is written stays, whatever failed behind it, unless the file did not take it
+        return;
+    if (ready)
+        ClearScaleUps();    // of what has run nothing is left for a second run
+    if (generated)
         EndDialog(IDOK);
 }
 
@@ -304,8 +308,7 @@ bool CCMAutoLoadCombDlg::HasOrthogonalPairs() const
     return false;
 }
 
-/// After a run the scale-ups are gone from the form, for what stays open starts anew.
-bool CCMAutoLoadCombDlg::Generate(double alpha)
+bool CCMAutoLoadCombDlg::Generate(double alpha) const
 {
     CLoadCombCtrl control;
     control.SetKind(m_kind);
@@ -315,9 +318,7 @@ bool CCMAutoLoadCombDlg::Generate(double alpha)
     control.SetCombType(combType.GetSel());
     control.SetAlphaH(alpha);
     control.SetLoadCode(static_cast<int>(loadCode.selectedData()));
-    const bool generated = control.Generate(mode.GetSel(), code()) != 0;
-    ClearScaleUps();
-    return generated;
+    return control.Generate(mode.GetSel(), code()) != 0;
 }
 
 int zel::loadcomb::selectDefaultCombination(int kind, CWnd* parent)

@@ -45,7 +45,7 @@ private:
     /// Remembers the scale-ups in the model. False if the model refused.
     [[nodiscard]] bool StoreScaleUps() const;
     [[nodiscard]] bool HasOrthogonalPairs() const;
-    [[nodiscard]] bool Generate(double alpha);
+    [[nodiscard]] bool Generate(double alpha) const;
 
     CRadioGroup  mode{*this};
     CRadioButton modeAdd{mode, "modeAdd", "Add"};

@@ -160,7 +160,7 @@ private:
         const auto [seen, isNew] = m_places.try_emplace(combination.number, m_combinations.size());
         if (isNew)
             m_combinations.push_back(std::move(combination));
-        else if (CDataLcom().Merge(m_combinations[seen->second], combination) == 0)
+        else if (m_table.Merge(m_combinations[seen->second], combination) == 0)
             return fault("IDS_ZEL_CMD__Error___Number_of_load_case_exceeds_li", {CDataLcom::mergeLimit});
         return std::nullopt;
     }
@@ -169,6 +169,7 @@ private:
 
     Lines m_lines;
     const std::vector<Key>& m_cases;
+    CDataLcom m_table;    // merges
     Fields m_fields;
     std::vector<T_LCOM_D> m_combinations;
     std::unordered_map<std::int32_t, std::size_t> m_places;    ///< of the combinations by ID

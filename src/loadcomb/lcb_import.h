@@ -27,6 +27,7 @@ struct Contents {
 /// Reads a file to its end or its first fault. What it holds meanwhile is one line and the combinations.
 ///
 /// @param cases  keys of the static load cases in their sequence
+/// @pre  a model is open: its table of load combinations merges the lines of one ID
 ZEL_CMD_API Contents read(std::istream& file, const std::vector<Key>& cases);
 
 /// Reads a file and adds its combinations to those of a design kind, in one change of the model. A fault is shown as a message, and

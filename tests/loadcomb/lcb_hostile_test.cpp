@@ -2,6 +2,7 @@
 
 #include "../../bench/counted_memory.h"
 #include "loadcomb/lcb_import.h"
+#include "platform/modeldb/model_document.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -41,6 +42,7 @@ struct Reading {
 
 Reading read(std::streambuf& buffer)
 {
+    const auto model = zel::ModelDocument::inMemory();
     const std::vector<zel::Key> cases{1, 2, 3};
     std::istream file(&buffer);
     using zel::bench::memory;

@@ -1,6 +1,6 @@
 #include "loadcomb/lcb_import.h"
 
-#include "platform/messages/message_catalogue.h"
+#include "platform/modeldb/model_document.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -23,6 +23,7 @@ constexpr zel::Key third = 30;
 
 zel::lcb::Contents read(const std::string& text)
 {
+    const auto model = zel::ModelDocument::inMemory();
     std::istringstream file(text);
     return zel::lcb::read(file, {first, second, third});
 }
@@ -236,6 +237,7 @@ TEST(LcbReader, ALoadCaseOutsideTheSequenceDoesNotExist)
         EXPECT_EQ(refused("\n\n1,x," + CString(place) + ",bad"),
                   (Refused{"IDS_ZEL_CMD__Error___Load_case__d_in_line__d_does_n", "Error : Load case " + CString(place) + " in line 3 does not exist."}));
     EXPECT_THAT(items("1,x,3,1"), SizeIs(1));
+    const auto model = zel::ModelDocument::inMemory();
     std::istringstream file("1,x,1,1");
     EXPECT_STREQ(zel::lcb::read(file, {}).fault->key, "IDS_ZEL_CMD__Error___Load_case__d_in_line__d_does_n") << "a model without load cases";
 }
@@ -287,6 +289,7 @@ protected:
 
 TEST(LcbReader, AFileThatBreaksOffWhileItIsReadIsRefused)
 {
+    const auto model = zel::ModelDocument::inMemory();
     BreakingBuffer buffer("1,x,1,1\n2,x,1,1\n");
     std::istream file(&buffer);
     const zel::lcb::Contents contents = zel::lcb::read(file, {first});
