@@ -1,7 +1,7 @@
 #pragma once
 
-#include "measure.h"
 #include "contract/records/lcom.h"
+#include "measure.h"
 #include "platform/modeldb/file_format.h"
 
 #include <vector>
@@ -15,7 +15,8 @@ inline double bareInsert(const std::filesystem::path& path, const std::vector<T_
     check(sqlite3_open(path.c_str(), &database));
     const SqlTable& table = sqlTable(tableInfo(Table::LCOM));
     const SqlTable& itemTable = table.lists.front();
-    const CString settings = "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; PRAGMA cache_size=-65536";
+    const CString settings =
+        "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; PRAGMA cache_size=-65536";
     for (const CString& statement : {settings, table.create, itemTable.create})
         check(sqlite3_exec(database, statement.c_str(), nullptr, nullptr, nullptr));
     sqlite3_stmt* insert = nullptr;

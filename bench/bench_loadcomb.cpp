@@ -110,7 +110,7 @@ std::ptrdiff_t bytesOf(const std::vector<T_LCOM_D>& rows)
     std::ptrdiff_t bytes = 0;
     for (const T_LCOM_D& row : rows) {
         std::size_t size = sizeof row + row.items.size() * sizeof(T_LCOM_ITEM);
-        if (row.description.size() > 15)    // longer than what a string holds in itself
+        if (row.description.size() > 15)  // longer than what a string holds in itself
             size += row.description.size() + 1;
         bytes += static_cast<std::ptrdiff_t>(size);
     }

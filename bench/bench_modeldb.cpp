@@ -41,7 +41,8 @@ double bareInsert(const std::filesystem::path& path, const std::vector<T_STLD_D>
     sqlite3* database = nullptr;
     check(sqlite3_open(path.c_str(), &database));
     const zel::SqlTable& table = zel::sqlTable(zel::tableInfo(Table::STLD));
-    const CString setUp = "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; PRAGMA cache_size=-65536; " + table.create;
+    const CString setUp =
+        "PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; PRAGMA cache_size=-65536; " + table.create;
     check(sqlite3_exec(database, setUp.c_str(), nullptr, nullptr, nullptr));
     sqlite3_stmt* insert = nullptr;
     check(sqlite3_prepare_v2(database, zel::insertStatement(table).c_str(), -1, &insert, nullptr));

@@ -63,7 +63,8 @@ std::string titleOf(const Reference& reference)
 Sheet makeSheet(const std::vector<PrintedCombination>& combinations, std::string (*number)(double))
 {
     const std::vector<Reference> used = references(combinations);
-    const bool kinds = std::any_of(combinations.begin(), combinations.end(), [&](const PrintedCombination& each) { return each.kind != combinations.front().kind; });
+    const bool kinds =
+        std::any_of(combinations.begin(), combinations.end(), [&](const PrintedCombination& each) { return each.kind != combinations.front().kind; });
     Sheet sheet;
     if (kinds)
         sheet.columns.push_back({"Kind", true});
@@ -157,10 +158,18 @@ void printTable(const Sheet& sheet, std::ostream& out)
 void printCombinations(Format format, const std::vector<PrintedCombination>& combinations, std::ostream& out)
 {
     switch (format) {
-    case Format::table: printTable(makeSheet(combinations, readable), out); break;
-    case Format::csv: printCsv(makeSheet(combinations, shortest), out); break;
-    case Format::lcb: printLcb(combinations, out); break;
-    case Format::json: printResultJson(true, {}, combinations, out); break;
+    case Format::table:
+        printTable(makeSheet(combinations, readable), out);
+        break;
+    case Format::csv:
+        printCsv(makeSheet(combinations, shortest), out);
+        break;
+    case Format::lcb:
+        printLcb(combinations, out);
+        break;
+    case Format::json:
+        printResultJson(true, {}, combinations, out);
+        break;
     }
 }
 

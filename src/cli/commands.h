@@ -29,7 +29,7 @@ struct ModelInfo {
 int modelInfo(const ModelInfo& job);
 
 struct LoadModel {
-    std::string file;    ///< "-" is standard input
+    std::string file;  ///< "-" is standard input
     std::filesystem::path model;
     bool replace = false;
 };
@@ -41,7 +41,7 @@ struct DumpModel {
 int dumpModel(const DumpModel& job);
 
 struct PlayJournal {
-    std::optional<std::filesystem::path> model;    ///< none: a new one in memory
+    std::optional<std::filesystem::path> model;  ///< none: a new one in memory
     std::string script = "-";
     std::string transcript = "-";
     bool showKeys = false;
@@ -58,18 +58,18 @@ struct GenerateCombinations {
     int combType = 0;
     bool orthogonal = false;
     double alphaH = 1.0;
-    std::vector<std::string> scales;    ///< "CASE=FACTOR[,PARTNER]"
+    std::vector<std::string> scales;  ///< "CASE=FACTOR[,PARTNER]"
     bool dryRun = false;
     Format format = Format::table;
     std::string out = "-";
-    std::string explain;                ///< name of a combination; empty for none
+    std::string explain;  ///< name of a combination; empty for none
     bool whyNot = false;
 };
 int generateCombinations(const GenerateCombinations& job);
 
 struct ListCombinations {
     std::filesystem::path model;
-    std::optional<int> kind;            ///< none: all kinds
+    std::optional<int> kind;  ///< none: all kinds
     Format format = Format::table;
     std::string out = "-";
 };
@@ -82,7 +82,7 @@ int listEnvelopes(const ListEnvelopes& job);
 
 struct ImportLcb {
     std::filesystem::path model;
-    std::string file;                   ///< "-" is standard input
+    std::string file;  ///< "-" is standard input
     int kind = 1;
 };
 int importLcb(const ImportLcb& job);

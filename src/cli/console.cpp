@@ -8,7 +8,10 @@
 namespace zel::cli {
 
 // Texts come with their keys, so that both can be kept.
-Console::Console() : m_former(setUserInterface(this)) { MessageCatalogue::builtIn().showKeys(true); }
+Console::Console() : m_former(setUserInterface(this))
+{
+    MessageCatalogue::builtIn().showKeys(true);
+}
 
 Console::~Console()
 {
@@ -45,6 +48,9 @@ int Console::messageBox(const CString& text, unsigned type)
     return type == MB_YESNO ? IDYES : IDOK;
 }
 
-void Console::runModal(CDialog& dialog) { dialog.EndDialog(IDCANCEL); }
+void Console::runModal(CDialog& dialog)
+{
+    dialog.EndDialog(IDCANCEL);
+}
 
 }  // namespace zel::cli

@@ -10,7 +10,7 @@ namespace zel::cli {
 
 /// A message that a job would have shown to a user.
 struct ToldMessage {
-    std::string key;     ///< in the message catalogue; the text itself where it has none
+    std::string key;  ///< in the message catalogue; the text itself where it has none
     std::string text;
 };
 

@@ -33,7 +33,10 @@ std::string trimmed(std::string name)
     return name;
 }
 
-std::string rowName(const RowSource& source) { return "row " + (source.block.empty() ? "\"" + source.text + "\"" : source.block) + (source.flag == 0 ? " (service)" : " (strength)"); }
+std::string rowName(const RowSource& source)
+{
+    return "row " + (source.block.empty() ? "\"" + source.text + "\"" : source.block) + (source.flag == 0 ? " (service)" : " (strength)");
+}
 
 /// One item of a combination with the numbers that were multiplied.
 struct Term {
@@ -148,7 +151,8 @@ void printChoices(const Generator& run, const Origin& origin, std::ostream& out)
 {
     for (const Choice& choice : origin.choices) {
         if (choice.windEntry >= 0)
-            out << "Wind       entry " << choice.windEntry + 1 << " of the wind sets: " << run.state().windCombinations[static_cast<std::size_t>(choice.windEntry)].description << '\n';
+            out << "Wind       entry " << choice.windEntry + 1
+                << " of the wind sets: " << run.state().windCombinations[static_cast<std::size_t>(choice.windEntry)].description << '\n';
         else if (choice.windCase != 0)
             out << "Wind       case " << caseName(run, choice.windCase) << '\n';
         for (const EarthquakeChoice& chosen : choice.earthquakes) {
@@ -165,12 +169,18 @@ void printChoices(const Generator& run, const Origin& origin, std::ostream& out)
 const char* reason(RowResult result)
 {
     switch (result) {
-    case RowResult::gave: return "gave combinations";
-    case RowResult::noFactors: return "every factor came out as 0";
-    case RowResult::groupWithoutCases: return "no load case of";
-    case RowResult::setWithoutCases: return "no load case of";
-    case RowResult::noOrthogonalPair: return "no earthquake case has a partner at right angles";
-    case RowResult::onlyDuplicates: return "rows before it give the same combinations";
+    case RowResult::gave:
+        return "gave combinations";
+    case RowResult::noFactors:
+        return "every factor came out as 0";
+    case RowResult::groupWithoutCases:
+        return "no load case of";
+    case RowResult::setWithoutCases:
+        return "no load case of";
+    case RowResult::noOrthogonalPair:
+        return "no earthquake case has a partner at right angles";
+    case RowResult::onlyDuplicates:
+        return "rows before it give the same combinations";
     }
     return "";
 }
@@ -191,8 +201,9 @@ void explainCombination(const Generator& run, const std::string& code, const std
     const std::vector<T_LCOM_D>& rows = run.rows();
     const auto found = std::find_if(rows.begin(), rows.end(), [&](const T_LCOM_D& row) { return trimmed(row.name) == trimmed(name); });
     if (found == rows.end())
-        throw std::runtime_error("this run gives no combination \"" + name + "\"" +
-                                 (rows.empty() ? "; it gives none." : "; it gives \"" + trimmed(rows.front().name) + "\" to \"" + trimmed(rows.back().name) + "\"."));
+        throw std::runtime_error(
+            "this run gives no combination \"" + name + "\"" +
+            (rows.empty() ? "; it gives none." : "; it gives \"" + trimmed(rows.front().name) + "\" to \"" + trimmed(rows.back().name) + "\"."));
     const Origin& origin = run.origins()[static_cast<std::size_t>(found - rows.begin())];
     const RowOutcome& row = run.outcomes()[origin.row];
     out << trimmed(found->name) << ": " << found->description << '\n'

@@ -21,8 +21,14 @@ Input::Input(const std::string& file) : m_name(file == "-" ? "standard input" : 
 
 Input::~Input() = default;
 
-std::istream& Input::stream() { return m_file ? *m_file : std::cin; }
+std::istream& Input::stream()
+{
+    return m_file ? *m_file : std::cin;
+}
 
-std::string Input::text() { return {std::istreambuf_iterator<char>(stream()), {}}; }
+std::string Input::text()
+{
+    return {std::istreambuf_iterator<char>(stream()), {}};
+}
 
 }  // namespace zel::cli

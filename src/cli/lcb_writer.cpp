@@ -13,13 +13,14 @@ namespace zel::cli {
 
 namespace {
 
-constexpr std::size_t longestLine = 1019;    // bytes that a reader of such files takes
+constexpr std::size_t longestLine = 1019;  // bytes that a reader of such files takes
 
 /// A text as one field: what would end the field or the line becomes a blank, and a field is never empty.
 std::string field(const std::string& text)
 {
     std::string made = text;
-    std::replace_if(made.begin(), made.end(), [](unsigned char letter) { return letter == ',' || letter < ' '; }, ' ');
+    std::replace_if(
+        made.begin(), made.end(), [](unsigned char letter) { return letter == ',' || letter < ' '; }, ' ');
     made.erase(made.find_last_not_of(' ') + 1);
     made.erase(0, made.find_first_not_of(' '));
     return made.empty() || made == "**" ? "-" : made;

@@ -17,7 +17,7 @@ int listCombinations(const ListCombinations& job)
 {
     const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model);
     ITable& table = document->table(Table::LCOM);
-    std::vector<RecordPtr> held;    // keeps the records that are printed
+    std::vector<RecordPtr> held;  // keeps the records that are printed
     std::vector<PrintedCombination> printed;
     for (int kind = job.kind.value_or(firstKind); kind <= job.kind.value_or(lastKind); ++kind) {
         for (const Key key : table.keys(kind)) {

@@ -78,7 +78,8 @@ void addDump(CLI::App& app, Job& job)
 
 void addPlay(CLI::App& app, Job& job)
 {
-    CLI::App& command = addCommand(app, "play", "Play a journal: drive the dialogs by script", "zel play tower.qvx --script cases.jsonl --transcript replies.jsonl --strict");
+    CLI::App& command =
+        addCommand(app, "play", "Play a journal: drive the dialogs by script", "zel play tower.qvx --script cases.jsonl --transcript replies.jsonl --strict");
     auto options = std::make_shared<PlayJournal>();
     command.add_option("MODEL", options->model, "the model file; without it a new empty model in memory");
     command.add_option("--script", options->script, "the journal; - is standard input")->capture_default_str();
@@ -138,7 +139,8 @@ void addGenerate(CLI::App& app, Job& job)
 
 void addCombinations(CLI::App& app, Job& job)
 {
-    CLI::App& command = addCommand(app, "combinations", "List or export the stored load combinations", "zel combinations tower.qvx --format csv --out tower.csv");
+    CLI::App& command =
+        addCommand(app, "combinations", "List or export the stored load combinations", "zel combinations tower.qvx --format csv --out tower.csv");
     auto options = std::make_shared<ListCombinations>();
     command.add_option("MODEL", options->model, "the model file")->required();
     command.add_option("--kind", options->kind, "design kind, 1 to 5; all kinds without it")->check(CLI::Range(1, 5));
@@ -219,7 +221,7 @@ int main(int argc, char** argv)
     addBatch(app, job);
     try {
         app.parse(argc, argv);
-    } catch (const CLI::Success& asked) {    // --help or --version
+    } catch (const CLI::Success& asked) {  // --help or --version
         return app.exit(asked);
     } catch (const CLI::ParseError& fault) {
         std::cerr << "zel: " << fault.what() << "\nRun with --help for more information.\n";

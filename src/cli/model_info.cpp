@@ -59,7 +59,7 @@ Json infoJson(const std::filesystem::path& path, ModelDocument& document, const 
             {"applicationId", hexadecimal(applicationId)},
             {"journalMode", facts.journalMode},
             {"createdBy", facts.createdBy},
-            {"hashes", "ok"},    // else the file had not been opened
+            {"hashes", "ok"},  // else the file had not been opened
             {"units", {{"length", lengthUnitName(units.length)}, {"force", forceUnitName(units.force)}}},
             {"tables", tables}};
 }

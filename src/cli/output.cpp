@@ -28,7 +28,10 @@ Output::~Output()
     std::filesystem::remove(m_unfinished, ignored);
 }
 
-std::ostream& Output::stream() { return m_file ? *m_file : std::cout; }
+std::ostream& Output::stream()
+{
+    return m_file ? *m_file : std::cout;
+}
 
 void Output::finish()
 {

@@ -74,7 +74,10 @@ template <class Value, class Read> std::map<Key, Value> mapFrom(const Json& json
     return values;
 }
 
-Key partnerFrom(const Json& json, const std::string& path) { return static_cast<Key>(integerFromJson(json, path, 0, std::numeric_limits<Key>::max())); }
+Key partnerFrom(const Json& json, const std::string& path)
+{
+    return static_cast<Key>(integerFromJson(json, path, 0, std::numeric_limits<Key>::max()));
+}
 
 void readOption(Job& job, const std::string& name, const Json& value)
 {

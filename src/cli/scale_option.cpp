@@ -31,7 +31,8 @@ Key caseNamed(const std::string& name)
     std::vector<std::string> names;
     CDataStld().GetNameList(names);
     const std::string nearby = quotedList(nearestNames(name, std::vector<std::string_view>(names.begin(), names.end()), 3));
-    throw std::runtime_error("--scale " + option + ": there is no load case \"" + name + "\"" + (nearby.empty() ? ". The model has none." : ". The nearest are " + nearby + "."));
+    throw std::runtime_error("--scale " + option + ": there is no load case \"" + name + "\"" +
+                             (nearby.empty() ? ". The model has none." : ". The nearest are " + nearby + "."));
 }
 
 /// "FACTOR" or "FACTOR,PARTNER"; nothing for any other text. `partner` is empty where none is named.

@@ -10,7 +10,7 @@ namespace zel::cli {
 struct ScaleOption {
     Key loadCase = 0;
     double factor = 1.0;
-    Key partner = 0;    ///< 0 for none
+    Key partner = 0;  ///< 0 for none
 };
 
 /// Reads an option against the load cases of the current model. A name may hold "=" and "," itself.

@@ -21,6 +21,9 @@ inline std::string rounded(double value, int digits)
     return {buffer, end.ptr};
 }
 
-inline std::string readable(double value) { return rounded(value, 6); }
+inline std::string readable(double value)
+{
+    return rounded(value, 6);
+}
 
 }  // namespace zel::cli

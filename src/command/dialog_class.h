@@ -46,10 +46,10 @@ public:
     }
 
 protected:
-    bool m_modify = false;          ///< OK modifies
-    bool m_hasPresetKey = false;    ///< the key is given: no new one is asked for
-    Key m_key = 0;                  ///< shown in the form
-    Key m_oldKey = 0;               ///< of the record when it was opened
+    bool m_modify = false;        ///< OK modifies
+    bool m_hasPresetKey = false;  ///< the key is given: no new one is asked for
+    Key m_key = 0;                ///< shown in the form
+    Key m_oldKey = 0;             ///< of the record when it was opened
     Record m_record{};
 };
 
@@ -78,7 +78,7 @@ public:
 /// A dialog class of this library.
 struct DialogClass {
     std::string_view name;
-    std::unique_ptr<CInternationalDlg> (*make)();    ///< with no parent
+    std::unique_ptr<CInternationalDlg> (*make)();  ///< with no parent
 };
 
 /// The dialog class of that name; null if it is not built yet.
@@ -89,8 +89,8 @@ bool enterDialogClass(const DialogClass& dialogClass);
 
 }  // namespace zel
 
-#define ZEL_DIALOG(Class)                                                                                               \
-    namespace {                                                                                                        \
-    [[maybe_unused]] const bool entered##Class =                                                                       \
-        zel::enterDialogClass({#Class, []() -> std::unique_ptr<CInternationalDlg> { return std::make_unique<Class>(); }}); \
+#define ZEL_DIALOG(Class)                                                                                                                                      \
+    namespace {                                                                                                                                                \
+    [[maybe_unused]] const bool entered##Class =                                                                                                               \
+        zel::enterDialogClass({#Class, []() -> std::unique_ptr<CInternationalDlg> { return std::make_unique<Class>(); }});                                     \
     }

@@ -11,14 +11,15 @@ namespace zel {
 
 /// A dialog that stays open beside the views.
 struct ModelessDialog {
-    std::string_view name;           ///< of the exported id, as scripts write it
-    const unsigned* id;              ///< the exported id
+    std::string_view name;  ///< of the exported id, as scripts write it
+    const unsigned* id;     ///< the exported id
     std::string_view dialogClass;
-    unsigned templateId;             ///< number by which the form is known
+    unsigned templateId;  ///< number by which the form is known
     std::string_view title;
 };
 
 /// In the order in which the ids are registered and compared.
+// clang-format off
 inline constexpr std::array<ModelessDialog, 13> modelessDialogs{{
     {"D_CMD_MODEL_DEF_PROPERTY",        &D_CMD_MODEL_DEF_PROPERTY,        "CModelDefProperty",        14008, "Properties"},
     {"D_CMD_MODEL_DEF_SUPPORT",         &D_CMD_MODEL_DEF_SUPPORT,         "CModelDefSupport",         14000, "Supports"},
@@ -34,29 +35,31 @@ inline constexpr std::array<ModelessDialog, 13> modelessDialogs{{
     {"D_CMD_MODEL_DEFINE_PILE",         &D_CMD_MODEL_DEFINE_PILE,         "CModelSupDefPile",         14067, "Generate Pile Support"},
     {"D_CMD_MODEL_LOAD_SPDI",           &D_CMD_MODEL_LOAD_SPDI,           "CCMLoadSPDIList",          14103, "Specified Displacement Interpolation"},
 }};
+// clang-format on
 
 /// What a modal command hands to its dialog before it runs.
 enum class SetUp {
     none,
-    initialPlace,         ///< opens beside its parent
-    identityMode1,        ///< runs modally in mode 1
-    identityMode2,        ///< runs modally in mode 2
-    addOrModify,          ///< key and record; `flag` chooses
-    modify,               ///< key and record
-    modifyByName,         ///< the record alone, whose name is its address
-    scaleFactorsOfKey,    ///< the key alone
+    initialPlace,       ///< opens beside its parent
+    identityMode1,      ///< runs modally in mode 1
+    identityMode2,      ///< runs modally in mode 2
+    addOrModify,        ///< key and record; `flag` chooses
+    modify,             ///< key and record
+    modifyByName,       ///< the record alone, whose name is its address
+    scaleFactorsOfKey,  ///< the key alone
 };
 
 /// A command that runs a modal dialog.
 struct ModalCommand {
     unsigned number;
-    std::string_view dialogClass;    ///< empty: opens nothing
+    std::string_view dialogClass;  ///< empty: opens nothing
     unsigned templateId;
     std::string_view title;
     SetUp setUp;
-    std::string_view record;         ///< table of the record in `args`; empty: none is read
+    std::string_view record;  ///< table of the record in `args`; empty: none is read
 };
 
+// clang-format off
 inline constexpr std::array<ModalCommand, 28> modalCommands{{
     { 1, "CFileProjInfo",            14046, "Project Information",                       SetUp::none,              ""},
     { 2, "CCMEnvlListDlg",           14054, "Envelope",                                  SetUp::initialPlace,      ""},
@@ -87,6 +90,7 @@ inline constexpr std::array<ModalCommand, 28> modalCommands{{
     {27, "CModelSectScaleDlg",        9176, "Section Stiffness Scale Factor",            SetUp::scaleFactorsOfKey, ""},
     {28, "CModelThikScaleDlg",       14105, "Thickness Stiffness Scale Factor",          SetUp::scaleFactorsOfKey, ""},
 }};
+// clang-format on
 
 /// The command of that number; null for a number outside 1 to 28, and for those that open nothing.
 constexpr const ModalCommand* findModalCommand(unsigned number)

@@ -31,7 +31,7 @@ CDialog* createModeless(CDBDoc& document, unsigned dialogId, CWnd* parent)
     std::unique_ptr<CDBDlgBase> made = makeModeless(*row);
     if (!made)
         return nullptr;
-    CDBDlgBase* dialog = made.release();    // from here on its window frees it
+    CDBDlgBase* dialog = made.release();  // from here on its window frees it
     dialog->m_pDoc = &document;
     dialog->Create(dialogId, row->templateId, parent);
     return dialog;

@@ -18,10 +18,13 @@ namespace zel {
 
 struct ExportedDialog {
     std::string_view name;
-    std::unique_ptr<CInternationalDlg> (*make)();    ///< with no parent
+    std::unique_ptr<CInternationalDlg> (*make)();  ///< with no parent
 };
 
-template <class Dialog> std::unique_ptr<CInternationalDlg> makeExported() { return std::make_unique<Dialog>(); }
+template <class Dialog> std::unique_ptr<CInternationalDlg> makeExported()
+{
+    return std::make_unique<Dialog>();
+}
 
 /// All that are built so far, sorted.
 inline constexpr std::array exportedDialogs{

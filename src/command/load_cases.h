@@ -1,7 +1,7 @@
 #pragma once
 
-#include "contract/records/seis_lctp.h"
 #include "contract/forms/lists.h"
+#include "contract/records/seis_lctp.h"
 #include "contract/table_store.h"
 #include "contract/tables/load_tables.h"
 

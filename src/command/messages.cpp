@@ -48,7 +48,7 @@ CString formatText(const CString& format, std::initializer_list<TextArgument> ar
 
 CString numberText(const char* format, double value)
 {
-    std::array<char, 400> buffer{};    // "%.3f" of the greatest double has 313 characters
+    std::array<char, 400> buffer{};  // "%.3f" of the greatest double has 313 characters
     const int length = std::snprintf(buffer.data(), buffer.size(), format, value);
     return {buffer.data(), static_cast<std::size_t>(length)};
 }

@@ -228,6 +228,7 @@ protected:
     /// An entry of a deleted load case goes; one whose case has a new name or key is rewritten. The load case lists stay.
     virtual void FollowLoadCases(const CViewBuff& buffer)
     {
+        // clang-format off
         if constexpr (requires(Item item) { { item.loadCaseKey } -> std::convertible_to<zel::Key>; }) {
             zel::readChanges(buffer, zel::TableWatch<CDataStld>{
                 .deleted = [this](const CDataStld& before) {
@@ -247,11 +248,12 @@ protected:
                 },
             });
         }
+        // clang-format on
     }
 
     [[nodiscard]] bool canUpdate() const override { return IsWindow(); }
 
-    Record m_record{};          ///< working copy
+    Record m_record{};  ///< working copy
     CDBDoc* m_pDoc = nullptr;
 
 private:

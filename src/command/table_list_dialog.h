@@ -81,20 +81,24 @@ protected:
     void UpdateBuffer(const CViewBuff& buffer) override
     {
         bool changed = false;
-        zel::readChanges(buffer, zel::TableWatch<Handle>{
-            .added = [&](const Handle& now) {
-                InsertItem(now.currentKey, now.currentRecord);
-                changed = true;
-            },
-            .deleted = [&](const Handle& before) {
-                DeleteItem(before.currentKey);
-                changed = true;
-            },
-            .modified = [&](const Handle& now, const Handle& before) {
-                ModifyItem(before.currentKey, now.currentKey, now.currentRecord);
-                changed = true;
-            },
-        });
+        zel::readChanges(buffer,
+                         zel::TableWatch<Handle>{
+                             .added =
+                                 [&](const Handle& now) {
+                                     InsertItem(now.currentKey, now.currentRecord);
+                                     changed = true;
+                                 },
+                             .deleted =
+                                 [&](const Handle& before) {
+                                     DeleteItem(before.currentKey);
+                                     changed = true;
+                                 },
+                             .modified =
+                                 [&](const Handle& now, const Handle& before) {
+                                     ModifyItem(before.currentKey, now.currentKey, now.currentRecord);
+                                     changed = true;
+                                 },
+                         });
         if (changed)
             OnRowsChanged();
     }

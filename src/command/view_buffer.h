@@ -10,8 +10,14 @@
 /// The reading of the change buffer, once for all dialogs.
 namespace zel {
 
-template <class Record, Table Id, Ops operations> constexpr Table tableOf(const CTable<Record, Id, operations>* /*handle*/) { return Id; }
-constexpr Table tableOf(const CDataLcom* /*handle*/) { return Table::LCOM; }
+template <class Record, Table Id, Ops operations> constexpr Table tableOf(const CTable<Record, Id, operations>* /*handle*/)
+{
+    return Id;
+}
+constexpr Table tableOf(const CDataLcom* /*handle*/)
+{
+    return Table::LCOM;
+}
 
 /// What a dialog does about the changes of one table. A handler that is left out passes them over.
 ///
@@ -64,7 +70,7 @@ private:
     }
 
     const TableWatch<Handle>& m_watch;
-    std::optional<Handle> m_now;    ///< first half of a modification
+    std::optional<Handle> m_now;  ///< first half of a modification
 };
 
 /// Walks the buffer once, from start to end, and tells each watch what concerns its table.

@@ -29,8 +29,8 @@ public:
     /// @param objectsOnly  state of "Activated Object Only"
     virtual void ActivateOnly(const std::vector<zel::Key>& points, const std::vector<zel::Key>& lines, const std::vector<zel::Key>& areas,
                               bool objectsOnly) = 0;
-    virtual void ActivateCommon(int mode, const std::vector<zel::Key>& points, const std::vector<zel::Key>& lines,
-                                const std::vector<zel::Key>& areas, bool objectsOnly) = 0;
+    virtual void ActivateCommon(int mode, const std::vector<zel::Key>& points, const std::vector<zel::Key>& lines, const std::vector<zel::Key>& areas,
+                                bool objectsOnly) = 0;
     virtual void ActivateAll() = 0;
 
     // The user's side.

@@ -23,7 +23,10 @@ inline constexpr long long leavePost = 7;
 inline constexpr long long leaveModel = 8;
 
 /// Whether model data changed, so that the change buffer is to be read.
-constexpr bool isData(long long hint) { return hint == write || hint == undo || hint == redo; }
+constexpr bool isData(long long hint)
+{
+    return hint == write || hint == undo || hint == redo;
+}
 
 }  // namespace Hint
 

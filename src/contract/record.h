@@ -46,12 +46,12 @@ struct FieldInfo {
     std::string_view name;
     FieldType type = FieldType::int32;
     FieldShape shape = FieldShape::one;
-    int unit = Unit::none;                   ///< unit type of a real field; Unit::byRecord where the record decides
-    std::size_t offset = 0;                  ///< of the member in the record [bytes]
-    std::size_t count = 1;                   ///< places of an array, 1 otherwise
-    std::size_t stride = 0;                  ///< size of one element [bytes]
-    const RecordInfo* inner = nullptr;       ///< of a field of records
-    const ListOperations* list = nullptr;    ///< of a list
+    int unit = Unit::none;                 ///< unit type of a real field; Unit::byRecord where the record decides
+    std::size_t offset = 0;                ///< of the member in the record [bytes]
+    std::size_t count = 1;                 ///< places of an array, 1 otherwise
+    std::size_t stride = 0;                ///< size of one element [bytes]
+    const RecordInfo* inner = nullptr;     ///< of a field of records
+    const ListOperations* list = nullptr;  ///< of a list
 
     [[nodiscard]] const void* in(const void* record) const { return static_cast<const std::byte*>(record) + offset; }
     [[nodiscard]] void* in(void* record) const { return static_cast<std::byte*>(record) + offset; }
@@ -73,7 +73,7 @@ struct FieldInfo {
 /// A record type: its fields in order, and how to make, copy and compare one without knowing the type.
 struct RecordInfo {
     std::vector<FieldInfo> fields;
-    std::shared_ptr<void> (*create)();                       ///< with defaults
+    std::shared_ptr<void> (*create)();  ///< with defaults
     std::shared_ptr<void> (*copy)(const void* record);
     bool (*equal)(const void* left, const void* right);
 
@@ -143,7 +143,7 @@ template <class T> const ListOperations* listOperations()
 /// Collects the fields of one record type; the visitor of `describe`.
 template <class Record> struct Describer {
     RecordInfo& info;
-    const Record& sample;    // offsets are measured on an object, so no record needs to be standard-layout
+    const Record& sample;  // offsets are measured on an object, so no record needs to be standard-layout
 
     template <class Member> void operator()(std::string_view name, Member Record::*member, int unit = Unit::none)
     {

@@ -25,35 +25,35 @@ enum class Op : std::uint64_t {
     GetList = 1ULL << 2,
     GetDataList = 1ULL << 3,
     GetNameList = 1ULL << 4,
-    GetByKey = 1ULL << 5,            ///< Get(key), Get(key, record)
-    GetByName = 1ULL << 6,           ///< Get(name)
-    GetOut = 1ULL << 7,              ///< Get(record) of a table of one record
-    GetSingle = 1ULL << 8,           ///< Get() of a table of one record
+    GetByKey = 1ULL << 5,   ///< Get(key), Get(key, record)
+    GetByName = 1ULL << 6,  ///< Get(name)
+    GetOut = 1ULL << 7,     ///< Get(record) of a table of one record
+    GetSingle = 1ULL << 8,  ///< Get() of a table of one record
     ExistName = 1ULL << 9,
     ExistKey = 1ULL << 10,
-    Translate = 1ULL << 11,          ///< GetKeyByName, GetNameByKey
+    Translate = 1ULL << 11,  ///< GetKeyByName, GetNameByKey
     GetNewKey = 1ULL << 12,
-    GetNewKeyAfter = 1ULL << 13,     ///< GetNewKey(key)
+    GetNewKeyAfter = 1ULL << 13,  ///< GetNewKey(key)
     GetLargeKey = 1ULL << 14,
-    AddCurrent = 1ULL << 15,         ///< Add()
-    AddRecord = 1ULL << 16,          ///< Add(record)
-    AddRecords = 1ULL << 17,         ///< Add(records)
-    AddKey = 1ULL << 18,             ///< Add(key, record)
-    AddKeys = 1ULL << 19,            ///< Add(keys, records, flag)
-    AddForKeys = 1ULL << 20,         ///< Add(keys, record)
-    ModifySingle = 1ULL << 21,       ///< Modify() of a table of one record
-    ModifyByKey = 1ULL << 22,        ///< Modify(oldKey)
-    ModifyByName = 1ULL << 23,       ///< Modify(oldName)
-    ModifyRecord = 1ULL << 24,       ///< Modify(key, record)
-    ModifyNames = 1ULL << 25,        ///< Modify(oldNames, records)
+    AddCurrent = 1ULL << 15,    ///< Add()
+    AddRecord = 1ULL << 16,     ///< Add(record)
+    AddRecords = 1ULL << 17,    ///< Add(records)
+    AddKey = 1ULL << 18,        ///< Add(key, record)
+    AddKeys = 1ULL << 19,       ///< Add(keys, records, flag)
+    AddForKeys = 1ULL << 20,    ///< Add(keys, record)
+    ModifySingle = 1ULL << 21,  ///< Modify() of a table of one record
+    ModifyByKey = 1ULL << 22,   ///< Modify(oldKey)
+    ModifyByName = 1ULL << 23,  ///< Modify(oldName)
+    ModifyRecord = 1ULL << 24,  ///< Modify(key, record)
+    ModifyNames = 1ULL << 25,   ///< Modify(oldNames, records)
     DelKey = 1ULL << 26,
     DelName = 1ULL << 27,
     DelKeys = 1ULL << 28,
     DelNames = 1ULL << 29,
-    DelSingle = 1ULL << 30,          ///< Del() of a table of one record
+    DelSingle = 1ULL << 30,  ///< Del() of a table of one record
     Initialize = 1ULL << 31,
     ChangeSequence = 1ULL << 32,
-    Iterate = 1ULL << 33,            ///< GetStart, GetNext
+    Iterate = 1ULL << 33,  ///< GetStart, GetNext
     ConvertUnitPrev = 1ULL << 34,
 };
 
@@ -61,12 +61,18 @@ enum class Op : std::uint64_t {
 struct Ops {
     std::uint64_t bits = 0;
 
-    constexpr Ops(Op op) : bits(static_cast<std::uint64_t>(op)) {}    // NOLINT(google-explicit-constructor): one is a set
+    constexpr Ops(Op op) : bits(static_cast<std::uint64_t>(op)) {}  // NOLINT(google-explicit-constructor): one is a set
     constexpr explicit Ops(std::uint64_t all) : bits(all) {}
     [[nodiscard]] constexpr bool has(Op op) const { return (bits & static_cast<std::uint64_t>(op)) != 0; }
 };
-constexpr Ops operator|(Ops left, Ops right) { return Ops(left.bits | right.bits); }
-constexpr Ops operator|(Op left, Op right) { return Ops(left) | Ops(right); }
+constexpr Ops operator|(Ops left, Ops right)
+{
+    return Ops(left.bits | right.bits);
+}
+constexpr Ops operator|(Op left, Op right)
+{
+    return Ops(left) | Ops(right);
+}
 
 namespace zel {
 
@@ -76,7 +82,10 @@ void convertRecordFromPrevious(const TableInfo& table, void* record);
 /// Puts values with units that a record starts with into the current unit system; records start out in millimetres and newtons.
 void convertDefaults(const TableInfo& table, void* record);
 
-template <class Record> RecordPtr share(const Record& record) { return std::make_shared<Record>(record); }
+template <class Record> RecordPtr share(const Record& record)
+{
+    return std::make_shared<Record>(record);
+}
 
 template <class Record> std::vector<RecordPtr> shareAll(const std::vector<Record>& records)
 {
@@ -305,8 +314,8 @@ private:
 };
 
 /// The public update codes of a table with all four of them.
-#define ZEL_UPDATE_CODES(CODE)                                                                            \
-    static constexpr int UR_##CODE##_ADD = zel::updateCode(Table::CODE, zel::Change::added);              \
-    static constexpr int UR_##CODE##_DEL = zel::updateCode(Table::CODE, zel::Change::deleted);            \
-    static constexpr int UR_##CODE##_MFD = zel::updateCode(Table::CODE, zel::Change::modified);           \
+#define ZEL_UPDATE_CODES(CODE)                                                                                                                                 \
+    static constexpr int UR_##CODE##_ADD = zel::updateCode(Table::CODE, zel::Change::added);                                                                   \
+    static constexpr int UR_##CODE##_DEL = zel::updateCode(Table::CODE, zel::Change::deleted);                                                                 \
+    static constexpr int UR_##CODE##_MFD = zel::updateCode(Table::CODE, zel::Change::modified);                                                                \
     static constexpr int UR_##CODE##_MFS = zel::updateCode(Table::CODE, zel::Change::modifiedFrom);

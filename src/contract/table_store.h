@@ -29,12 +29,12 @@ public:
     [[nodiscard]] virtual const TableInfo& info() const = 0;
 
     [[nodiscard]] virtual int count(int kind) const = 0;
-    [[nodiscard]] virtual std::vector<Key> keys(int kind) const = 0;                         ///< in sequence
-    [[nodiscard]] virtual RecordPtr find(int kind, Key key) const = 0;                       ///< null if there is none
-    [[nodiscard]] virtual Key keyByName(int kind, const CString& name) const = 0;            ///< exact first, then without case; 0: none
-    [[nodiscard]] virtual Key largestKey(int kind) const = 0;                                ///< 0 on an empty table
-    [[nodiscard]] virtual Key freeKeyAbove(int kind, Key key) const = 0;                     ///< smallest free key above `key`
-    [[nodiscard]] virtual Key nextInSequence(int kind, Key key) const = 0;                   ///< 0: the first, and at the end
+    [[nodiscard]] virtual std::vector<Key> keys(int kind) const = 0;               ///< in sequence
+    [[nodiscard]] virtual RecordPtr find(int kind, Key key) const = 0;             ///< null if there is none
+    [[nodiscard]] virtual Key keyByName(int kind, const CString& name) const = 0;  ///< exact first, then without case; 0: none
+    [[nodiscard]] virtual Key largestKey(int kind) const = 0;                      ///< 0 on an empty table
+    [[nodiscard]] virtual Key freeKeyAbove(int kind, Key key) const = 0;           ///< smallest free key above `key`
+    [[nodiscard]] virtual Key nextInSequence(int kind, Key key) const = 0;         ///< 0: the first, and at the end
 
     /// Adds records under the given keys, 0 meaning a new one. A key in use is refused unless `replace` is set.
     virtual int add(int kind, const std::vector<Key>& keys, std::vector<RecordPtr> records, bool replace) = 0;

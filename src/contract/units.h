@@ -40,8 +40,8 @@ double unitFactor(int unitType, const T_UNIT_INDEX& system);
 /// The text of a unit type in a system.
 CString unitText(int unitType, const T_UNIT_INDEX& system);
 
-inline constexpr int lengthUnitCount = 5;    ///< MM, CM, M, INCH, FEET
-inline constexpr int forceUnitCount = 6;     ///< KG, TON, N, KN, LBF, KIP
+inline constexpr int lengthUnitCount = 5;  ///< MM, CM, M, INCH, FEET
+inline constexpr int forceUnitCount = 6;   ///< KG, TON, N, KN, LBF, KIP
 
 /// The names of the units in files and journals: "MM", "KN".
 const char* lengthUnitName(int index);

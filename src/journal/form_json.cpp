@@ -7,7 +7,10 @@ namespace zel {
 
 namespace {
 
-Json toJson(const Colour& colour) { return Json::array({colour.red, colour.green, colour.blue}); }
+Json toJson(const Colour& colour)
+{
+    return Json::array({colour.red, colour.green, colour.blue});
+}
 
 Json toJson(const std::vector<GraphPoint>& points)
 {
@@ -27,10 +30,7 @@ public:
     void numbers(std::string_view name, const std::vector<int>& values) override { put(name, values); }
     void keys(std::string_view name, const std::vector<unsigned>& values) override { put(name, values); }
     void texts(std::string_view name, const std::vector<CString>& values) override { put(name, values); }
-    void cell(std::string_view name, std::optional<int> row, int column) override
-    {
-        put(name, Json::array({row ? Json(*row) : Json("append"), column}));
-    }
+    void cell(std::string_view name, std::optional<int> row, int column) override { put(name, Json::array({row ? Json(*row) : Json("append"), column})); }
     void rows(std::string_view name, const std::vector<std::vector<CString>>& values) override { put(name, values); }
     void points(std::string_view name, const std::vector<GraphPoint>& values) override { put(name, toJson(values)); }
 

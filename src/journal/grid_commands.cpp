@@ -89,17 +89,21 @@ constexpr std::array<ControlCommand, 8> commands{{
     {"current", makeCurrent},
     {"leave_row", [](Control& control, const JournalCommand& command) { return gridOf<CTBBrowserWnd>(control, command).leaveRow(); }},
     {"escape", [](Control& control, const JournalCommand& command) { return gridOf<CTBBrowserWnd>(control, command).escape(); }},
-    {"delete_rows",
-     [](Control& control, const JournalCommand& command) { return gridOf<CTBBrowserWnd>(control, command).deleteRows(command.rows("rows")); }},
+    {"delete_rows", [](Control& control, const JournalCommand& command) { return gridOf<CTBBrowserWnd>(control, command).deleteRows(command.rows("rows")); }},
     {"paste", pasteBlock},
     {"drag_rows",
-     [](Control& control, const JournalCommand& command) { return gridOf<CTBBrowserWndEx>(control, command).dragRows(command.rows("rows"), rowOf(command, "to")); }},
+     [](Control& control, const JournalCommand& command) {
+         return gridOf<CTBBrowserWndEx>(control, command).dragRows(command.rows("rows"), rowOf(command, "to"));
+     }},
     {"drop", dropText},
 }};
 
 }  // namespace
 
-std::span<const ControlCommand> gridCommands() { return commands; }
+std::span<const ControlCommand> gridCommands()
+{
+    return commands;
+}
 
 std::string_view withoutKey(std::string_view text)
 {

@@ -26,7 +26,10 @@ JournalCommand::JournalCommand(std::string_view line) : m_json(parseJson(line))
     m_name = text("do");
 }
 
-bool JournalCommand::has(std::string_view field) const { return m_json.find(std::string(field)) != m_json.end(); }
+bool JournalCommand::has(std::string_view field) const
+{
+    return m_json.find(std::string(field)) != m_json.end();
+}
 
 const Json& JournalCommand::at(std::string_view field) const
 {
@@ -36,7 +39,10 @@ const Json& JournalCommand::at(std::string_view field) const
     return *found;
 }
 
-const std::string& JournalCommand::text(std::string_view field) const { return textFromJson(at(field), std::string(field)); }
+const std::string& JournalCommand::text(std::string_view field) const
+{
+    return textFromJson(at(field), std::string(field));
+}
 
 bool JournalCommand::flag(std::string_view field) const
 {
@@ -46,11 +52,20 @@ bool JournalCommand::flag(std::string_view field) const
     return json.get<bool>();
 }
 
-int JournalCommand::integer(std::string_view field) const { return integerOf(at(field), std::string(field)); }
+int JournalCommand::integer(std::string_view field) const
+{
+    return integerOf(at(field), std::string(field));
+}
 
-int JournalCommand::integer(std::string_view field, int preset) const { return has(field) ? integer(field) : preset; }
+int JournalCommand::integer(std::string_view field, int preset) const
+{
+    return has(field) ? integer(field) : preset;
+}
 
-Key JournalCommand::key(std::string_view field) const { return keyFromJson(at(field), std::string(field)); }
+Key JournalCommand::key(std::string_view field) const
+{
+    return keyFromJson(at(field), std::string(field));
+}
 
 std::vector<Key> JournalCommand::keys(std::string_view field) const
 {

@@ -99,7 +99,11 @@ Json openDialogNames()
 }  // namespace
 
 JournalPlayer::JournalPlayer(CDBDoc& document, std::istream& script, std::ostream& transcript, JournalOptions options)
-    : m_document(document), m_script(script), m_transcript(transcript), m_options(options), m_former(setUserInterface(this)),
+    : m_document(document),
+      m_script(script),
+      m_transcript(transcript),
+      m_options(options),
+      m_former(setUserInterface(this)),
       m_formerView(I_ZELModelBase::setCurrent(&m_view))
 {
 }
@@ -131,7 +135,7 @@ void JournalPlayer::playUntil(const std::function<bool()>& over)
         m_reply.emplace();
         m_reply->line = m_script.line();
         carryOut(m_script.text());
-        if (over())    // what was posted is carried out where the loop goes on that opened this one
+        if (over())  // what was posted is carried out where the loop goes on that opened this one
             return;
         runPostedCommands();
         deleteClosedDialogs();
@@ -166,7 +170,7 @@ void JournalPlayer::carryOut(const std::string& line)
         m_failed = true;
         m_stopped = m_stopped || m_options.strict;
     }
-    if (m_reply && m_reply->line == number) {    // else the reply was written when a modal dialog began to read
+    if (m_reply && m_reply->line == number) {  // else the reply was written when a modal dialog began to read
         m_reply->result = std::move(result);
         m_reply->error = std::move(error);
     }
@@ -174,7 +178,7 @@ void JournalPlayer::carryOut(const std::string& line)
 
 std::optional<Json> JournalPlayer::perform(const JournalCommand& command)
 {
-    const UserAction action;    // dialogs that are closed meanwhile live to its end
+    const UserAction action;  // dialogs that are closed meanwhile live to its end
     checkFields(command);
     const std::string& name = command.name();
     if (name == "modal") {
@@ -238,7 +242,7 @@ void JournalPlayer::runHostCommand(unsigned number)
 
 void JournalPlayer::event(Json what)
 {
-    if (m_reply)    // after the end of the script nobody reads what the cancelled dialogs do
+    if (m_reply)  // after the end of the script nobody reads what the cancelled dialogs do
         m_reply->events.push_back(std::move(what));
 }
 
@@ -321,7 +325,7 @@ void JournalPlayer::runModal(CDialog& dialog)
         return;
     m_cancelled = true;
     (void)dialog.userClose();
-    if (!dialog.hasEnded())    // it does not want to; nobody is left to change its mind
+    if (!dialog.hasEnded())  // it does not want to; nobody is left to change its mind
         dialog.EndDialog(IDCANCEL);
 }
 
@@ -334,7 +338,10 @@ void JournalPlayer::dialogOpened(CDialog& dialog)
            {"modal", dialog.isModal()}});
 }
 
-void JournalPlayer::dialogActivated(CDialog& dialog) { event({{"event", "activated"}, {"dialog", dialog.ClassName()}}); }
+void JournalPlayer::dialogActivated(CDialog& dialog)
+{
+    event({{"event", "activated"}, {"dialog", dialog.ClassName()}});
+}
 
 void JournalPlayer::dialogClosed(CDialog& dialog)
 {
@@ -354,25 +361,46 @@ void JournalPlayer::postCommand(unsigned number)
     m_posted.push_back(number);
 }
 
-void JournalPlayer::output(const CString& line) { event({{"event", "output"}, {"text", line}}); }
+void JournalPlayer::output(const CString& line)
+{
+    event({{"event", "output"}, {"text", line}});
+}
 
-void JournalPlayer::history(const CString& line) { event({{"event", "history"}, {"text", line}}); }
+void JournalPlayer::history(const CString& line)
+{
+    event({{"event", "history"}, {"text", line}});
+}
 
 bool JournalPlayer::startProcess(const CString& commandLine)
 {
     event({{"event", "process"}, {"commandLine", commandLine}});
-    return true;    // a script starts no outside program: nobody sits before its window
+    return true;  // a script starts no outside program: nobody sits before its window
 }
 
-CString JournalPlayer::programFolder() const { return m_former != nullptr ? m_former->programFolder() : os::programFolder(); }
+CString JournalPlayer::programFolder() const
+{
+    return m_former != nullptr ? m_former->programFolder() : os::programFolder();
+}
 
-std::chrono::system_clock::time_point JournalPlayer::now() const { return m_former != nullptr ? m_former->now() : std::chrono::system_clock::now(); }
+std::chrono::system_clock::time_point JournalPlayer::now() const
+{
+    return m_former != nullptr ? m_former->now() : std::chrono::system_clock::now();
+}
 
-std::uint64_t JournalPlayer::physicalMemory() const { return m_former != nullptr ? m_former->physicalMemory() : os::physicalMemory(); }
+std::uint64_t JournalPlayer::physicalMemory() const
+{
+    return m_former != nullptr ? m_former->physicalMemory() : os::physicalMemory();
+}
 
-void JournalPlayer::gridWarning(Control& grid, const CString& text) { event({{"event", "warning"}, {"grid", grid.id()}, {"text", text}}); }
+void JournalPlayer::gridWarning(Control& grid, const CString& text)
+{
+    event({{"event", "warning"}, {"grid", grid.id()}, {"text", text}});
+}
 
-void JournalPlayer::modelingMode(int mode) { event({{"event", "mode"}, {"value", mode}}); }
+void JournalPlayer::modelingMode(int mode)
+{
+    event({{"event", "mode"}, {"value", mode}});
+}
 
 // CDBUpdateConnector
 

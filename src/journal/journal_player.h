@@ -18,8 +18,8 @@
 namespace zel {
 
 struct JournalOptions {
-    bool runHostCommands = true;    ///< false: a command for the host is only told as an event
-    bool strict = false;            ///< stop at the first command that can't be carried out
+    bool runHostCommands = true;  ///< false: a command for the host is only told as an event
+    bool strict = false;          ///< stop at the first command that can't be carried out
 };
 
 /// Plays a journal on the current document: reads commands from a script, does at the forms what they say, and writes one
@@ -85,14 +85,14 @@ private:
     HeadlessModelView m_view;
     I_ZELModelBase* m_formerView;
 
-    std::optional<JournalReply> m_reply;           ///< of the command that was read last, until it is written
+    std::optional<JournalReply> m_reply;  ///< of the command that was read last, until it is written
     std::deque<std::string> m_answers;
     std::deque<std::optional<std::string>> m_files;
     std::deque<unsigned> m_posted;
     bool m_stopped = false;
     bool m_failed = false;
     bool m_cancelled = false;
-    bool m_broken = false;                         ///< the transcript can't be written
+    bool m_broken = false;  ///< the transcript can't be written
 };
 
 }  // namespace zel

@@ -10,10 +10,10 @@ namespace zel {
 
 /// The reply to one command: a line of the transcript. Events are added as they happen, until it is written.
 struct JournalReply {
-    long line = 0;                  ///< number of the command's line in the journal
-    std::string command;            ///< empty where the line names none
+    long line = 0;        ///< number of the command's line in the journal
+    std::string command;  ///< empty where the line names none
     std::optional<Json> result;
-    std::string error;              ///< empty when the command was carried out
+    std::string error;  ///< empty when the command was carried out
     Json events = Json::array();
 
     /// One line, without its end.

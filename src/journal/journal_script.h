@@ -15,7 +15,7 @@ public:
     {
         while (std::getline(m_source, m_text)) {
             ++m_line;
-            if (m_line == 1 && m_text.starts_with("\xEF\xBB\xBF"))    // the mark that some editors put in front of UTF-8
+            if (m_line == 1 && m_text.starts_with("\xEF\xBB\xBF"))  // the mark that some editors put in front of UTF-8
                 m_text.erase(0, 3);
             if (m_text.ends_with('\r'))
                 m_text.pop_back();
@@ -26,7 +26,7 @@ public:
     }
 
     [[nodiscard]] const std::string& text() const { return m_text; }
-    [[nodiscard]] long line() const { return m_line; }    ///< from 1
+    [[nodiscard]] long line() const { return m_line; }  ///< from 1
 
 private:
     std::istream& m_source;

@@ -129,7 +129,7 @@ void openDialogOfClass(const JournalCommand& command)
         dialog->DoModal();
         return;
     }
-    (void)dialog.release();    // from here on its window frees it
+    (void)dialog.release();  // from here on its window frees it
     global->Create();
     global->ShowWindow();
     global->SetActiveWindow();

@@ -37,22 +37,22 @@ private:
     void UnitChanged() override { grid.ChangeUnits(); }
     [[nodiscard]] bool canUpdate() const override { return IsWindow(); }
 
-    CEdit           name{*this, "name", "Name        :"};
-    CComboBox       type{*this, "type", "Type         :"};
-    CEditUnit       selfWeightFactor{*this, "selfWeightFactor", "Self Weight Factor :"};
-    CRow            countRow{*this};
-    CEdit           subLoadCaseCount{countRow, "subLoadCaseCount", "Number of Sub-Load Case :", &CCMLoadCaseDlg::RefreshMajorCases};
+    CEdit name{*this, "name", "Name        :"};
+    CComboBox type{*this, "type", "Type         :"};
+    CEditUnit selfWeightFactor{*this, "selfWeightFactor", "Self Weight Factor :"};
+    CRow countRow{*this};
+    CEdit subLoadCaseCount{countRow, "subLoadCaseCount", "Number of Sub-Load Case :", &CCMLoadCaseDlg::RefreshMajorCases};
     CSpinButtonCtrl subLoadCaseSpin{countRow, "subLoadCaseSpin", subLoadCaseCount};
-    CComboBox       combinationType{*this, "combinationType", "Combination Type :", &CCMLoadCaseDlg::RefreshMajorCases};
-    CComboBox       majorCase{*this, "majorCase", "Major Case :"};
-    CEdit           description{*this, "description", "Description :"};
+    CComboBox combinationType{*this, "combinationType", "Combination Type :", &CCMLoadCaseDlg::RefreshMajorCases};
+    CComboBox majorCase{*this, "majorCase", "Major Case :"};
+    CEdit description{*this, "description", "Description :"};
     CCMLoadCaseGrid grid{*this, "grid"};
-    CButtonRow      buttons{*this};
-    CButton         add{buttons, "add", "Add", &CCMLoadCaseDlg::OnAdd};
-    CButton         modify{buttons, "modify", "Modify", &CCMLoadCaseDlg::OnModify};
-    CButton         del{buttons, "del", "Delete", &CCMLoadCaseDlg::OnDelete};
-    CButton         close{buttons, "close", "Close", &CCMLoadCaseDlg::DestroyWindow};
+    CButtonRow buttons{*this};
+    CButton add{buttons, "add", "Add", &CCMLoadCaseDlg::OnAdd};
+    CButton modify{buttons, "modify", "Modify", &CCMLoadCaseDlg::OnModify};
+    CButton del{buttons, "del", "Delete", &CCMLoadCaseDlg::OnDelete};
+    CButton close{buttons, "close", "Close", &CCMLoadCaseDlg::DestroyWindow};
 
-    T_STLD_D m_record;                ///< working record
-    std::vector<CString> m_types;     ///< type codes, parallel to the lines of the Type list
+    T_STLD_D m_record;             ///< working record
+    std::vector<CString> m_types;  ///< type codes, parallel to the lines of the Type list
 };

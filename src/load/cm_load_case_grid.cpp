@@ -23,20 +23,20 @@ constexpr int descriptionColumn = 5;
 const CArray<CString> defaultTexts(6);
 
 struct ColumnStyle {
-    std::string_view title;    ///< message key, or the title itself
+    std::string_view title;  ///< message key, or the title itself
     zel::GridKind kind;
-    std::size_t unit;          ///< entry of the record's unit types
+    std::size_t unit;  ///< entry of the record's unit types
     int width;
-    int places;                ///< decimals of a number; -1 for a text
+    int places;  ///< decimals of a number; -1 for a text
 };
 
 constexpr ColumnStyle columnStyles[] = {
-    {"Key",                      zel::GridKind::integer, 0,   0,  0},
-    {"IDS_ZEL_CMD__No",          zel::GridKind::integer, 1,  40,  0},
-    {"IDS_ZEL_CMD__Name",        zel::GridKind::text,    0,  80, -1},
-    {"IDS_ZEL_CMD__Type",        zel::GridKind::text,    2, 135, -1},
-    {"IDS_ZEL_CMD__Factor",      zel::GridKind::real,    4,  60,  2},
-    {"IDS_ZEL_CMD__Description", zel::GridKind::text,    3, 178, -1},
+    {"Key", zel::GridKind::integer, 0, 0, 0},
+    {"IDS_ZEL_CMD__No", zel::GridKind::integer, 1, 40, 0},
+    {"IDS_ZEL_CMD__Name", zel::GridKind::text, 0, 80, -1},
+    {"IDS_ZEL_CMD__Type", zel::GridKind::text, 2, 135, -1},
+    {"IDS_ZEL_CMD__Factor", zel::GridKind::real, 4, 60, 2},
+    {"IDS_ZEL_CMD__Description", zel::GridKind::text, 3, 178, -1},
 };
 
 CString titleOf(const ColumnStyle& style)
@@ -78,8 +78,8 @@ void CCMLoadCaseGrid::Initialize()
 
 CArray<CString> CCMLoadCaseGrid::TextsOf(zel::Key key, const T_STLD_D& record)
 {
-    return {std::to_string(key), std::to_string(record.no), record.name, loadTypes().GetLoadTypeName(record.type),
-            RealText(record.selfWeightFactor), record.description};
+    return {std::to_string(key), std::to_string(record.no), record.name, loadTypes().GetLoadTypeName(record.type), RealText(record.selfWeightFactor),
+            record.description};
 }
 
 bool CCMLoadCaseGrid::MakeKeyAndData(const CArray<CString>& texts, const CArray<int>& columns, zel::Key& key, T_STLD_D& record)
@@ -118,8 +118,7 @@ bool CCMLoadCaseGrid::MakeKeyAndData(const CArray<CString>& texts, const CArray<
     return true;
 }
 
-bool CCMLoadCaseGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys,
-                                          zel::GridValues& records)
+bool CCMLoadCaseGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records)
 {
     zel::Key key = 0;
     T_STLD_D record;
@@ -291,21 +290,25 @@ void CCMLoadCaseGrid::UpdateBuffer(const CViewBuff& buffer)
 {
     const zel::GridUpdate update(*this);
     bool changed = false;
-    zel::readChanges(buffer, zel::TableWatch<CDataStld>{
-        .added = [&](const CDataStld& now) {
-            InsertRow(now);
-            changed = true;
-        },
-        .deleted = [&](const CDataStld& before) {
-            DeleteRow(before);
-            changed = true;
-        },
-        .modified = [&](const CDataStld& now, const CDataStld& before) {
-            DeleteRow(before);
-            InsertRow(now);
-            changed = true;
-        },
-    });
+    zel::readChanges(buffer,
+                     zel::TableWatch<CDataStld>{
+                         .added =
+                             [&](const CDataStld& now) {
+                                 InsertRow(now);
+                                 changed = true;
+                             },
+                         .deleted =
+                             [&](const CDataStld& before) {
+                                 DeleteRow(before);
+                                 changed = true;
+                             },
+                         .modified =
+                             [&](const CDataStld& now, const CDataStld& before) {
+                                 DeleteRow(before);
+                                 InsertRow(now);
+                                 changed = true;
+                             },
+                     });
     if (changed)
         ResetSelection();
 }

@@ -140,8 +140,7 @@ void CCmdSetOrthoLCDlg::OnCmdOLGAuto()
         for (int j = i + 1; j < loadCase2.GetCount(); ++j) {
             if (loadCase1.GetLoadCaseType(i) != loadCase2.GetLoadCaseType(j))
                 continue;
-            const T_LCOE_BASE pair{GetStldKey(zel::staticCaseName(loadCase1.GetItemText(i))),
-                                   GetStldKey(zel::staticCaseName(loadCase2.GetItemText(j)))};
+            const T_LCOE_BASE pair{GetStldKey(zel::staticCaseName(loadCase1.GetItemText(i))), GetStldKey(zel::staticCaseName(loadCase2.GetItemText(j)))};
             if (pair.case1 == 0 || pair.case2 == 0 || HasPair(pair, -1))
                 continue;
             AppendItem(pair);
@@ -170,11 +169,11 @@ bool CCmdSetOrthoLCDlg::Dlg2Data()
 void CCmdSetOrthoLCDlg::FollowLoadCases(const CViewBuff& buffer)
 {
     zel::readChanges(buffer, zel::TableWatch<CDataStld>{.deleted = [this](const CDataStld& before) {
-        const zel::Key key = GetStldKey(before.currentRecord.name);
-        for (int row = list.GetItemCount() - 1; key != 0 && row >= 0; --row) {
-            const T_LCOE_BASE& pair = items()[static_cast<std::size_t>(row)];
-            if (pair.case1 == key || pair.case2 == key)
-                RemoveRow(row);
-        }
-    }});
+                         const zel::Key key = GetStldKey(before.currentRecord.name);
+                         for (int row = list.GetItemCount() - 1; key != 0 && row >= 0; --row) {
+                             const T_LCOE_BASE& pair = items()[static_cast<std::size_t>(row)];
+                             if (pair.case1 == key || pair.case2 == key)
+                                 RemoveRow(row);
+                         }
+                     }});
 }

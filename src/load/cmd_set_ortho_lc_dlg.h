@@ -43,22 +43,22 @@ private:
     void OnCmdOLGModify() { ModifyItem(); }
     void OnCmdOLGDelete() { DeleteItem(); }
 
-    CGroup             define{*this, "Define Orthogonal Load Cases"};
-    CRow               loadCase1Row{define};
+    CGroup define{*this, "Define Orthogonal Load Cases"};
+    CRow loadCase1Row{define};
     zel::LoadCaseCombo loadCase1{loadCase1Row, "loadCase1", "Load Case 1 :"};
-    CButton            loadCaseButton{loadCase1Row, "loadCaseButton", "...", &CCmdSetOrthoLCDlg::OnClickLoadCaseBtn};
+    CButton loadCaseButton{loadCase1Row, "loadCaseButton", "...", &CCmdSetOrthoLCDlg::OnClickLoadCaseBtn};
     zel::LoadCaseCombo loadCase2{define, "loadCase2", "Load Case 2 :"};
-    CButton            autoGrouping{define, "autoGrouping", "Auto Grouping", &CCmdSetOrthoLCDlg::OnCmdOLGAuto};
-    CGroup             pairs{*this, "Orthogonal Loads Group"};
-    CListCtrl          list{pairs, "list", &CCmdSetOrthoLCDlg::OnChangedCurrentItem};
-    CButtonRow         buttons{pairs};
-    CButton            add{buttons, "add", "Add", &CCmdSetOrthoLCDlg::OnCmdOLGAdd};
-    CButton            modify{buttons, "modify", "Modify", &CCmdSetOrthoLCDlg::OnCmdOLGModify};
-    CButton            del{buttons, "del", "Delete", &CCmdSetOrthoLCDlg::OnCmdOLGDelete};
-    CButtonRow         closing{*this};
-    CButton            ok{closing, "ok", "OK", &CCmdSetOrthoLCDlg::OnOK};
-    CButton            cancel{closing, "cancel", "Cancel", &CCmdSetOrthoLCDlg::OnCancel};
+    CButton autoGrouping{define, "autoGrouping", "Auto Grouping", &CCmdSetOrthoLCDlg::OnCmdOLGAuto};
+    CGroup pairs{*this, "Orthogonal Loads Group"};
+    CListCtrl list{pairs, "list", &CCmdSetOrthoLCDlg::OnChangedCurrentItem};
+    CButtonRow buttons{pairs};
+    CButton add{buttons, "add", "Add", &CCmdSetOrthoLCDlg::OnCmdOLGAdd};
+    CButton modify{buttons, "modify", "Modify", &CCmdSetOrthoLCDlg::OnCmdOLGModify};
+    CButton del{buttons, "del", "Delete", &CCmdSetOrthoLCDlg::OnCmdOLGDelete};
+    CButtonRow closing{*this};
+    CButton ok{closing, "ok", "OK", &CCmdSetOrthoLCDlg::OnOK};
+    CButton cancel{closing, "cancel", "Cancel", &CCmdSetOrthoLCDlg::OnCancel};
 
-    CString m_name1;    ///< names of the pair under test, for messages
+    CString m_name1;  ///< names of the pair under test, for messages
     CString m_name2;
 };

@@ -1,9 +1,6 @@
 #include "load/dgn_gen_seis_factor.h"
 
-CDgnGenSeisFactor::CDgnGenSeisFactor(CWnd* parent)
-    : SeismicFactorDialog(14283, "Factors for Seismic Design", &T_SLCF_D::overStrengthFactors, parent)
-{
-}
+CDgnGenSeisFactor::CDgnGenSeisFactor(CWnd* parent) : SeismicFactorDialog(14283, "Factors for Seismic Design", &T_SLCF_D::overStrengthFactors, parent) {}
 
 CDgnGenSeisFactor::~CDgnGenSeisFactor() = default;
 

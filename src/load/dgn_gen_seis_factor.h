@@ -16,12 +16,12 @@ private:
     EntryForm& Form() override { return entry; }
     void SetListCtrlHeader() override;
 
-    CGroup     special{*this, "Special Seismic Loads"};
-    CEdit      verticalLoadFactor{special, "verticalLoadFactor", "Vertical Load Factor :"};
-    CEdit      shortPeriodCoefficient{special, "shortPeriodCoefficient", "Short Period Coefficient :"};
-    CEdit      verticalForceFactor{*this, "verticalForceFactor", "Vertical Force Factor :"};
-    EntryForm  entry{*this};
+    CGroup special{*this, "Special Seismic Loads"};
+    CEdit verticalLoadFactor{special, "verticalLoadFactor", "Vertical Load Factor :"};
+    CEdit shortPeriodCoefficient{special, "shortPeriodCoefficient", "Short Period Coefficient :"};
+    CEdit verticalForceFactor{*this, "verticalForceFactor", "Vertical Force Factor :"};
+    EntryForm entry{*this};
     CButtonRow closing{*this};
-    CButton    ok{closing, "ok", "OK", &CDgnGenSeisFactor::OnOK};
-    CButton    cancel{closing, "cancel", "Cancel", &CDgnGenSeisFactor::OnCancel};
+    CButton ok{closing, "ok", "OK", &CDgnGenSeisFactor::OnOK};
+    CButton cancel{closing, "cancel", "Cancel", &CDgnGenSeisFactor::OnCancel};
 };

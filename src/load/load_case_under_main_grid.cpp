@@ -155,14 +155,13 @@ bool CLoadCaseUnderMainGrid::DeleteFromDB(const CArray<int>& rows)
             m_groups.erase(m_groups.begin() + (row - 1));
     }
     ShowRows();
-    ShowCurrentRow();    // under the same number there may stand another case now
+    ShowCurrentRow();  // under the same number there may stand another case now
     return true;
 }
 
 // Pasting: the key of a row is its number. Whether rows are alike shows when all of them stand together.
 
-bool CLoadCaseUnderMainGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& /*columns*/, zel::GridValues& keys,
-                                                 zel::GridValues& records)
+bool CLoadCaseUnderMainGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& /*columns*/, zel::GridValues& keys, zel::GridValues& records)
 {
     if (!IsComplete(texts))
         return false;

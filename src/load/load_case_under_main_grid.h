@@ -49,5 +49,5 @@ private:
     void ShowRows();
 
     CLoadCaseUndergroundDlg& m_dialog;
-    CArray<T_LCUG_SEIS> m_groups;    ///< one a row, in their order
+    CArray<T_LCUG_SEIS> m_groups;  ///< one a row, in their order
 };

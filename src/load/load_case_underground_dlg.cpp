@@ -135,7 +135,7 @@ void CLoadCaseUndergroundDlg::AddDataToScList(double factor, zel::Key key, zel::
     m_factors[key] = factor;
     if (eccentricKey != 0 && IsInPair(key, eccentricKey, 0)) {
         zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Exist_Eccentric_Data____");
-        return;    // the factor stays
+        return;  // the factor stays
     }
     StoreScaleUp({factor, key, eccentricKey});
 }
@@ -214,7 +214,7 @@ void CLoadCaseUndergroundDlg::OnCmdLoadcombScDelBtn()
 
 void CLoadCaseUndergroundDlg::OnCmdConsEccentricity()
 {
-    formChanged();    // the second case list follows by its rule
+    formChanged();  // the second case list follows by its rule
 }
 
 void CLoadCaseUndergroundDlg::OnItemchangedCmdLoadcombScList()
@@ -302,7 +302,7 @@ void CLoadCaseUndergroundDlg::OnCmdLoadcombLcomTypeFactorBtn()
 void CLoadCaseUndergroundDlg::OnOK()
 {
     if (grid.OnTerminate(1) == 0)
-        return;    // the grid has said what is wrong with the row under edit
+        return;  // the grid has said what is wrong with the row under edit
     Dlg2Data();
     if (CDataLcug().Add(m_record) != 0)
         EndDialog(IDOK);

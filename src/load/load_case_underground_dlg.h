@@ -59,28 +59,28 @@ private:
     void UpdateBuffer(const CViewBuff& /*buffer*/) override {}
     [[nodiscard]] bool canUpdate() const override { return IsWindow(); }
 
-    CGroup        scaleUp{*this, "Scale Up of Seismic Load Cases"};
-    CEditUnit     scaleUpFactor{scaleUp, "scaleUpFactor", "Scale Up Factor :"};
-    CComboBox     loadCase{scaleUp, "loadCase", "Load Case :"};
-    CCheckBox     eccentricity{scaleUp, "eccentricity", "Consider Accidental Eccentricity", &CLoadCaseUndergroundDlg::OnCmdConsEccentricity};
-    CComboBox     esLoadCase{scaleUp, "esLoadCase", "ES Load Case :"};
-    CListCtrl     list{scaleUp, "list", &CLoadCaseUndergroundDlg::OnItemchangedCmdLoadcombScList};
-    CButtonRow    buttons{scaleUp};
-    CButton       add{buttons, "add", "Add", &CLoadCaseUndergroundDlg::OnCmdLoadcombScAddBtn};
-    CButton       modify{buttons, "modify", "Modify", &CLoadCaseUndergroundDlg::OnCmdLoadcombScModBtn};
-    CButton       del{buttons, "del", "Delete", &CLoadCaseUndergroundDlg::OnCmdLoadcombScDelBtn};
+    CGroup scaleUp{*this, "Scale Up of Seismic Load Cases"};
+    CEditUnit scaleUpFactor{scaleUp, "scaleUpFactor", "Scale Up Factor :"};
+    CComboBox loadCase{scaleUp, "loadCase", "Load Case :"};
+    CCheckBox eccentricity{scaleUp, "eccentricity", "Consider Accidental Eccentricity", &CLoadCaseUndergroundDlg::OnCmdConsEccentricity};
+    CComboBox esLoadCase{scaleUp, "esLoadCase", "ES Load Case :"};
+    CListCtrl list{scaleUp, "list", &CLoadCaseUndergroundDlg::OnItemchangedCmdLoadcombScList};
+    CButtonRow buttons{scaleUp};
+    CButton add{buttons, "add", "Add", &CLoadCaseUndergroundDlg::OnCmdLoadcombScAddBtn};
+    CButton modify{buttons, "modify", "Modify", &CLoadCaseUndergroundDlg::OnCmdLoadcombScModBtn};
+    CButton del{buttons, "del", "Delete", &CLoadCaseUndergroundDlg::OnCmdLoadcombScDelBtn};
 
-    CGroup                 loadGroup{*this, "Seismic Load Case List"};
+    CGroup loadGroup{*this, "Seismic Load Case List"};
     CLoadCaseUnderMainGrid grid{loadGroup, "grid", *this};
-    CGroup                 earthPressure{*this, "Earth Pressure Load Case"};
-    CCheckListBox          seismicList{earthPressure, "seismicList", "Seismic", &CLoadCaseUndergroundDlg::OnClickCmdSeismicList};
-    CCheckListBox          staticList{earthPressure, "staticList", "Static", &CLoadCaseUndergroundDlg::OnClickCmdStaticList};
+    CGroup earthPressure{*this, "Earth Pressure Load Case"};
+    CCheckListBox seismicList{earthPressure, "seismicList", "Seismic", &CLoadCaseUndergroundDlg::OnClickCmdSeismicList};
+    CCheckListBox staticList{earthPressure, "staticList", "Static", &CLoadCaseUndergroundDlg::OnClickCmdStaticList};
 
-    CButton    seismicFactors{*this, "seismicFactors", "Factors for Seismic Design...", &CLoadCaseUndergroundDlg::OnCmdLoadcombLcomTypeFactorBtn};
+    CButton seismicFactors{*this, "seismicFactors", "Factors for Seismic Design...", &CLoadCaseUndergroundDlg::OnCmdLoadcombLcomTypeFactorBtn};
     CButtonRow closing{*this};
-    CButton    ok{closing, "ok", "OK", &CLoadCaseUndergroundDlg::OnOK};
-    CButton    cancel{closing, "cancel", "Cancel", &CLoadCaseUndergroundDlg::OnCancel};
+    CButton ok{closing, "ok", "OK", &CLoadCaseUndergroundDlg::OnOK};
+    CButton cancel{closing, "cancel", "Cancel", &CLoadCaseUndergroundDlg::OnCancel};
 
-    T_LCUG_D m_record;    ///< working copy
-    CString m_rowName;    ///< grid row that the check lists show
+    T_LCUG_D m_record;  ///< working copy
+    CString m_rowName;  ///< grid row that the check lists show
 };

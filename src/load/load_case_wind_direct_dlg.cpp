@@ -9,7 +9,7 @@ constexpr int lowBuilding = 0;
 constexpr int highBuilding = 1;
 constexpr double lowestK = 0.55;
 constexpr double highestK = 0.8;
-constexpr double sameFactor = 1e-9;    ///< factors that differ by no more are one
+constexpr double sameFactor = 1e-9;  ///< factors that differ by no more are one
 
 CString noCase()
 {
@@ -25,8 +25,7 @@ CString caseText(zel::Key key)
 
 bool sameCases(const T_LCWD_BASE& a, const T_LCWD_BASE& b)
 {
-    return a.along == b.along && a.across == b.across && a.torsion == b.torsion && std::abs(a.gd - b.gd) <= sameFactor
-           && std::abs(a.k - b.k) <= sameFactor;
+    return a.along == b.along && a.across == b.across && a.torsion == b.torsion && std::abs(a.gd - b.gd) <= sameFactor && std::abs(a.k - b.k) <= sameFactor;
 }
 
 void fillWithNone(CComboBox& list, const char* type)
@@ -73,7 +72,7 @@ void CLoadCaseWindDirectDlg::InitCtrl_LoadCaseCmb()
 
 void CLoadCaseWindDirectDlg::SetListCtrlHeader()
 {
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Group_No"), 70);    // of orthogonal pairs: it is meant
+    list.AddColumn(zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Group_No"), 70);  // of orthogonal pairs: it is meant
     list.AddColumn(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_ALONG"), 60);
     list.AddColumn(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_ACROSS"), 60);
     list.AddColumn(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_TORSION"), 60);
@@ -202,7 +201,7 @@ template <class Clear> void CLoadCaseWindDirectDlg::ClearSets(const Clear& clear
             refresh = true;
         if (set.along == 0) {
             RemoveRow(row);
-            refresh = false;    // the rows that are left are not shown anew: it is meant
+            refresh = false;  // the rows that are left are not shown anew: it is meant
         }
     }
 }
@@ -211,39 +210,46 @@ void CLoadCaseWindDirectDlg::UpdateBuffer(const CViewBuff& buffer)
 {
     bool changed = false;
     bool refresh = false;
-    zel::readChanges(buffer, zel::TableWatch<CDataStld>{
-        .added = [&](const CDataStld& /*now*/) { changed = true; },
-        .deleted = [&](const CDataStld& before) {
-            changed = true;
-            ClearSets([key = before.currentKey](T_LCWD_BASE& set) {
-                for (zel::Key* place : {&set.along, &set.across, &set.torsion}) {
-                    if (*place == key) {
-                        *place = 0;
-                        return true;
-                    }
-                }
-                return false;
-            }, refresh);
-        },
-        .modified = [&](const CDataStld& now, const CDataStld& before) {
-            changed = true;
-            ClearSets([key = before.currentKey, &type = now.currentRecord.type](T_LCWD_BASE& set) {
-                if (set.along == key && type != "W") {
-                    set.along = 0;
-                    return false;    // the set goes
-                }
-                if (set.across == key && type != "WA") {
-                    set.across = 0;
-                    return true;
-                }
-                if (set.torsion == key && type != "WT") {
-                    set.torsion = 0;
-                    return true;
-                }
-                return false;
-            }, refresh);
-        },
-    });
+    zel::readChanges(buffer,
+                     zel::TableWatch<CDataStld>{
+                         .added = [&](const CDataStld& /*now*/) { changed = true; },
+                         .deleted =
+                             [&](const CDataStld& before) {
+                                 changed = true;
+                                 ClearSets(
+                                     [key = before.currentKey](T_LCWD_BASE& set) {
+                                         for (zel::Key* place : {&set.along, &set.across, &set.torsion}) {
+                                             if (*place == key) {
+                                                 *place = 0;
+                                                 return true;
+                                             }
+                                         }
+                                         return false;
+                                     },
+                                     refresh);
+                             },
+                         .modified =
+                             [&](const CDataStld& now, const CDataStld& before) {
+                                 changed = true;
+                                 ClearSets(
+                                     [key = before.currentKey, &type = now.currentRecord.type](T_LCWD_BASE& set) {
+                                         if (set.along == key && type != "W") {
+                                             set.along = 0;
+                                             return false;  // the set goes
+                                         }
+                                         if (set.across == key && type != "WA") {
+                                             set.across = 0;
+                                             return true;
+                                         }
+                                         if (set.torsion == key && type != "WT") {
+                                             set.torsion = 0;
+                                             return true;
+                                         }
+                                         return false;
+                                     },
+                                     refresh);
+                             },
+                     });
     if (!changed)
         return;
     InitCtrl_LoadCaseCmb();

@@ -54,13 +54,13 @@ protected:
     /// Name of a load case as the list shows it: no case is "NONE".
     [[nodiscard]] static CString ScaleUpName(Key key);
 
-    std::map<Key, double> m_factors;       ///< scale-up of each load case
-    std::map<Key, Key> m_eccentricKeys;    ///< its case of accidental eccentricity, 0 for none
+    std::map<Key, double> m_factors;     ///< scale-up of each load case
+    std::map<Key, Key> m_eccentricKeys;  ///< its case of accidental eccentricity, 0 for none
 
 private:
     void ShowScaleUp(int row);
 
-    std::vector<T_LCUG_SF> m_shown;    ///< what the rows show, row by row
+    std::vector<T_LCUG_SF> m_shown;  ///< what the rows show, row by row
 };
 
 }  // namespace zel

@@ -16,16 +16,16 @@ protected:
         explicit EntryForm(SeismicFactorDialog& owner) : dialog(owner) {}
 
         SeismicFactorDialog& dialog;
-        CGroup        group{dialog, "System Over-Strength Factor"};
-        CRow          loadCaseRow{group};
+        CGroup group{dialog, "System Over-Strength Factor"};
+        CRow loadCaseRow{group};
         LoadCaseCombo loadCase{loadCaseRow, "loadCase", "Load Case :"};
-        CButton       loadCaseButton{loadCaseRow, "loadCaseButton", "...", &SeismicFactorDialog::OnClickLoadCaseBtn};
-        CEdit         factor{group, "factor", "Over-Strength Factor :"};
-        CListCtrl     list{group, "list", &SeismicFactorDialog::OnChangedCurrentItem};
-        CButtonRow    buttons{group};
-        CButton       add{buttons, "add", "Add", &SeismicFactorDialog::OnDgnGenSeisAdd};
-        CButton       modify{buttons, "modify", "Modify", &SeismicFactorDialog::OnDgnGenSeisModify};
-        CButton       del{buttons, "del", "Delete", &SeismicFactorDialog::OnDgnGenSeisDelete};
+        CButton loadCaseButton{loadCaseRow, "loadCaseButton", "...", &SeismicFactorDialog::OnClickLoadCaseBtn};
+        CEdit factor{group, "factor", "Over-Strength Factor :"};
+        CListCtrl list{group, "list", &SeismicFactorDialog::OnChangedCurrentItem};
+        CButtonRow buttons{group};
+        CButton add{buttons, "add", "Add", &SeismicFactorDialog::OnDgnGenSeisAdd};
+        CButton modify{buttons, "modify", "Modify", &SeismicFactorDialog::OnDgnGenSeisModify};
+        CButton del{buttons, "del", "Delete", &SeismicFactorDialog::OnDgnGenSeisDelete};
     };
 
     virtual EntryForm& Form() = 0;
@@ -57,7 +57,7 @@ protected:
     {
         if (item.loadCaseKey != 0 && !(item.factor <= 0.0))
             return true;
-        showMessage("IDS_ZEL_CMD__ADDD__Invalid_loadcase_key_");    // for the factor too: it has no message of its own
+        showMessage("IDS_ZEL_CMD__ADDD__Invalid_loadcase_key_");  // for the factor too: it has no message of its own
         return false;
     }
 

@@ -1,9 +1,6 @@
 #include "load/under_seis_factor.h"
 
-CUnderSeisFactor::CUnderSeisFactor(CWnd* parent)
-    : SeismicFactorDialog(14112, "Factors for Seismic Design", &T_SIFT_D::overStrengthFactors, parent)
-{
-}
+CUnderSeisFactor::CUnderSeisFactor(CWnd* parent) : SeismicFactorDialog(14112, "Factors for Seismic Design", &T_SIFT_D::overStrengthFactors, parent) {}
 
 CUnderSeisFactor::~CUnderSeisFactor() = default;
 

@@ -17,11 +17,11 @@ private:
     EntryForm& Form() override { return entry; }
     void SetListCtrlHeader() override;
 
-    CGroup     special{*this, "Special Seismic Loads"};
-    CEdit      verticalLoadFactor{special, "verticalLoadFactor", "Vertical Load Factor :"};
-    CEdit      shortPeriodCoefficient{special, "shortPeriodCoefficient", "Short Period Coefficient :"};
-    EntryForm  entry{*this};
+    CGroup special{*this, "Special Seismic Loads"};
+    CEdit verticalLoadFactor{special, "verticalLoadFactor", "Vertical Load Factor :"};
+    CEdit shortPeriodCoefficient{special, "shortPeriodCoefficient", "Short Period Coefficient :"};
+    EntryForm entry{*this};
     CButtonRow closing{*this};
-    CButton    ok{closing, "ok", "OK", &CUnderSeisFactor::OnOK};
-    CButton    cancel{closing, "cancel", "Cancel", &CUnderSeisFactor::OnCancel};
+    CButton ok{closing, "ok", "OK", &CUnderSeisFactor::OnOK};
+    CButton cancel{closing, "cancel", "Cancel", &CUnderSeisFactor::OnCancel};
 };

@@ -51,7 +51,8 @@ private:
 
     std::string name()
     {
-        static const std::string parts[] = {"DL", "EL", "LL", "SL", "W", "(", ")", "+", "-", "%", "%s", "%n", " ", "  ", "ZEL", "SPC", "(SUF)", "OMG", "APH", "#", ",", "\"", "가", "é", "1.0", "[", "]", "E"};
+        static const std::string parts[] = {"DL",  "EL",  "LL",    "SL",  "W",   "(", ")", "+",  "-",  "%", "%s",  "%n", " ", "  ",
+                                            "ZEL", "SPC", "(SUF)", "OMG", "APH", "#", ",", "\"", "가", "é", "1.0", "[",  "]", "E"};
         std::string made;
         for (int count = 1 + upTo(4); count > 0; --count)
             made += oneOf(parts);
@@ -92,29 +93,44 @@ private:
     json windSets()
     {
         return {{"torsionDirection", upTo(2)}, {"sets", list(4, [this] {
-                                                    return json{{"groupNo", 1}, {"buildingType", upTo(1)}, {"along", anyKey()}, {"across", anyKey()}, {"torsion", anyKey()}, {"gd", 1.0 + upTo(20) / 10.0}, {"k", upTo(10) / 10.0}};
+                                                    return json{{"groupNo", 1},        {"buildingType", upTo(1)}, {"along", anyKey()},
+                                                                {"across", anyKey()},  {"torsion", anyKey()},     {"gd", 1.0 + upTo(20) / 10.0},
+                                                                {"k", upTo(10) / 10.0}};
                                                 })}};
     }
 
     json seismicFactors()
     {
-        return {{"shortPeriodCoefficient", upTo(3) / 4.0}, {"verticalLoadFactor", upTo(2) / 10.0}, {"verticalForceFactor", upTo(2) / 10.0},
-                {"overStrengthFactors", list(3, [this] { return json{{"loadCaseKey", anyKey()}, {"factor", 1.0 + upTo(8) / 4.0}}; })}};
+        return {{"shortPeriodCoefficient", upTo(3) / 4.0},
+                {"verticalLoadFactor", upTo(2) / 10.0},
+                {"verticalForceFactor", upTo(2) / 10.0},
+                {"overStrengthFactors", list(3, [this] {
+                     return json{{"loadCaseKey", anyKey()}, {"factor", 1.0 + upTo(8) / 4.0}};
+                 })}};
     }
 
     json underground()
     {
-        return {{"scaleUps", list(2, [this] { return json{{"factor", 1.0 + upTo(4) / 8.0}, {"loadCaseKey", anyKey()}, {"eccentricKey", anyKey()}}; })},
+        return {{"scaleUps",
+                 list(2,
+                      [this] {
+                          return json{{"factor", 1.0 + upTo(4) / 8.0}, {"loadCaseKey", anyKey()}, {"eccentricKey", anyKey()}};
+                      })},
                 {"groups", list(3, [this] {
-                     return json{{"loadCaseKey", anyKey()}, {"direction", upTo(1)}, {"seismicKeys", list(2, [this] { return json(anyKey()); })}, {"staticKeys", list(2, [this] { return json(anyKey()); })}};
+                     return json{{"loadCaseKey", anyKey()},
+                                 {"direction", upTo(1)},
+                                 {"seismicKeys", list(2, [this] { return json(anyKey()); })},
+                                 {"staticKeys", list(2, [this] { return json(anyKey()); })}};
                  })}};
     }
 
     json options()
     {
-        static const char* const codes[] = {"AIK-USD94", "KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022", "KCI-USD12", "KBC-USD09", "KBC-USD05", "KCI-USD99", "KSCE-USD96",
-                                            "ACI318-89", "ACI318-95", "ACI318-99", "ACI318-02", "BS8110-97", "GB50010-02", "CSA-A23.3-94", "no code"};
-        json made{{"code", oneOf(codes)}, {"kind", upTo(9) == 0 ? 1 + upTo(4) : 1}, {"mode", upTo(1)}, {"combType", upTo(4)}, {"orthoOption", flip()}, {"alphaH", upTo(4) / 2.0}};
+        static const char* const codes[] = {"AIK-USD94", "KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022", "KCI-USD12", "KBC-USD09",
+                                            "KBC-USD05", "KCI-USD99", "KSCE-USD96",       "ACI318-89",        "ACI318-95", "ACI318-99",
+                                            "ACI318-02", "BS8110-97", "GB50010-02",       "CSA-A23.3-94",     "no code"};
+        json made{{"code", oneOf(codes)},   {"kind", upTo(9) == 0 ? 1 + upTo(4) : 1}, {"mode", upTo(1)}, {"combType", upTo(4)}, {"orthoOption", flip()},
+                  {"alphaH", upTo(4) / 2.0}};
         json factors = json::object();
         json partners = json::object();
         for (int count = upTo(3); count > 0; --count) {

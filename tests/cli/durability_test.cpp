@@ -50,7 +50,8 @@ std::string writingJournal(int actions)
         if (k % 3 == 0)
             journal << R"({"do": "db", "op": "delete", "table": "STLD", "names": ["A)" << k - 2 << R"(", "A)" << k - 1 << R"("]})" << '\n';
         else
-            journal << R"({"do": "db", "op": "add", "table": "STLD", "record": {"name": "A)" << k << R"(", "description": ")" << std::string(300, 'x') << R"("}})" << '\n';
+            journal << R"({"do": "db", "op": "add", "table": "STLD", "record": {"name": "A)" << k << R"(", "description": ")" << std::string(300, 'x')
+                    << R"("}})" << '\n';
     }
     return journal.str();
 }
@@ -115,7 +116,8 @@ TEST_F(Durability, AFlippedBitIsReportedOrChangesNothing)
         std::string bytes = whole;
         // Most of a small file is empty pages; half of the flips go where the records are.
         const std::size_t near = whole.find(round % 4 == 0 ? "DL" : "LL");
-        const std::size_t place = round % 2 == 0 || near == std::string::npos ? random() % bytes.size() : near - std::min<std::size_t>(near, 64) + random() % 128;
+        const std::size_t place =
+            round % 2 == 0 || near == std::string::npos ? random() % bytes.size() : near - std::min<std::size_t>(near, 64) + random() % 128;
         bytes[place] = static_cast<char>(bytes[place] ^ (1 << (random() % 8)));
         cli_test::write(flipped, bytes);
         const Outcome read = zel({"dump", flipped});

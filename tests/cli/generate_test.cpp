@@ -35,7 +35,7 @@ struct WorkedRow {
     const char* name;
     int active;
     const char* description;
-    double dead, live, wind, quake;    // 0 for no item
+    double dead, live, wind, quake;  // 0 for no item
 };
 
 constexpr double thirds = 0.6666666666666666;
@@ -148,7 +148,8 @@ TEST_F(Generate, AddingNamesOnAndReplacingStartsAnew)
 TEST_F(Generate, CsvHoldsAFactorColumnForEachLoadCaseInUse)
 {
     const Outcome run = zel({"generate", model, "--code", "AIK-USD94", "--dry-run", "--format", "csv"});
-    EXPECT_TRUE(run.out.starts_with("No,Name,Active,Formula,DL,LL,WX,EX\r\n1,gLCB1  ,0,1.0D + 1.0L,1,1,,\r\n2,gLCB2  ,0,(1.0D + 1.0L + 1.0WX)/1.5,")) << run.out;
+    EXPECT_TRUE(run.out.starts_with("No,Name,Active,Formula,DL,LL,WX,EX\r\n1,gLCB1  ,0,1.0D + 1.0L,1,1,,\r\n2,gLCB2  ,0,(1.0D + 1.0L + 1.0WX)/1.5,"))
+        << run.out;
 }
 
 TEST_F(Generate, LcbNamesLoadCasesByTheirPlace)
@@ -187,10 +188,11 @@ TEST_F(Generate, AWrongNameIsAnsweredWithTheNearest)
 
 TEST_F(Generate, ScaleFactorsAndEccentricCasesAreGivenByNameOrKey)
 {
-    ASSERT_EQ(zel({"load", "-", model, "--replace"},
-                  R"({"format": "zel-model", "version": 1, "STLD": [{"key": 1, "name": "DL", "type": "D"}, {"key": 7, "name": "E=X", "type": "E"}, {"key": 8, "name": "ecc,1"}]})")
-                  .code,
-              0);
+    ASSERT_EQ(
+        zel({"load", "-", model, "--replace"},
+            R"({"format": "zel-model", "version": 1, "STLD": [{"key": 1, "name": "DL", "type": "D"}, {"key": 7, "name": "E=X", "type": "E"}, {"key": 8, "name": "ecc,1"}]})")
+            .code,
+        0);
     const std::vector<std::string> job{"generate", model, "--code", "AIK-USD94", "--dry-run", "--format", "json", "--scale"};
     std::vector<std::string> byName = job;
     byName.push_back("E=X=1.25,ecc,1");
@@ -208,7 +210,8 @@ TEST_F(Generate, AModelWithoutLoadCasesGivesTheMessageTwiceAsKeys)
     ASSERT_EQ(zel({"load", "-", model, "--replace"}, R"({"format": "zel-model", "version": 1})").code, 0);
     const Outcome run = zel({"generate", model, "--code", "AIK-USD94", "--format", "json"});
     EXPECT_EQ(run.code, 1);
-    EXPECT_EQ(run.out, "{\"ok\": 0, \"messages\": [\"IDS_QV_CMD__ADDD__No_Existing_Load_Case_\", \"IDS_QV_CMD__ADDD__No_Existing_Load_Case_\"], \"rows\": []}\n");
+    EXPECT_EQ(run.out,
+              "{\"ok\": 0, \"messages\": [\"IDS_QV_CMD__ADDD__No_Existing_Load_Case_\", \"IDS_QV_CMD__ADDD__No_Existing_Load_Case_\"], \"rows\": []}\n");
     const Outcome table = zel({"generate", model, "--code", "AIK-USD94"});
     EXPECT_EQ(table.code, 1);
     EXPECT_EQ(table.out, "");
@@ -272,10 +275,10 @@ TEST_F(Generate, EveryExplainedProductIsTheFactorOfItsItem)
 
 TEST_F(Generate, WhyNotTellsTheRowsThatGaveNothingAndTheIdleCases)
 {
-    ASSERT_EQ(zel({"load", "-", model, "--replace"},
-                  R"({"format": "zel-model", "version": 1, "STLD": [{"name": "DL", "type": "D"}, {"name": "X", "type": "USER"}]})")
-                  .code,
-              0);
+    ASSERT_EQ(
+        zel({"load", "-", model, "--replace"}, R"({"format": "zel-model", "version": 1, "STLD": [{"name": "DL", "type": "D"}, {"name": "X", "type": "USER"}]})")
+            .code,
+        0);
     const Outcome run = zel({"generate", model, "--code", "AIK-USD94", "--dry-run", "--why-not"});
     EXPECT_EQ(run.code, 0) << run.error;
     EXPECT_NE(run.out.find("no load case of \"LL\" or \"LR\"\n"), std::string::npos) << run.out;

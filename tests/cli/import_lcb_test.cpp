@@ -38,7 +38,8 @@ TEST_F(ImportLcb, StoresTheCombinationsAndTellsHowMany)
     const json rows = stored();
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_EQ(rows[0].at("name"), "LCB12");
-    EXPECT_EQ(rows[0].at("items"), json::parse(R"([{"type": 1, "key": 1, "factor": 1.2}, {"type": 1, "key": 2, "factor": 1.6}, {"type": 1, "key": 2, "factor": 0.5}])"));
+    EXPECT_EQ(rows[0].at("items"),
+              json::parse(R"([{"type": 1, "key": 1, "factor": 1.2}, {"type": 1, "key": 2, "factor": 1.6}, {"type": 1, "key": 2, "factor": 0.5}])"));
     EXPECT_EQ(rows[1].at("name"), "LCB7");
 }
 

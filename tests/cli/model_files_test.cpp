@@ -16,7 +16,8 @@ TEST_F(ModelFiles, NewMakesAnEmptyModelInTheGivenUnits)
     const Outcome made = zel({"new", path("a.qvx"), "--length", "m", "--force", "TON"});
     EXPECT_EQ(made.code, 0) << made.error;
     EXPECT_EQ(made.out + made.error, "");
-    EXPECT_EQ(zel::test::withoutEmptyTables(zel({"dump", path("a.qvx")}).out), "{\"format\": \"zel-model\", \"version\": 1, \"units\": {\"length\": \"M\", \"force\": \"TON\"}}\n");
+    EXPECT_EQ(zel::test::withoutEmptyTables(zel({"dump", path("a.qvx")}).out),
+              "{\"format\": \"zel-model\", \"version\": 1, \"units\": {\"length\": \"M\", \"force\": \"TON\"}}\n");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1) << "a closed model is one file";
 }
 
@@ -101,10 +102,14 @@ TEST_F(ModelFiles, LoadReplacesModelsOnly)
 
 TEST_F(ModelFiles, AFileThatCantBeReadIsNamedWithTheWayOut)
 {
-    for (const std::vector<std::string>& arguments :
-         {std::vector<std::string>{"info", path("none.qvx")}, {"dump", path("none.qvx")}, {"play", path("none.qvx")}, {"load", path("none.json"), path("b.qvx")},
-          {"load", folder.string(), path("b.qvx")}, {"play", "--script", path("none.jsonl")}, {"new", path("no/folder/a.qvx")},
-          {"play", "--transcript", path("no/folder/t.jsonl")}}) {
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"info", path("none.qvx")},
+                                                      {"dump", path("none.qvx")},
+                                                      {"play", path("none.qvx")},
+                                                      {"load", path("none.json"), path("b.qvx")},
+                                                      {"load", folder.string(), path("b.qvx")},
+                                                      {"play", "--script", path("none.jsonl")},
+                                                      {"new", path("no/folder/a.qvx")},
+                                                      {"play", "--transcript", path("no/folder/t.jsonl")}}) {
         const Outcome run = zel(arguments);
         EXPECT_EQ(run.code, 1) << arguments[0];
         EXPECT_TRUE(run.error.starts_with("zel: ")) << run.error;
@@ -118,9 +123,15 @@ TEST_F(ModelFiles, AFileThatCantBeReadIsNamedWithTheWayOut)
 
 TEST_F(ModelFiles, WrongUsageIsExitCodeTwo)
 {
-    for (const std::vector<std::string>& arguments :
-         {std::vector<std::string>{}, {"nothing"}, {"new"}, {"new", "a.qvx", "--length", "YARD"}, {"dump"}, {"dump", "a", "b"}, {"load", "-"},
-          {"play", "--host-commands", "maybe"}, {"info", "a.qvx", "--verbose"}}) {
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{},
+                                                      {"nothing"},
+                                                      {"new"},
+                                                      {"new", "a.qvx", "--length", "YARD"},
+                                                      {"dump"},
+                                                      {"dump", "a", "b"},
+                                                      {"load", "-"},
+                                                      {"play", "--host-commands", "maybe"},
+                                                      {"info", "a.qvx", "--verbose"}}) {
         const Outcome run = zel(arguments);
         EXPECT_EQ(run.code, 2) << (arguments.empty() ? "" : arguments[0]);
         EXPECT_TRUE(run.error.starts_with("zel: ")) << run.error;

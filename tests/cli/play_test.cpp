@@ -44,7 +44,8 @@ TEST_F(Play, WritesTheTranscriptToAFileButNeverOverItsInput)
 
 TEST_F(Play, HostCommandsAreCarriedOutOrOnlyTold)
 {
-    const std::string journal = "{\"do\": \"open\", \"class\": \"CDgnGenSeisFactor\"}\n{\"do\": \"press\", \"control\": \"...\"}\n{\"do\": \"dialogs\"}\n{\"do\": \"close\"}\n";
+    const std::string journal =
+        "{\"do\": \"open\", \"class\": \"CDgnGenSeisFactor\"}\n{\"do\": \"press\", \"control\": \"...\"}\n{\"do\": \"dialogs\"}\n{\"do\": \"close\"}\n";
     EXPECT_NE(zel({"play"}, journal).out.find("[\"CCMLoadCaseDlg\", \"CDgnGenSeisFactor\"]"), std::string::npos);
     const Outcome told = zel({"play", "--host-commands", "log"}, journal);
     EXPECT_NE(told.out.find("\"number\": 32869"), std::string::npos);

@@ -82,7 +82,10 @@ std::string contents(const fs::path& path)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-void write(const fs::path& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+void write(const fs::path& path, const std::string& text)
+{
+    std::ofstream(path, std::ios::binary) << text;
+}
 
 void CliTest::SetUp()
 {
@@ -90,7 +93,10 @@ void CliTest::SetUp()
     ASSERT_FALSE(folder.empty());
 }
 
-void CliTest::TearDown() { fs::remove_all(folder); }
+void CliTest::TearDown()
+{
+    fs::remove_all(folder);
+}
 
 std::string CliTest::modelWithTwoCases(const std::string& name) const
 {

@@ -10,7 +10,7 @@ namespace cli_test {
 
 /// What came of a run of `zel`.
 struct Outcome {
-    int code = -1;    ///< exit code; -1 when a signal ended it
+    int code = -1;  ///< exit code; -1 when a signal ended it
     std::string out;
     std::string error;
 };

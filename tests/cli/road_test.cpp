@@ -15,7 +15,7 @@ TEST_F(RoadOfOneRequest, FromAnEmptyModelToAnEnvelopeSavedReopenedAndDumped)
 {
     const std::string road = std::string(ZEL_SOURCE_DIR) + "/tests/cli/road/";
     const std::filesystem::path before = std::filesystem::current_path();
-    std::filesystem::current_path(folder);    // the journal names the file to import without a folder
+    std::filesystem::current_path(folder);  // the journal names the file to import without a folder
     std::filesystem::copy_file(road + "road.lcb", path("road.lcb"));
     ASSERT_EQ(zel({"new", "model.qvx"}).code, 0);
     const Outcome played = zel({"play", "model.qvx", "--script", road + "road.jsonl"});

@@ -24,10 +24,7 @@ class Entries : public DialogTest {
 protected:
     static CDialog* openLoadCases() { return CMD_DoModeless(D_CMD_MODEL_LOAD_LOADCASE, nullptr); }
 
-    [[nodiscard]] int opened(const CString& dialogClass) const
-    {
-        return static_cast<int>(std::ranges::count(user.events, "opened " + dialogClass));
-    }
+    [[nodiscard]] int opened(const CString& dialogClass) const { return static_cast<int>(std::ranges::count(user.events, "opened " + dialogClass)); }
 };
 
 TEST_F(Entries, TheThirteenIdsAreDistinctAndRegisteredInTheOrderOfTheTable)
@@ -155,15 +152,21 @@ TEST(ExportedDialogs, AreFoundByNameAndBuiltWithTheNameOfTheirClass)
         EXPECT_EQ(each.make()->ClassName(), each.name);
     }
     EXPECT_TRUE(std::ranges::is_sorted(zel::exportedDialogs, {}, &zel::ExportedDialog::name));
-    EXPECT_EQ(zel::findExportedDialog("CCMLoadCaseDlg"), nullptr);    // only its id opens it
+    EXPECT_EQ(zel::findExportedDialog("CCMLoadCaseDlg"), nullptr);  // only its id opens it
 }
 
 TEST(ExportedDialogs, AreAmongTheClassesThatHostsMayBuild)
 {
     const std::set<std::string_view> allowed{
-        "CCMLoadMLLCDlg",   "CCMLoadSPDIGrid",    "CCMLoadTypeDlg",     "CCmdSetOrthoLCDlg",  "CDgnGenSeisFactor", "CLoadCaseUndergroundDlg",
-        "CLoadCaseWindDirectDlg", "CModelAssignBasemat", "CModelDefProperty", "CModelDefSupport", "CModelDomainDlg",  "CModelSectScaleDlg",
-        "CModelThikScaleDlg", "CStripDesignControlDataDlg", "CThfcListDlg",   "CThisListDlg",     "CUnderSeisFactor",
+        "CCMLoadMLLCDlg",         "CCMLoadSPDIGrid",
+        "CCMLoadTypeDlg",         "CCmdSetOrthoLCDlg",
+        "CDgnGenSeisFactor",      "CLoadCaseUndergroundDlg",
+        "CLoadCaseWindDirectDlg", "CModelAssignBasemat",
+        "CModelDefProperty",      "CModelDefSupport",
+        "CModelDomainDlg",        "CModelSectScaleDlg",
+        "CModelThikScaleDlg",     "CStripDesignControlDataDlg",
+        "CThfcListDlg",           "CThisListDlg",
+        "CUnderSeisFactor",
     };
     EXPECT_THAT(allowed, SizeIs(17));
     for (const zel::ExportedDialog& each : zel::exportedDialogs)

@@ -45,7 +45,10 @@ template <class Record> struct Args {
     CArray<void*, void*> pointers{&key, &record};
 };
 
-const zel::ModalCommand& command(unsigned number) { return *zel::findModalCommand(number); }
+const zel::ModalCommand& command(unsigned number)
+{
+    return *zel::findModalCommand(number);
+}
 
 TEST(ModalSetUp, AFlagModifiesTheRecordOfTheArguments)
 {

@@ -30,17 +30,14 @@ public:
 private:
     void UpdateBuffer(const CViewBuff& buffer) override
     {
-        zel::readChanges(
-            buffer,
-            zel::TableWatch<CDataStld>{
-                .added = [this](const CDataStld& now) { told.push_back("added " + now.currentRecord.name); },
-                .deleted = [this](const CDataStld& before) { told.push_back("deleted " + before.currentRecord.name); },
-                .modified =
-                    [this](const CDataStld& now, const CDataStld& before) {
-                        told.push_back(before.currentRecord.name + " is now " + now.currentRecord.name);
-                    },
-            },
-            zel::TableWatch<CDataSlcf>{.added = [this](const CDataSlcf& /*now*/) { told.push_back("factors"); }});
+        zel::readChanges(buffer,
+                         zel::TableWatch<CDataStld>{
+                             .added = [this](const CDataStld& now) { told.push_back("added " + now.currentRecord.name); },
+                             .deleted = [this](const CDataStld& before) { told.push_back("deleted " + before.currentRecord.name); },
+                             .modified = [this](const CDataStld& now,
+                                                const CDataStld& before) { told.push_back(before.currentRecord.name + " is now " + now.currentRecord.name); },
+                         },
+                         zel::TableWatch<CDataSlcf>{.added = [this](const CDataSlcf& /*now*/) { told.push_back("factors"); }});
     }
     void UnitChanged() override { told.push_back("units"); }
     [[nodiscard]] bool canUpdate() const override { return windowIsThere; }
@@ -97,7 +94,7 @@ TEST_F(Notices, OtherHintsAndAnEmptyBufferTellNothing)
 {
     for (const long long hint : {0LL, 1LL, 3LL, 2LL, 5LL, 6LL, 7LL, 8LL, 9LL, 1000LL, -1LL, -4LL})
         model->notify(nullptr, hint, nullptr);
-    CDataLcoe().Add(T_LCOE_D());    // a table without update codes
+    CDataLcoe().Add(T_LCOE_D());  // a table without update codes
     EXPECT_THAT(listener.told, IsEmpty());
 }
 

@@ -35,8 +35,7 @@ const Expected unitLists[] = {
     {"T_MCTL_D", T_MCTL_D::unit, 6, {{0, 1}, {2, 11}}},
     {"T_ACTL_D", T_ACTL_D::unit, 5, {}},
     {"T_MATL_D", T_MATL_D::unit, 16, {{5, 6}, {7, 22}, {8, 9}, {12, 6}, {14, 22}, {15, 9}}},
-    {"T_SECT_STIFFNESS", T_SECT_STIFFNESS::unit, 12,
-        {{0, 3}, {1, 3}, {2, 3}, {3, 5}, {4, 5}, {5, 5}, {6, 1}, {7, 1}, {8, 1}, {9, 1}, {10, 4}, {11, 4}}},
+    {"T_SECT_STIFFNESS", T_SECT_STIFFNESS::unit, 12, {{0, 3}, {1, 3}, {2, 3}, {3, 5}, {4, 5}, {5, 5}, {6, 1}, {7, 1}, {8, 1}, {9, 1}, {10, 4}, {11, 4}}},
     {"T_SECT_SECTBASE_D", T_SECT_SECTBASE_D::unit, 8, {{2, 1}, {3, 1}, {4, 1}}},
     {"T_SECT_DESIGN", T_SECT_DESIGN::unit, 2, {{0, 1}, {1, 1}}},
     {"T_THIK_D", T_THIK_D::unit, 7, {{2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}}},
@@ -59,8 +58,7 @@ TEST_P(UnitList, HoldsTheUnitTypesUnderTheirEntryNumbers)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Records, UnitList, testing::ValuesIn(unitLists),
-    [](const auto& list) { return std::string{list.param.name}; });
+INSTANTIATE_TEST_SUITE_P(Records, UnitList, testing::ValuesIn(unitLists), [](const auto& list) { return std::string{list.param.name}; });
 
 template <class Record> int unitOf(const Record& record, std::string_view field, std::size_t element = 0)
 {
@@ -86,7 +84,7 @@ TEST(UnitByRecord, TimeHistoryFunctionsFollowTheirDataType)
 TEST(UnitByRecord, MassesFollowTheirType)
 {
     T_OMAS_D mass;
-    const int expected[] = {0, 24, 25, 26, 0};    // by type; 0 and 4 are none
+    const int expected[] = {0, 24, 25, 26, 0};  // by type; 0 and 4 are none
     for (std::int32_t type = 0; type < 5; ++type) {
         mass.type = type;
         EXPECT_EQ(unitOf(mass, "value"), expected[type]) << type;

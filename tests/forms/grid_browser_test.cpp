@@ -17,10 +17,7 @@ public:
             member.length *= 10.0;
         RebuildRows();
     }
-    void MakeItemEditingRecord(int row, const CArray<CString>& texts) override
-    {
-        SetTextAt(row, length, RealText(RealOf(texts[length]) * 10.0));
-    }
+    void MakeItemEditingRecord(int row, const CArray<CString>& texts) override { SetTextAt(row, length, RealText(RealOf(texts[length]) * 10.0)); }
 };
 
 class GridUnits : public GridTestOf<UnitGrid> {};
@@ -39,14 +36,14 @@ public:
         SetSortColumns({0});
     }
 
-    std::vector<int> asked;     ///< rows that MakeItemFiltered was asked for
+    std::vector<int> asked;  ///< rows that MakeItemFiltered was asked for
     bool writesAll = false;
 
     int GetCountData() override { return rowCount; }
     void MakeItemNormal(int count, const CArray<int>& /*columns*/) override
     {
         for (int row = 1; row <= count; ++row) {
-            SetRowKey(row, static_cast<std::uint32_t>(2 * row));    // even keys, so that there are places between
+            SetRowKey(row, static_cast<std::uint32_t>(2 * row));  // even keys, so that there are places between
             if (writesAll)
                 write(row);
         }
@@ -106,10 +103,7 @@ public:
 
     std::vector<CString> calls;
 
-    bool ValidateField(const CString& text, int column) override
-    {
-        return column == 0 || ValidateNumber(text, {"formula", "character", "big"});
-    }
+    bool ValidateField(const CString& text, int column) override { return column == 0 || ValidateNumber(text, {"formula", "character", "big"}); }
     void OnEndEditing(int row, int index) override { calls.push_back("edited " + std::to_string(row) + " " + TextAt(row, index)); }
     void OnButtonCell(int row, int /*index*/) override { calls.push_back("pressed " + std::to_string(row)); }
     void OnPasted() override { calls.push_back("pasted"); }
@@ -168,17 +162,17 @@ TEST_F(GridLong, RowsOnDemandAreReadOnceAndOnlyWhenTheyAreLookedAt)
     EXPECT_EQ(grid.asked, (std::vector<int>{70'001}));
     grid.fillRows(10, 13);
     EXPECT_EQ(grid.asked, (std::vector<int>{70'001, 10, 11, 12, 13}));
-    EXPECT_EQ(dialog.count.changes, 0);    // reading is no change
+    EXPECT_EQ(dialog.count.changes, 0);  // reading is no change
 
     int row = 0;
     grid.asked.clear();
     EXPECT_NE(grid.FindRecordByKey({"150000"}, row), 0);
     EXPECT_EQ(row, 75'000);
-    EXPECT_LE(grid.asked.size(), 18U);    // a search by halves
+    EXPECT_LE(grid.asked.size(), 18U);  // a search by halves
 
     grid.DeleteRecord(1);
     grid.asked.clear();
-    EXPECT_EQ(grid.shownText(0, 0), "4");    // a row keeps its key when rows before it go
+    EXPECT_EQ(grid.shownText(0, 0), "4");  // a row keeps its key when rows before it go
 }
 
 TEST_F(GridLong, StaysQuickWithAHundredThousandRows)
@@ -193,7 +187,7 @@ TEST_F(GridLong, StaysQuickWithAHundredThousandRows)
         const zel::GridUpdate update{grid};
         for (int i = 0; i < 2'000; ++i) {
             int row = 0;
-            const CString key = std::to_string(2 * ((i * 7919) % LongGrid::rowCount) + 1);    // an odd key, somewhere
+            const CString key = std::to_string(2 * ((i * 7919) % LongGrid::rowCount) + 1);  // an odd key, somewhere
             ASSERT_EQ(grid.FindRecordByKey({key}, row), 0);
             grid.InsertRecord(row);
             grid.SetTextAt(row, 0, key);
@@ -214,7 +208,7 @@ TEST_F(GridLong, StaysQuickWithAHundredThousandRows)
     EXPECT_EQ(dialog.count.changes, 1);
 
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - started;
-    EXPECT_LT(taken.count(), 60.0);    // a second or two; anything quadratic takes many minutes
+    EXPECT_LT(taken.count(), 60.0);  // a second or two; anything quadratic takes many minutes
 }
 
 TEST_F(GridCells, EachCellIsWrittenWhenItIsLeft)

@@ -12,7 +12,7 @@ class GridColumns : public GridTestOf<> {};
 
 TEST_F(GridColumns, KeepTheirIndexWhenTheyAreMovedOnScreen)
 {
-    EXPECT_TRUE(grid.dragColumns(1, 1, 5).ok());    // the name to the end
+    EXPECT_TRUE(grid.dragColumns(1, 1, 5).ok());  // the name to the end
 
     int column = 0;
     EXPECT_NE(grid.GetColumnNoFor(MemberGrid::name, column), 0);
@@ -29,8 +29,8 @@ TEST_F(GridColumns, MoveLeftAsWellAsRight)
 {
     EXPECT_TRUE(grid.dragColumns(3, 4, 1).ok());
     EXPECT_EQ(grid.field("columns"), "[Key,60,hidden][Kind,60,2 choices][Active,60][Name,80][Length,60]");
-    EXPECT_TRUE(grid.dragColumns(1, 2, 1).ok());    // onto itself
-    EXPECT_TRUE(grid.dragColumns(1, 2, 3).ok());    // behind itself
+    EXPECT_TRUE(grid.dragColumns(1, 2, 1).ok());  // onto itself
+    EXPECT_TRUE(grid.dragColumns(1, 2, 3).ok());  // behind itself
     EXPECT_EQ(grid.field("columns"), "[Key,60,hidden][Kind,60,2 choices][Active,60][Name,80][Length,60]");
 }
 

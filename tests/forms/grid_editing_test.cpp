@@ -36,8 +36,8 @@ TEST_F(GridEditing, GoingToAnotherRowWritesTheRowThatIsLeft)
 
 TEST_F(GridEditing, TheClickedRecordIsMetWhenTheWrittenRowMovesPastIt)
 {
-    ASSERT_TRUE(grid.typeCell(0, 1, "Z1").ok());    // will stand last
-    EXPECT_TRUE(grid.clickCell(2, 1).ok());         // on C1
+    ASSERT_TRUE(grid.typeCell(0, 1, "Z1").ok());  // will stand last
+    EXPECT_TRUE(grid.clickCell(2, 1).ok());       // on C1
     EXPECT_EQ(grid.lines(), (Calls{"2|B2|3|beam|0", "3|C1|4|column|1", "1|Z1|2.5|beam|1"}));
     EXPECT_EQ(grid.field("current"), "1,1");
 }
@@ -49,10 +49,10 @@ TEST_F(GridEditing, ARefusedCellStaysOpenWithItsTextAndTheWarningIsShown)
     EXPECT_EQ(grid.GetOpenCell(), MemberGrid::length);
     EXPECT_EQ(grid.field("rows"), "1|B1|2.50|beam|1\n2|B2|-3|beam|0\n3|C1|4.00|column|1\n");
 
-    EXPECT_TRUE(grid.clickCell(0, 1).ok());    // does not let go
+    EXPECT_TRUE(grid.clickCell(0, 1).ok());  // does not let go
     EXPECT_EQ(host.warnings.size(), 2U);
     EXPECT_EQ(grid.field("current"), "1,2");
-    EXPECT_TRUE(grid.typeCell(0, 1, "X").ok());    // nor for another cell
+    EXPECT_TRUE(grid.typeCell(0, 1, "X").ok());  // nor for another cell
     EXPECT_EQ(host.warnings.size(), 3U);
     EXPECT_EQ(grid.TextAt(1, MemberGrid::name), "B1");
 
@@ -72,7 +72,7 @@ TEST_F(GridEditing, ARefusedRowStaysUnderEdit)
     EXPECT_EQ(grid.field("editing"), "1");
     EXPECT_EQ(grid.field("current"), "1,1");
 
-    EXPECT_TRUE(grid.typeCell(2, 1, "X").ok());    // the other row takes nothing meanwhile
+    EXPECT_TRUE(grid.typeCell(2, 1, "X").ok());  // the other row takes nothing meanwhile
     EXPECT_EQ(grid.TextAt(3, MemberGrid::name), "C1");
 
     ASSERT_TRUE(grid.typeCell(1, 1, "B7").ok());
@@ -115,7 +115,7 @@ TEST_F(GridEditing, EscapeGivesUpTheOpenCellAndThenTheRow)
     EXPECT_EQ(grid.line(2), "2|B2|3|beam|0");
     EXPECT_FALSE(grid.IsEdit());
     EXPECT_TRUE(grid.take().empty());
-    EXPECT_TRUE(grid.escape().ok());    // with nothing open
+    EXPECT_TRUE(grid.escape().ok());  // with nothing open
 }
 
 TEST_F(GridEditing, EscapeFromTheOnlyTypedCellEndsTheRowToo)
@@ -169,7 +169,7 @@ TEST_F(GridEditing, TheAppendRowBeginsWithDefaultsAndANewKey)
     grid.calls.clear();
 
     EXPECT_TRUE(grid.leaveRow().ok());
-    EXPECT_EQ(grid.take().back(), "row 5");    // the append row is the fifth now
+    EXPECT_EQ(grid.take().back(), "row 5");  // the append row is the fifth now
     EXPECT_EQ(grid.lines(), (Calls{"1|B1|2.5|beam|1", "2|B2|3|beam|0", "4|B3|1.5|beam|1", "3|C1|4|column|1"}));
     EXPECT_EQ(grid.line(5), "||||");
     EXPECT_EQ(grid.field("current"), "append,1");
@@ -324,7 +324,7 @@ TEST_F(GridEditing, DeletingTheRowUnderEditGivesItsTextsUp)
 TEST_F(GridEditing, DeletingOtherRowsFirstWritesTheRowUnderEditAndThenMeetsTheRightOnes)
 {
     ASSERT_TRUE(grid.typeCell(0, 1, "Z1").ok());
-    EXPECT_TRUE(grid.deleteRows({1}).ok());    // B2, which then stands first
+    EXPECT_TRUE(grid.deleteRows({1}).ok());  // B2, which then stands first
     EXPECT_EQ(grid.lines(), (Calls{"3|C1|4|column|1", "1|Z1|2.5|beam|1"}));
 }
 

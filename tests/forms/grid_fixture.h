@@ -31,7 +31,7 @@ public:
         CString line;
         for (const ColumnView& column : values)
             line += "[" + column.title + "," + std::to_string(column.width) + (column.visible ? "" : ",hidden") +
-                    (column.choices.empty() ? "" : "," + std::to_string(column.choices.size()) + " choices") + "]";
+                (column.choices.empty() ? "" : "," + std::to_string(column.choices.size()) + " choices") + "]";
         put(name, line);
     }
     void cell(std::string_view name, std::optional<int> row, int column) override
@@ -102,10 +102,10 @@ public:
     }
 
     std::vector<Member> data;
-    bool mirrors = true;             ///< it updates its rows itself, as a grid of a table does at a notice
+    bool mirrors = true;  ///< it updates its rows itself, as a grid of a table does at a notice
     bool refusesWrites = false;
     bool refusesAdds = false;
-    std::vector<CString> calls;      ///< what the browser has asked it
+    std::vector<CString> calls;  ///< what the browser has asked it
 
     void Initialize() override
     {

@@ -13,12 +13,11 @@ using Block = zel::GridBlock;
 TEST_F(GridPaste, WritesOverRowsAndAppendsTheRest)
 {
     EXPECT_TRUE(grid.paste(1, 1, "B2\t7\nC2\t2*4\nC5\t9\n").ok());
-    EXPECT_EQ(grid.take(), (Calls{"record B2", "field 0 2", "field 1 B2", "field 2 3", "field 3 beam", "field 4 0",           // as it was
-                                  "record B2", "field 0 2", "field 1 B2", "field 2 7", "field 3 beam", "field 4 0",           // as it will be
-                                  "record C1", "field 0 3", "field 1 C1", "field 2 4", "field 3 column", "field 4 1",
-                                  "record C2", "field 0 3", "field 1 C2", "field 2 2*4", "field 3 column", "field 4 1",
-                                  "record C5", "field 0 4", "field 1 C5", "field 2 9", "field 3 beam", "field 4 1",
-                                  "modify block 2 2", "add block 1"}));
+    EXPECT_EQ(grid.take(), (Calls{"record B2",  "field 0 2",  "field 1 B2",   "field 2 3",      "field 3 beam",     "field 4 0",  // as it was
+                                  "record B2",  "field 0 2",  "field 1 B2",   "field 2 7",      "field 3 beam",     "field 4 0",  // as it will be
+                                  "record C1",  "field 0 3",  "field 1 C1",   "field 2 4",      "field 3 column",   "field 4 1",  "record C2",
+                                  "field 0 3",  "field 1 C2", "field 2 2*4",  "field 3 column", "field 4 1",        "record C5",  "field 0 4",
+                                  "field 1 C5", "field 2 9",  "field 3 beam", "field 4 1",      "modify block 2 2", "add block 1"}));
     EXPECT_EQ(grid.lines(), (Calls{"1|B1|2.5|beam|1", "2|B2|7|beam|0", "3|C2|8|column|1", "4|C5|9|beam|1"}));
     EXPECT_EQ(grid.data.size(), 4U);
 }
@@ -80,7 +79,7 @@ TEST_F(GridPaste, RefusesABlockThatDoesNotFit)
 
 TEST_F(GridPaste, GoesIntoColumnsAsTheyStandOnScreen)
 {
-    ASSERT_TRUE(grid.dragColumns(2, 2, 1).ok());    // length, name
+    ASSERT_TRUE(grid.dragColumns(2, 2, 1).ok());  // length, name
     grid.SetColHidden(MemberGrid::name);
     EXPECT_TRUE(grid.paste(0, 1, "5\tcolumn").ok());
     EXPECT_EQ(grid.line(1), "1|B1|5|column|1");
@@ -89,11 +88,11 @@ TEST_F(GridPaste, GoesIntoColumnsAsTheyStandOnScreen)
 TEST_F(GridPaste, FirstWritesTheRowUnderEdit)
 {
     ASSERT_TRUE(grid.typeCell(0, 1, "Z1").ok());
-    EXPECT_TRUE(grid.paste(1, 2, "6").ok());    // onto B2, which then stands first
+    EXPECT_TRUE(grid.paste(1, 2, "6").ok());  // onto B2, which then stands first
     EXPECT_EQ(grid.lines(), (Calls{"2|B2|6|beam|0", "3|C1|4|column|1", "1|Z1|2.5|beam|1"}));
 
     ASSERT_TRUE(grid.typeCell(0, 2, "-1").ok());
-    EXPECT_TRUE(grid.paste(1, 2, "7").ok());    // the open cell does not let go
+    EXPECT_TRUE(grid.paste(1, 2, "7").ok());  // the open cell does not let go
     EXPECT_EQ(grid.TextAt(2, MemberGrid::length), "4");
 }
 

@@ -24,10 +24,7 @@ public:
         calls.push_back("drop " + std::to_string(firstRow) + " " + std::to_string(lastRow) + " " + std::to_string(targetRow) + (IsEdit() ? " editing" : ""));
         return takes && MemberGrid::OnSelDragRowsDrop(firstRow, lastRow, targetRow);
     }
-    bool OnSelDragColsDrop(int firstColumn, int lastColumn, int targetColumn) override
-    {
-        return firstColumn > 2 && lastColumn > 2 && targetColumn > 2;
-    }
+    bool OnSelDragColsDrop(int firstColumn, int lastColumn, int targetColumn) override { return firstColumn > 2 && lastColumn > 2 && targetColumn > 2; }
     bool OnDropText(int row, int column, const CString& text) override
     {
         note("dropped", row, column);
@@ -87,7 +84,7 @@ TEST_F(GridRows, SortNumbersByValueAndThenByTheNextColumn)
     EXPECT_EQ(row, 3);
     EXPECT_EQ(grid.FindRecordByKey({"9", "1"}, row), 0);
     EXPECT_EQ(row, 2);
-    EXPECT_EQ(grid.FindRecordByKey({"text", "1"}, row), 0);    // behind all numbers
+    EXPECT_EQ(grid.FindRecordByKey({"text", "1"}, row), 0);  // behind all numbers
     EXPECT_EQ(row, 4);
 }
 
@@ -130,7 +127,7 @@ TEST_F(GridRows, SelectingLeavesTheRowUnderEditFirst)
     EXPECT_TRUE(grid.GetSelectedRows().empty());
     ASSERT_TRUE(grid.escape().ok());
     ASSERT_TRUE(grid.typeCell(0, 1, "Z1").ok());
-    EXPECT_TRUE(grid.select({1, 2}).ok());    // B2 and C1
+    EXPECT_TRUE(grid.select({1, 2}).ok());  // B2 and C1
     EXPECT_EQ(grid.GetSelectedRows(), (CArray<int>{1, 2}));
     EXPECT_EQ(grid.line(1), "2|B2|3|beam|0");
 }
@@ -189,7 +186,7 @@ TEST_F(GridRows, AnUpdateKeepsTheRowNumberAndTellsOfAnotherRecordThere)
         const zel::GridUpdate update{grid};
         grid.DeleteRecord(3);
     }
-    EXPECT_EQ(grid.field("current"), "1,2");    // the last row, as there are fewer
+    EXPECT_EQ(grid.field("current"), "1,2");  // the last row, as there are fewer
     EXPECT_EQ(grid.take(), (Calls{"row 2"}));
     {
         const zel::GridUpdate update{grid};
@@ -259,7 +256,7 @@ TEST_F(GridRows, PaintingLocksNestAndTellOnce)
     grid.LockPainting();
     EXPECT_FALSE(grid.UnlockPainting());
     EXPECT_TRUE(grid.UnlockPainting());
-    EXPECT_EQ(dialog.count.changes, 1);    // nothing had changed
+    EXPECT_EQ(dialog.count.changes, 1);  // nothing had changed
     grid.SetTextAt(1, MemberGrid::name, "Z");
     EXPECT_EQ(dialog.count.changes, 2);
 }
@@ -268,13 +265,13 @@ TEST_F(GridDrag, TellsRowsAndTargetInGridNumbers)
 {
     EXPECT_TRUE(grid.dragRows({0, 1}, 2).ok());
     EXPECT_EQ(grid.take(), (Calls{"selected 2: 1 2", "row 2", "drop 1 2 3"}));
-    EXPECT_TRUE(grid.dragRows({0}, 3).ok());    // the row count: behind the last data row
+    EXPECT_TRUE(grid.dragRows({0}, 3).ok());  // the row count: behind the last data row
     EXPECT_EQ(grid.take().back(), "drop 1 1 4");
     EXPECT_TRUE(grid.dragRows({2}, 0).ok());
     EXPECT_EQ(grid.take().back(), "drop 3 3 1");
     EXPECT_TRUE(grid.dragRows({2}, append).ok());
     EXPECT_EQ(grid.take(), (Calls{"drop 3 3 4"}));
-    EXPECT_EQ(grid.lines(), (Calls{"1|B1|2.5|beam|1", "2|B2|3|beam|0", "3|C1|4|column|1"}));    // the grid has moved nothing
+    EXPECT_EQ(grid.lines(), (Calls{"1|B1|2.5|beam|1", "2|B2|3|beam|0", "3|C1|4|column|1"}));  // the grid has moved nothing
 }
 
 TEST_F(GridDrag, MovesTheRowsIfTheGridLetsIt)
@@ -283,7 +280,7 @@ TEST_F(GridDrag, MovesTheRowsIfTheGridLetsIt)
     EXPECT_TRUE(grid.dragRows({2, 0}, 2).ok());
     EXPECT_EQ(grid.lines(), (Calls{"2|B2|3|beam|0", "3|C1|4|column|1", "1|B1|2.5|beam|1"}));
     EXPECT_EQ(grid.field("selected"), "1,2");
-    EXPECT_EQ(grid.field("current"), "2,1");    // the row that was current
+    EXPECT_EQ(grid.field("current"), "2,1");  // the row that was current
 }
 
 TEST_F(GridDrag, RefusesNumbersOutsideAndGridsThatKeepTheirRows)
@@ -325,12 +322,12 @@ TEST_F(GridDrag, MovingByOneIsADropOneRowFurther)
     EXPECT_TRUE(grid.moveRows(-1).ok());
     EXPECT_EQ(grid.take().front(), "drop 2 2 1");
     EXPECT_EQ(grid.line(1), "2|B2|3|beam|0");
-    EXPECT_TRUE(grid.moveRows(-1).ok());    // at the top already
+    EXPECT_TRUE(grid.moveRows(-1).ok());  // at the top already
     EXPECT_EQ(grid.line(1), "2|B2|3|beam|0");
     EXPECT_TRUE(grid.moveRows(1).ok());
     EXPECT_TRUE(grid.moveRows(1).ok());
     EXPECT_EQ(grid.line(3), "2|B2|3|beam|0");
-    EXPECT_TRUE(grid.moveRows(1).ok());    // at the end already
+    EXPECT_TRUE(grid.moveRows(1).ok());  // at the end already
     EXPECT_EQ(grid.line(3), "2|B2|3|beam|0");
 }
 
@@ -339,7 +336,7 @@ TEST_F(GridDrag, AClickIntoAFrozenColumnSelectsTheRow)
     EXPECT_TRUE(grid.clickCell(1, 1).ok());
     EXPECT_EQ(grid.take(), (Calls{"selected 1: 2", "click 2 2", "row 2"}));
     grid.SetColDisabled(MemberGrid::name);
-    EXPECT_TRUE(grid.clickCell(2, 1).ok());    // the frozen column takes no cell, the row becomes current all the same
+    EXPECT_TRUE(grid.clickCell(2, 1).ok());  // the frozen column takes no cell, the row becomes current all the same
     EXPECT_EQ(grid.field("selected"), "2");
     EXPECT_EQ(grid.field("current"), "2,2");
     EXPECT_TRUE(grid.clickCell(append, 1).ok());

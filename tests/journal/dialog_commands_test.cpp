@@ -44,7 +44,8 @@ TEST_F(DialogCommands, FormShowsHeadAndControlsInReadingOrder)
     EXPECT_EQ(shown.at("controls")[1].at("group"), "First");
     EXPECT_EQ(control("away").at("visible"), false);
     EXPECT_EQ(control("off").at("enabled"), false);
-    EXPECT_EQ(control("table").at("columns"), zel::parseJson(R"([{"title": "One", "width": 40, "visible": true}, {"title": "Two", "width": 50, "visible": true}])"));
+    EXPECT_EQ(control("table").at("columns"),
+              zel::parseJson(R"([{"title": "One", "width": 40, "visible": true}, {"title": "Two", "width": 50, "visible": true}])"));
     EXPECT_EQ(control("table").at("rows"), zel::parseJson(R"([["x", "y"]])"));
     EXPECT_EQ(control("shape").at("items"), zel::parseJson(R"(["Round", "Square"])"));
     EXPECT_TRUE(control("shape").at("selected").is_null());
@@ -95,24 +96,43 @@ TEST_F(DialogCommands, WhatAControlDoesNotTakeIsAnErrorAndChangesNothing)
 {
     const Json before = resultOf(R"({"do": "form"})");
     for (const char* command : {
-             R"({"do": "set", "control": "Shape", "value": "Triangle"})", R"({"do": "set", "control": "Shape", "value": 2})",
-             R"({"do": "set", "control": "Shape", "value": -1})", R"({"do": "set", "control": "Shape", "value": 0.5})",
-             R"({"do": "set", "control": "Shape", "value": 1e300})", R"({"do": "set", "control": "Left", "value": false})",
-             R"({"do": "set", "control": "Tick", "value": "yes"})", R"({"do": "set", "control": "Name", "value": [1]})",
-             R"({"do": "set", "control": "Name", "value": null})", R"({"do": "set", "control": "Off", "value": "x"})",
-             R"({"do": "press", "control": "Off"})", R"({"do": "press", "control": "Away"})", R"({"do": "press", "control": "Name"})",
-             R"({"do": "select", "control": "rows", "rows": [2]})", R"({"do": "select", "control": "rows", "rows": [0, 1]})",
-             R"({"do": "select", "control": "rows", "rows": [-1]})", R"({"do": "select", "control": "rows", "rows": 0})",
-             R"({"do": "select", "control": "rows", "rows": [99999999999]})", R"({"do": "select", "control": "Name", "rows": [0]})",
-             R"({"do": "double_click", "control": "rows", "row": 5})", R"({"do": "tick", "control": "ticks", "row": 9, "value": true})",
-             R"({"do": "tick", "control": "ticks", "row": 0, "value": 1})", R"({"do": "tick", "control": "rows", "row": 0, "value": true})",
-             R"({"do": "spin", "control": "countSpin", "delta": 2})", R"({"do": "spin", "control": "Name", "delta": 1})",
-             R"({"do": "tab", "control": "Shape", "value": 0})", R"({"do": "cell", "control": "table", "row": 0, "column": 0, "text": "z"})",
-             R"({"do": "current", "control": "table", "row": 0, "column": 0})", R"({"do": "leave_row", "control": "table"})",
-             R"({"do": "escape", "control": "table"})", R"({"do": "delete_rows", "control": "table", "rows": [0]})",
-             R"({"do": "paste", "control": "table", "row": 0, "column": 0, "text": "z"})", R"({"do": "drag_rows", "control": "table", "rows": [0], "to": 0})",
-             R"({"do": "drop", "control": "table", "row": 0, "column": 0, "text": "z"})", R"({"do": "key", "control": "Name", "value": "F1"})",
-             R"({"do": "pick", "control": "Name", "keys": [1]})", R"({"do": "pick", "control": "Picked", "keys": [0]})",
+             R"({"do": "set", "control": "Shape", "value": "Triangle"})",
+             R"({"do": "set", "control": "Shape", "value": 2})",
+             R"({"do": "set", "control": "Shape", "value": -1})",
+             R"({"do": "set", "control": "Shape", "value": 0.5})",
+             R"({"do": "set", "control": "Shape", "value": 1e300})",
+             R"({"do": "set", "control": "Left", "value": false})",
+             R"({"do": "set", "control": "Tick", "value": "yes"})",
+             R"({"do": "set", "control": "Name", "value": [1]})",
+             R"({"do": "set", "control": "Name", "value": null})",
+             R"({"do": "set", "control": "Off", "value": "x"})",
+             R"({"do": "press", "control": "Off"})",
+             R"({"do": "press", "control": "Away"})",
+             R"({"do": "press", "control": "Name"})",
+             R"({"do": "select", "control": "rows", "rows": [2]})",
+             R"({"do": "select", "control": "rows", "rows": [0, 1]})",
+             R"({"do": "select", "control": "rows", "rows": [-1]})",
+             R"({"do": "select", "control": "rows", "rows": 0})",
+             R"({"do": "select", "control": "rows", "rows": [99999999999]})",
+             R"({"do": "select", "control": "Name", "rows": [0]})",
+             R"({"do": "double_click", "control": "rows", "row": 5})",
+             R"({"do": "tick", "control": "ticks", "row": 9, "value": true})",
+             R"({"do": "tick", "control": "ticks", "row": 0, "value": 1})",
+             R"({"do": "tick", "control": "rows", "row": 0, "value": true})",
+             R"({"do": "spin", "control": "countSpin", "delta": 2})",
+             R"({"do": "spin", "control": "Name", "delta": 1})",
+             R"({"do": "tab", "control": "Shape", "value": 0})",
+             R"({"do": "cell", "control": "table", "row": 0, "column": 0, "text": "z"})",
+             R"({"do": "current", "control": "table", "row": 0, "column": 0})",
+             R"({"do": "leave_row", "control": "table"})",
+             R"({"do": "escape", "control": "table"})",
+             R"({"do": "delete_rows", "control": "table", "rows": [0]})",
+             R"({"do": "paste", "control": "table", "row": 0, "column": 0, "text": "z"})",
+             R"({"do": "drag_rows", "control": "table", "rows": [0], "to": 0})",
+             R"({"do": "drop", "control": "table", "row": 0, "column": 0, "text": "z"})",
+             R"({"do": "key", "control": "Name", "value": "F1"})",
+             R"({"do": "pick", "control": "Name", "keys": [1]})",
+             R"({"do": "pick", "control": "Picked", "keys": [0]})",
          }) {
         const Json reply = replyTo(command);
         EXPECT_NE(reply.value("error", ""), "") << command;
@@ -193,7 +213,8 @@ TEST_F(DialogCommands, AModalDialogTakesTheCommandsUntilItEnds)
 {"do": "form"}
 )");
     EXPECT_EQ(played.status, zel::JournalPlayer::done);
-    EXPECT_EQ(zel::printJson(played.reply(0).at("events")), R"([{"event": "opened", "dialog": "Question", "template": 70002, "title": "Question", "modal": true}])");
+    EXPECT_EQ(zel::printJson(played.reply(0).at("events")),
+              R"([{"event": "opened", "dialog": "Question", "template": 70002, "title": "Question", "modal": true}])");
     EXPECT_EQ(played.reply(1).at("result"), zel::parseJson(R"(["Question", "Form"])"));
     EXPECT_EQ(zel::printJson(played.reply(3).at("events")), R"([{"event": "closed", "dialog": "Question", "result": 1}, {"event": "output", "text": "1"}])")
         << "what the ending led to comes with the command that ended it";

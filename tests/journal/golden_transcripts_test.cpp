@@ -36,7 +36,8 @@ std::string difference(const std::string& found, const std::string& wanted)
 {
     const auto place = std::mismatch(found.begin(), found.end(), wanted.begin(), wanted.end()).first - found.begin();
     const auto from = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, place - 60));
-    return "  wanted ..." + (from < wanted.size() ? wanted.substr(from, 160) : "") + "\n  found  ..." + (from < found.size() ? found.substr(from, 160) : "") + "\n";
+    return "  wanted ..." + (from < wanted.size() ? wanted.substr(from, 160) : "") + "\n  found  ..." + (from < found.size() ? found.substr(from, 160) : "") +
+        "\n";
 }
 
 class GoldenTranscripts : public journal_test::JournalTest, public testing::WithParamInterface<std::string> {
@@ -44,7 +45,7 @@ protected:
     void SetUp() override { zel::MessageCatalogue::builtIn().showKeys(GetParam().ends_with(".keys")); }
     void TearDown() override
     {
-        document.reset();    // closes the dialogs
+        document.reset();  // closes the dialogs
         zel::MessageCatalogue::builtIn().showKeys(false);
     }
 };
@@ -58,14 +59,16 @@ TEST_P(GoldenTranscripts, AJournalGivesTheTranscriptThatWasReviewed)
     std::string found;
     for (int line = 1; std::getline(expected, wanted); ++line) {
         ASSERT_TRUE(std::getline(given, found)) << "ends before line " << line;
-        EXPECT_TRUE(found == wanted) << GetParam() << ".expected, line " << line << ":\n" << difference(found, wanted) << "tests/journals/accept shows all of it";
+        EXPECT_TRUE(found == wanted) << GetParam() << ".expected, line " << line << ":\n"
+                                     << difference(found, wanted) << "tests/journals/accept shows all of it";
     }
     EXPECT_FALSE(std::getline(given, found)) << "goes on with " << found;
 }
 
 INSTANTIATE_TEST_SUITE_P(All, GoldenTranscripts, testing::ValuesIn(journals()), [](const auto& journal) {
     std::string name = journal.param;
-    std::replace_if(name.begin(), name.end(), [](char letter) { return letter == '.' || letter == '-'; }, '_');
+    std::replace_if(
+        name.begin(), name.end(), [](char letter) { return letter == '.' || letter == '-'; }, '_');
     return name;
 });
 

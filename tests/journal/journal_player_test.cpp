@@ -105,20 +105,44 @@ TEST_F(JournalPlayerTest, AnUnknownModelessIdIsCarriedOutWithANullResult)
     EXPECT_FALSE(reply.contains("error"));
 }
 
-TEST_F(JournalPlayerTest, AnUnknownClassCantBeOpened) { EXPECT_NE(errorOf(R"({"do": "open", "class": "CNobody"})"), ""); }
+TEST_F(JournalPlayerTest, AnUnknownClassCantBeOpened)
+{
+    EXPECT_NE(errorOf(R"({"do": "open", "class": "CNobody"})"), "");
+}
 
 TEST_F(JournalPlayerTest, HostileLinesAreErrorsAndNoMore)
 {
     const std::vector<std::string> lines{
-        "{", "]", "nonsense", "\"text\"", "17", "null", "[]", "{}", "{\"do\": null}", "{\"do\": {}}", "{\"do\": \"\"}",
-        std::string(100000, '['), std::string(100000, '{'), "{\"do\": \"press\", \"control\": " + std::string(1000, '[') + "1" + std::string(1000, ']') + "}",
-        "{\"do\": \"press\", \"do\": \"press\"}", "{\"do\": \"press\"} trailing", "{\"do\": \"\xFF\xFE\"}", std::string("{\"do\": \"a\0b\"}", 14),
-        "{\"do\": \"\\u0000\"}", "{\"do\": \"\\ud800\"}", "{\"do\": \"modal\", \"number\": 1e999}", "{\"do\": \"modal\", \"number\": 1.5}",
-        "{\"do\": \"modal\", \"number\": 16, \"args\": []}", "{\"do\": \"modal\", \"number\": 16, \"args\": {\"key\": -1}}",
-        "{\"do\": \"modal\", \"number\": 16, \"args\": {\"key\": 1, \"record\": 5}}", "{\"do\": \"modal\", \"number\": 99999999999999999999999}",
+        "{",
+        "]",
+        "nonsense",
+        "\"text\"",
+        "17",
+        "null",
+        "[]",
+        "{}",
+        "{\"do\": null}",
+        "{\"do\": {}}",
+        "{\"do\": \"\"}",
+        std::string(100000, '['),
+        std::string(100000, '{'),
+        "{\"do\": \"press\", \"control\": " + std::string(1000, '[') + "1" + std::string(1000, ']') + "}",
+        "{\"do\": \"press\", \"do\": \"press\"}",
+        "{\"do\": \"press\"} trailing",
+        "{\"do\": \"\xFF\xFE\"}",
+        std::string("{\"do\": \"a\0b\"}", 14),
+        "{\"do\": \"\\u0000\"}",
+        "{\"do\": \"\\ud800\"}",
+        "{\"do\": \"modal\", \"number\": 1e999}",
+        "{\"do\": \"modal\", \"number\": 1.5}",
+        "{\"do\": \"modal\", \"number\": 16, \"args\": []}",
+        "{\"do\": \"modal\", \"number\": 16, \"args\": {\"key\": -1}}",
+        "{\"do\": \"modal\", \"number\": 16, \"args\": {\"key\": 1, \"record\": 5}}",
+        "{\"do\": \"modal\", \"number\": 99999999999999999999999}",
         "{\"do\": \"db\", \"op\": \"add\", \"table\": \"STLD\", \"key\": 18446744073709551615, \"record\": {\"name\": \"x\"}}",
         "{\"do\": \"db\", \"op\": \"add\", \"table\": \"STLD\", \"record\": {\"name\": \"x\", \"selfWeightFactor\": 1e400}}",
-        "{\"do\": \"db\", \"op\": \"delete\", \"table\": \"STLD\", \"names\": {}}", "{\"do\": \"view\", \"select\": {\"points\": [\"1\"]}}",
+        "{\"do\": \"db\", \"op\": \"delete\", \"table\": \"STLD\", \"names\": {}}",
+        "{\"do\": \"view\", \"select\": {\"points\": [\"1\"]}}",
         "{\"do\": \"" + std::string(1000000, 'x') + "\"}",
     };
     std::string script;

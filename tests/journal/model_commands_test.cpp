@@ -122,7 +122,8 @@ TEST_F(ModelCommands, ASingleRecordIsPutReadAndCleared)
 
 TEST_F(ModelCommands, KindsAreTablesOfTheirOwn)
 {
-    EXPECT_EQ(resultOf(R"({"do": "db", "op": "add", "table": "LCOM", "kind": 3, "record": {"name": "A", "items": [{"type": 1, "key": 1, "factor": 1.4}]}})"), 1);
+    EXPECT_EQ(resultOf(R"({"do": "db", "op": "add", "table": "LCOM", "kind": 3, "record": {"name": "A", "items": [{"type": 1, "key": 1, "factor": 1.4}]}})"),
+              1);
     EXPECT_EQ(resultOf(R"({"do": "db", "op": "add", "table": "LCOM", "record": {"kind": 2, "name": "A"}})"), 1);
     EXPECT_EQ(resultOf(R"({"do": "db", "op": "count", "table": "LCOM"})"), 2);
     EXPECT_EQ(resultOf(R"({"do": "db", "op": "count", "table": "LCOM", "kind": 3})"), 1);
@@ -139,8 +140,7 @@ TEST_F(ModelCommands, WhatCantBeCarriedOutSaysWhy)
     EXPECT_EQ(errorOf(R"({"do": "db", "op": "get", "table": "STLD"})"), "key: one of key and name is needed");
     EXPECT_EQ(errorOf(R"({"do": "db", "op": "get", "table": "STLD", "key": 1, "name": "DL"})"), "key: one of key and name is needed");
     EXPECT_EQ(errorOf(R"({"do": "db", "op": "get", "table": "SPDI", "name": "DL"})"), "name: records of SPDI have no name; address them by key");
-    EXPECT_EQ(errorOf(R"({"do": "db", "op": "add", "table": "STLD", "record": {"nam": "X"}})"),
-              "record.nam: there is no such field; did you mean \"name\"?");
+    EXPECT_EQ(errorOf(R"({"do": "db", "op": "add", "table": "STLD", "record": {"nam": "X"}})"), "record.nam: there is no such field; did you mean \"name\"?");
     EXPECT_EQ(errorOf(R"({"do": "db", "op": "delete", "table": "STLD"})"), "key: one of key, name, keys and names is needed");
     EXPECT_EQ(errorOf(R"({"do": "db", "op": "delete", "table": "STLD", "keys": [1, 0]})"), "keys[1]: must be a whole number from 1 to 4294967295");
     EXPECT_EQ(names(), "DL LL WX ");

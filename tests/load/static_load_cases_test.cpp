@@ -62,7 +62,7 @@ protected:
         return cases.currentRecord;
     }
 
-    static constexpr int dead = 1;    // places in the Type list
+    static constexpr int dead = 1;  // places in the Type list
     static constexpr int live = 2;
 };
 
@@ -80,8 +80,8 @@ TEST_F(StaticLoadCases, OpensWithNoSubLoadCasesAndTheirFieldsDisabled)
     EXPECT_FALSE(form.enabled("Combination Type :"));
     EXPECT_FALSE(form.enabled("Major Case :"));
     EXPECT_EQ(form.at<CComboBox>("Combination Type :").selectedData(), 2U);
-    EXPECT_THAT(form.items("Combination Type :"), ElementsAre(shown("IDS_CMD_STLD_ADD"), shown("IDS_CMD_STLD_SRSS_ABS"),
-                                                              shown("IDS_CMD_STLD_SRSS_MAX"), shown("IDS_CMD_STLD_SRSS_MAJOR")));
+    EXPECT_THAT(form.items("Combination Type :"),
+                ElementsAre(shown("IDS_CMD_STLD_ADD"), shown("IDS_CMD_STLD_SRSS_ABS"), shown("IDS_CMD_STLD_SRSS_MAX"), shown("IDS_CMD_STLD_SRSS_MAJOR")));
     EXPECT_THAT(form.items("Major Case :"), IsEmpty());
     EXPECT_EQ(form.text("Description :"), "");
 }
@@ -560,7 +560,7 @@ TEST_F(StaticLoadCaseOrder, ADropWhileARowIsUnderEditIsRefused)
 {
     const Form form = open();
     CTBBrowserWndEx& grid = gridOf(form);
-    grid.SetModeDisplayOnly(0);    // the list takes no input by itself
+    grid.SetModeDisplayOnly(0);  // the list takes no input by itself
     ASSERT_TRUE(grid.openCell(0, 2).ok());
     drag(form, {0}, 3);
     EXPECT_THAT(boxes(), ElementsAre("IDS_ZEL_CMD__Error___Can_t_move_row_while_editing_"));
@@ -710,7 +710,7 @@ TEST_F(StaticLoadCaseRows, RowsAreWrittenAsAWhole)
         ASSERT_TRUE(grid.MakeKeyAndDataArray({"", "", name, "Live Load (L)", "0", ""}, columns, keys, records));
     EXPECT_TRUE(grid.AddToDB(keys, records));
     EXPECT_THAT(names(form), ElementsAre("DL", "LL", "SL"));
-    EXPECT_FALSE(grid.AddToDB(keys, records));    // the names are in use
+    EXPECT_FALSE(grid.AddToDB(keys, records));  // the names are in use
     EXPECT_THAT(storedNames(), ElementsAre("DL", "LL", "SL"));
     grid.DeleteKeyAndDataArray(keys, records);
     EXPECT_TRUE(keys.empty() && records.empty());

@@ -127,17 +127,15 @@ TEST_F(UndergroundSets, ACaseThatIsNoEarthquakeButSeismicByItsTypeEnablesTheUppe
 TEST_F(UndergroundSets, OneEarthquakeCaseIsProposedInBothDirections)
 {
     addCase("EX", "E");
-    open([this](const Form& form) {
-        EXPECT_THAT(gridRows(form), ElementsAre(Texts{"1", "EX", plusText}, Texts{"2", "EX", minusText}));
-    });
+    open([this](const Form& form) { EXPECT_THAT(gridRows(form), ElementsAre(Texts{"1", "EX", plusText}, Texts{"2", "EX", minusText})); });
 }
 
 TEST_F(UndergroundSets, OfThreeEarthquakeCasesTheFirstTwoAreProposed)
 {
     addCases();
     open([this](const Form& form) {
-        EXPECT_THAT(gridRows(form), ElementsAre(Texts{"1", "EX", plusText}, Texts{"2", "EX", minusText}, Texts{"3", "EY", plusText},
-                                                Texts{"4", "EY", minusText}));
+        EXPECT_THAT(gridRows(form),
+                    ElementsAre(Texts{"1", "EX", plusText}, Texts{"2", "EX", minusText}, Texts{"3", "EY", plusText}, Texts{"4", "EY", minusText}));
     });
 }
 
@@ -423,8 +421,7 @@ TEST_F(UndergroundSets, ARowThatRepeatsACaseInItsDirectionIsRefusedAndNamesBoth)
     open([this](const Form& form) {
         type(form, 1, 2, plusText);
         leaveRow(form);
-        EXPECT_EQ(gridOf(form).GetShownWarning(),
-                  "[IDS_CMD_ERR_SAME_LC_SAME_DIR]Error : Load case EX with direction " + plusText + " already exists.");
+        EXPECT_EQ(gridOf(form).GetShownWarning(), "[IDS_CMD_ERR_SAME_LC_SAME_DIR]Error : Load case EX with direction " + plusText + " already exists.");
         EXPECT_TRUE(gridOf(form).IsEdit());
         form.press("OK");
         EXPECT_FALSE(form.dialog().hasEnded());

@@ -27,10 +27,7 @@ protected:
         wtx = addCase("WTX", "WT");
     }
 
-    static void store(const std::vector<T_LCWD_BASE>& sets, int torsionDirection = 0)
-    {
-        ASSERT_NE(CDataLcwd().Add(T_LCWD_D{0, torsionDirection, sets}), 0);
-    }
+    static void store(const std::vector<T_LCWD_BASE>& sets, int torsionDirection = 0) { ASSERT_NE(CDataLcwd().Add(T_LCWD_D{0, torsionDirection, sets}), 0); }
 
     static T_LCWD_D stored()
     {
@@ -91,9 +88,8 @@ TEST_F(WindSets, WithOneAlongCaseItIsTheOneThatIsOffered)
 TEST_F(WindSets, ColumnsBearTheirTitlesAndWidths)
 {
     open([](const Form& form) {
-        const char* keys[] = {"IDS_ZEL_CMD_Orthgonal_Effect_Group_No",  "IDS_ZEL_CMD_WIND_DIRECTION_ALONG",
-                              "IDS_ZEL_CMD_WIND_DIRECTION_ACROSS",      "IDS_ZEL_CMD_WIND_DIRECTION_TORSION",
-                              "IDS_ZEL_CMD_WIND_DIRECTION_FACTOR_GD",   "IDS_ZEL_CMD_WIND_DIRECTION_FACTOR_K"};
+        const char* keys[] = {"IDS_ZEL_CMD_Orthgonal_Effect_Group_No", "IDS_ZEL_CMD_WIND_DIRECTION_ALONG",     "IDS_ZEL_CMD_WIND_DIRECTION_ACROSS",
+                              "IDS_ZEL_CMD_WIND_DIRECTION_TORSION",    "IDS_ZEL_CMD_WIND_DIRECTION_FACTOR_GD", "IDS_ZEL_CMD_WIND_DIRECTION_FACTOR_K"};
         const int widths[] = {70, 60, 60, 60, 40, 40};
         const auto& columns = form.at<CListCtrl>("list").columns();
         ASSERT_EQ(columns.size(), 6U);
@@ -101,9 +97,9 @@ TEST_F(WindSets, ColumnsBearTheirTitlesAndWidths)
             EXPECT_EQ(columns[i].title, shown(keys[i]));
             EXPECT_EQ(columns[i].width, widths[i]);
         }
-        EXPECT_THAT(form.items("Torsion Wind Direction :"),
-                    ElementsAre(shown("IDS_ZEL_CMD_WIND_DIRECTION_PLUS_MINUS"), shown("IDS_ZEL_CMD_WIND_DIRECTION_PLUS"),
-                                shown("IDS_ZEL_CMD_WIND_DIRECTION_MINUS")));
+        EXPECT_THAT(
+            form.items("Torsion Wind Direction :"),
+            ElementsAre(shown("IDS_ZEL_CMD_WIND_DIRECTION_PLUS_MINUS"), shown("IDS_ZEL_CMD_WIND_DIRECTION_PLUS"), shown("IDS_ZEL_CMD_WIND_DIRECTION_MINUS")));
     });
 }
 
@@ -112,8 +108,9 @@ TEST_F(WindSets, ARowShowsItsNumberCasesAndFactorsAndDashesInALowBuilding)
     addWindCases();
     store({set(wx, wax, wtx), set(wy, 0, 0, lowRise), set(wy, 99, 0)}, 2);
     open([this](const Form& form) {
-        EXPECT_THAT(form.rows(), ElementsAre(Texts{"1", "WX", "WAX", "WTX", "2.2", "0.8"}, Texts{"2", "WY", none, "-", "-", "-"},
-                                             Texts{"3", "WY", none, none, "2.2", "0.8"}));
+        EXPECT_THAT(
+            form.rows(),
+            ElementsAre(Texts{"1", "WX", "WAX", "WTX", "2.2", "0.8"}, Texts{"2", "WY", none, "-", "-", "-"}, Texts{"3", "WY", none, none, "2.2", "0.8"}));
         EXPECT_THAT(form.selected(), ElementsAre(0));
         EXPECT_EQ(form.chosen("Torsion Wind Direction :"), 2);
     });
@@ -173,14 +170,13 @@ TEST_F(WindSets, FactorsMustLieInTheirRangesWhateverTheBuilding)
     struct Case {
         const char* gd;
         const char* k;
-        const char* key;    ///< of the message; null: taken
+        const char* key;  ///< of the message; null: taken
     };
     constexpr const char* badGd = "IDS_ZEL_CMD_ERROR_CHK_WIND_LOAD_DIRECTION_GD";
     constexpr const char* badK = "IDS_ZEL_CMD_ERROR_CHK_WIND_LOAD_DIRECTION_K";
     const Case cases[] = {
-        {"0", "0.8", badGd},     {"-1", "0.8", badGd},   {"abc", "0.8", badGd}, {"0", "0.9", badGd},
-        {"2.2", "0.801", badK},  {"2.2", "0.549", badK}, {"2.2", "", badK},
-        {"2.2", "0.8", nullptr}, {"2.2", "0.55", nullptr},
+        {"0", "0.8", badGd},    {"-1", "0.8", badGd}, {"abc", "0.8", badGd},   {"0", "0.9", badGd},      {"2.2", "0.801", badK},
+        {"2.2", "0.549", badK}, {"2.2", "", badK},    {"2.2", "0.8", nullptr}, {"2.2", "0.55", nullptr},
     };
     open([&](const Form& form) {
         for (const char* building : {"High Rise Building", "Middle Low Rise Building"}) {

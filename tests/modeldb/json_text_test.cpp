@@ -78,7 +78,7 @@ TEST(JsonText, ReadsAnObjectOfManyMembersInOneGo)
     std::string text = "{";
     for (int i = 0; i < 200000; ++i)
         text += (i > 0 ? ",\"" : "\"") + std::to_string(i) + "\":0";
-    EXPECT_EQ(zel::parseJson(text + "}").size(), 200000U);    // a search per member would take minutes
+    EXPECT_EQ(zel::parseJson(text + "}").size(), 200000U);  // a search per member would take minutes
 }
 
 }  // namespace

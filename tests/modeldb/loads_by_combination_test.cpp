@@ -25,7 +25,10 @@ protected:
             records.push_back(*static_cast<const Record*>(model->table(table).find(0, key).get()));
         return records;
     }
-    int make(const T_LOAD_ATTR& attributes, bool deleteOwn = false) { return CDataLcom().MakeLoadsByCombination(combination, 3, attributes, deleteOwn ? 1 : 0); }
+    int make(const T_LOAD_ATTR& attributes, bool deleteOwn = false)
+    {
+        return CDataLcom().MakeLoadsByCombination(combination, 3, attributes, deleteOwn ? 1 : 0);
+    }
 
     T_LCOM_D combination;
 };
@@ -137,7 +140,7 @@ TEST_F(LoadsByCombination, MakeANewTypeOfEachAssignedTypeThatHoldsACase)
     type.includeWeight2 = 1;
     add(Table::ARLD, type);
     type.name = "FLOOR-1";
-    add(Table::ARLD, type);    // not assigned
+    add(Table::ARLD, type);  // not assigned
     add(Table::ARLA, T_ARLA_D{20, 1});
     add(Table::ARLA, T_ARLA_D{21, 1});
     ASSERT_NE(make({.areaLoad = 1}), 0);

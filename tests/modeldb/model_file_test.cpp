@@ -27,8 +27,7 @@ protected:
         const std::string before = there ? contentsOf(file) : "";
         try {
             ModelDocument::open(file);
-        }
-        catch (const FileRefusal& refusal) {
+        } catch (const FileRefusal& refusal) {
             if (sentence != nullptr)
                 *sentence = refusal.what();
             EXPECT_NE(std::string(refusal.what()).find(file.string()), std::string::npos) << refusal.what();
@@ -111,11 +110,20 @@ void fill(const FlatLayout& layout, void* record, int& next)
     for (const FlatColumn& column : layout.columns) {
         ++next;
         switch (column.type) {
-        case FieldType::int32: column.in<std::int32_t>(record) = next; break;
-        case FieldType::uint32: column.in<std::uint32_t>(record) = static_cast<std::uint32_t>(next); break;
-        case FieldType::real: column.in<double>(record) = next + 0.125; break;
-        case FieldType::text: column.in<CString>(record) = "text " + std::to_string(next); break;
-        case FieldType::record: break;
+        case FieldType::int32:
+            column.in<std::int32_t>(record) = next;
+            break;
+        case FieldType::uint32:
+            column.in<std::uint32_t>(record) = static_cast<std::uint32_t>(next);
+            break;
+        case FieldType::real:
+            column.in<double>(record) = next + 0.125;
+            break;
+        case FieldType::text:
+            column.in<CString>(record) = "text " + std::to_string(next);
+            break;
+        case FieldType::record:
+            break;
         }
     }
     for (const FlatList& list : layout.lists) {
@@ -183,7 +191,7 @@ TEST_F(ModelFiles, EachActionIsInTheFileWhenItReturns)
 {
     const auto model = ModelDocument::create(path);
     CDataStld().Add(loadCase("DL"));
-    const std::filesystem::path copy = folder / "crashed.qvx";    // what a crash at this moment would leave
+    const std::filesystem::path copy = folder / "crashed.qvx";  // what a crash at this moment would leave
     std::filesystem::copy_file(path, copy);
     std::filesystem::copy_file(path.string() + "-wal", copy.string() + "-wal");
     const auto reopened = ModelDocument::open(copy);
@@ -347,8 +355,7 @@ TEST_F(ModelFiles, AFlippedBitIsReportedOrHarmless)
         writeFile(copy, flipped);
         try {
             EXPECT_EQ(everything(*ModelDocument::open(copy)), stored) << "bit " << bit;
-        }
-        catch (const FileRefusal&) {
+        } catch (const FileRefusal&) {
             ++reported;
             EXPECT_EQ(contentsOf(copy), flipped) << "bit " << bit;
         }
@@ -387,7 +394,7 @@ TEST_F(ModelFiles, AnotherFileIsReadInTheUnitsOfTheOpenModelWithoutBeingTouched)
         T_LNLD_D type;
         type.name = "wall";
         type.loadCase1 = 1;
-        type.load1 = 5.0;    // kN/m
+        type.load1 = 5.0;  // kN/m
         CDataStld().Add(loadCase("DL"));
         CDataLnld().Add(type);
     }
@@ -399,7 +406,7 @@ TEST_F(ModelFiles, AnotherFileIsReadInTheUnitsOfTheOpenModelWithoutBeingTouched)
     std::vector<T_LNLD_D> types;
     ASSERT_NE(file.GetLnldList(keys, types), 0);
     EXPECT_EQ(keys, (std::vector<Key>{1}));
-    EXPECT_DOUBLE_EQ(types.at(0).load1, 5.0);    // N/mm
+    EXPECT_DOUBLE_EQ(types.at(0).load1, 5.0);  // N/mm
     std::vector<T_STLD_D> cases;
     ASSERT_NE(file.GetStldList(keys, cases), 0);
     EXPECT_EQ(cases.at(0).name, "DL");

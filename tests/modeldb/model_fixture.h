@@ -47,7 +47,10 @@ inline std::string contentsOf(const std::filesystem::path& file)
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
-inline void writeFile(const std::filesystem::path& file, const std::string& contents) { std::ofstream(file, std::ios::binary) << contents; }
+inline void writeFile(const std::filesystem::path& file, const std::string& contents)
+{
+    std::ofstream(file, std::ios::binary) << contents;
+}
 
 inline T_STLD_D loadCase(const char* name, const char* type = "D")
 {

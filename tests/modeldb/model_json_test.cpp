@@ -32,7 +32,10 @@ std::unique_ptr<ModelDocument> loaded(const std::string& text)
     return document;
 }
 
-std::string model(const std::string& tables) { return R"({"format": "zel-model", "version": 1, )" + tables + "}"; }
+std::string model(const std::string& tables)
+{
+    return R"({"format": "zel-model", "version": 1, )" + tables + "}";
+}
 
 std::string faultOf(const std::string& text)
 {
@@ -49,7 +52,8 @@ TEST(ModelJson, AnEmptyModelIsItsHeadAndEmptyLists)
     const std::unique_ptr<ModelDocument> document = ModelDocument::inMemory({T_UNIT_INDEX::M, T_UNIT_INDEX::TON});
     EXPECT_NE(printed(*document).find(",\n \"STLD\": [],\n \"LCOM\": []"), std::string::npos);
     EXPECT_EQ(printed(*document).find("LCWD"), std::string::npos) << "one record that was never written";
-    EXPECT_EQ(zel::test::withoutEmptyTables(printed(*document)), "{\"format\": \"zel-model\", \"version\": 1, \"units\": {\"length\": \"M\", \"force\": \"TON\"}}\n");
+    EXPECT_EQ(zel::test::withoutEmptyTables(printed(*document)),
+              "{\"format\": \"zel-model\", \"version\": 1, \"units\": {\"length\": \"M\", \"force\": \"TON\"}}\n");
 }
 
 TEST(ModelJson, RecordsStandInSequenceUnderTheirFieldNames)
@@ -119,15 +123,18 @@ TEST(ModelJson, AMissingFieldTakesItsDefaultInTheModelsUnits)
     const std::unique_ptr<ModelDocument> document = loaded(model(R"("units": {"length": "M"}, "MCTL": {})"));
     CDataMctl control;
     ASSERT_TRUE(control.Get());
-    EXPECT_DOUBLE_EQ(control.currentRecord.maxMeshDimension, 1.0);    // one metre
+    EXPECT_DOUBLE_EQ(control.currentRecord.maxMeshDimension, 1.0);  // one metre
 }
 
 struct FaultyModel {
     const char* what;
     const char* tables;
-    const char* fault;    // how the sentence begins
+    const char* fault;  // how the sentence begins
 };
-void PrintTo(const FaultyModel& row, std::ostream* out) { *out << row.what; }
+void PrintTo(const FaultyModel& row, std::ostream* out)
+{
+    *out << row.what;
+}
 
 const FaultyModel faultyModels[] = {
     {"UnknownTable", R"("STLDD": [])", R"(STLDD: there is no such table; did you mean "STLD"?)"},
@@ -176,7 +183,8 @@ TEST(ModelJson, TellsWhatIsNoModelAndWhatIsTooNew)
 TEST(ModelJson, NamesOfDifferentKindsAreASpaceOfTheirOwn)
 {
     EXPECT_EQ(faultOf(model(R"("LCOM": [{"kind": 1, "name": "A", "key": 1}, {"kind": 2, "name": "A", "key": 1}])")), "none");
-    EXPECT_TRUE(faultOf(model(R"("LCOM": [{"kind": 2, "name": "A"}, {"kind": 1, "name": "A"}, {"kind": 2, "name": "a"}])")).starts_with("LCOM[2].name: \"a\" stands already at LCOM[0]"));
+    EXPECT_TRUE(faultOf(model(R"("LCOM": [{"kind": 2, "name": "A"}, {"kind": 1, "name": "A"}, {"kind": 2, "name": "a"}])"))
+                    .starts_with("LCOM[2].name: \"a\" stands already at LCOM[0]"));
 }
 
 TEST(ModelJson, EveryTableComesBackWithItsDefaults)
@@ -198,7 +206,8 @@ TEST(RecordJson, WhatIsLeftOutStaysAsInTheBase)
     base.name = "A";
     base.active = 0;
     base.items = {{1, 2, 1.5}, {1, 3, 0.5}};
-    const zel::JsonRecord read = zel::recordFromJson(zel::tableInfo(Table::LCOM), zel::parseJson(R"({"description": "x", "items": [{"key": 9}]})"), "record", &base);
+    const zel::JsonRecord read =
+        zel::recordFromJson(zel::tableInfo(Table::LCOM), zel::parseJson(R"({"description": "x", "items": [{"key": 9}]})"), "record", &base);
     const auto& made = *static_cast<const T_LCOM_D*>(read.record.get());
     EXPECT_EQ(made.name, "A");
     EXPECT_EQ(made.active, 0);

@@ -63,13 +63,27 @@ public:
         switch (pick(10)) {
         case 0:
         case 1:
-        case 2: add(); break;
-        case 3: modify(); break;
-        case 4: remove(); break;
-        case 5: reorder(); break;
-        case 6: EXPECT_EQ(m_model->Undo() != 0, m_reference.undo()); break;
-        case 7: EXPECT_EQ(m_model->Redo() != 0, m_reference.redo()); break;
-        case 8: rename(); break;
+        case 2:
+            add();
+            break;
+        case 3:
+            modify();
+            break;
+        case 4:
+            remove();
+            break;
+        case 5:
+            reorder();
+            break;
+        case 6:
+            EXPECT_EQ(m_model->Undo() != 0, m_reference.undo());
+            break;
+        case 7:
+            EXPECT_EQ(m_model->Redo() != 0, m_reference.redo());
+            break;
+        case 8:
+            rename();
+            break;
         default:
             if (pick(8) == 0)
                 reopen();
@@ -190,7 +204,7 @@ private:
                 next.insert(next.end(), moving.begin(), moving.end());
         }
         EXPECT_NE(CDataStld().ChangeSequence(keys, after), 0);
-        if (next != m_reference.state)    // an order that stays is no change
+        if (next != m_reference.state)  // an order that stays is no change
             m_reference.change(std::move(next));
     }
 

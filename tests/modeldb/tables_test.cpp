@@ -157,7 +157,7 @@ TEST_F(Tables, ANameHasAtMost80Characters)
     EXPECT_EQ(host.keys(), (Names{"IDS_DB_REFUSE_NAME_TOO_LONG"}));
     std::string korean;
     for (int i = 0; i < 80; ++i)
-        korean += "하";    // three bytes each
+        korean += "하";  // three bytes each
     EXPECT_NE(cases.Add(loadCase(korean.c_str())), 0);
 }
 
@@ -314,7 +314,9 @@ TEST_F(Tables, ALoadCaseInUseCantBeDeletedAndTheRefusalNamesThreeUsersAndCountsT
     }
     EXPECT_EQ(cases.Del(CString("DL")), 0);
     ASSERT_EQ(host.boxes.size(), 1U);
-    EXPECT_EQ(host.boxes[0].text, "It can't be deleted or given another key, as it is used by load combination \"C1\", load combination \"C2\", load combination \"C3\" and 2 more.");
+    EXPECT_EQ(
+        host.boxes[0].text,
+        "It can't be deleted or given another key, as it is used by load combination \"C1\", load combination \"C2\", load combination \"C3\" and 2 more.");
     EXPECT_EQ(cases.Del(Names{"LL", "DL"}), 0) << "all or nothing";
     EXPECT_EQ(cases.GetCount(), 2);
     EXPECT_NE(cases.Del(CString("LL")), 0);
@@ -350,7 +352,10 @@ struct Use {
     Table user;
     const char* field;
 };
-void PrintTo(const Use& use, std::ostream* out) { *out << tableInfo(use.target).code << " in " << tableInfo(use.user).code << "." << use.field; }
+void PrintTo(const Use& use, std::ostream* out)
+{
+    *out << tableInfo(use.target).code << " in " << tableInfo(use.user).code << "." << use.field;
+}
 
 class RecordsInUse : public InMemoryModel, public testing::WithParamInterface<Use> {};
 
@@ -382,18 +387,15 @@ TEST_P(RecordsInUse, AreNotDeleted)
     EXPECT_NE(target.remove(0, {7}), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(References, RecordsInUse,
-                         testing::Values(Use{Table::STLD, Table::LNLD, "loadCase1"}, Use{Table::STLD, Table::LNLD, "loadCase2"},
-                                         Use{Table::STLD, Table::LNLD, "loadCase3"}, Use{Table::STLD, Table::ARLD, "loadCase1"},
-                                         Use{Table::STLD, Table::ARLD, "loadCase2"}, Use{Table::STLD, Table::ARLD, "loadCase3"},
-                                         Use{Table::STLD, Table::PTLA, "loadCaseKey"}, Use{Table::STLD, Table::SPDP, "loadCaseKey"},
-                                         Use{Table::STLD, Table::SPDI, "loadCaseKey"}, Use{Table::LNLD, Table::LNLA, "typeKey"},
-                                         Use{Table::ARLD, Table::ARLA, "typeKey"}, Use{Table::MATL, Table::BEAM, "materialKey"},
-                                         Use{Table::MATL, Table::SLAB, "materialKey"}, Use{Table::SECT, Table::BEAM, "sectionKey"},
-                                         Use{Table::SECT, Table::SECF, ""}, Use{Table::THIK, Table::SLAB, "thicknessKey"},
-                                         Use{Table::THIK, Table::THKF, ""}, Use{Table::COSD, Table::COSA, "typeKey"},
-                                         Use{Table::PISD, Table::PISA, "typeKey"}, Use{Table::WASD, Table::WASA, "typeKey"},
-                                         Use{Table::SOSD, Table::SOSA, "typeKey"}));
+INSTANTIATE_TEST_SUITE_P(
+    References, RecordsInUse,
+    testing::Values(Use{Table::STLD, Table::LNLD, "loadCase1"}, Use{Table::STLD, Table::LNLD, "loadCase2"}, Use{Table::STLD, Table::LNLD, "loadCase3"},
+                    Use{Table::STLD, Table::ARLD, "loadCase1"}, Use{Table::STLD, Table::ARLD, "loadCase2"}, Use{Table::STLD, Table::ARLD, "loadCase3"},
+                    Use{Table::STLD, Table::PTLA, "loadCaseKey"}, Use{Table::STLD, Table::SPDP, "loadCaseKey"}, Use{Table::STLD, Table::SPDI, "loadCaseKey"},
+                    Use{Table::LNLD, Table::LNLA, "typeKey"}, Use{Table::ARLD, Table::ARLA, "typeKey"}, Use{Table::MATL, Table::BEAM, "materialKey"},
+                    Use{Table::MATL, Table::SLAB, "materialKey"}, Use{Table::SECT, Table::BEAM, "sectionKey"}, Use{Table::SECT, Table::SECF, ""},
+                    Use{Table::THIK, Table::SLAB, "thicknessKey"}, Use{Table::THIK, Table::THKF, ""}, Use{Table::COSD, Table::COSA, "typeKey"},
+                    Use{Table::PISD, Table::PISA, "typeKey"}, Use{Table::WASD, Table::WASA, "typeKey"}, Use{Table::SOSD, Table::SOSA, "typeKey"}));
 
 TEST_F(Tables, TheLoadsToMassesRecordKeepsItsLoadCases)
 {
@@ -408,9 +410,21 @@ TEST_F(Tables, TheLoadsToMassesRecordKeepsItsLoadCases)
 
 // ---- what a handle offers ----
 
-template <class Handle> concept DeletesByKey = requires(Handle handle) { handle.Del(Key{1}); };
-template <class Handle> concept Reorders = requires(Handle handle) { handle.ChangeSequence({}, 0); };
-template <class Handle> concept AddsCurrent = requires(Handle handle) { handle.Add(); };
+template <class Handle>
+concept DeletesByKey = requires(Handle handle)
+{
+    handle.Del(Key{1});
+};
+template <class Handle>
+concept Reorders = requires(Handle handle)
+{
+    handle.ChangeSequence({}, 0);
+};
+template <class Handle>
+concept AddsCurrent = requires(Handle handle)
+{
+    handle.Add();
+};
 
 TEST(TableHandles, OfferTheirOwnOperationsAndNoOthers)
 {

@@ -23,17 +23,44 @@ std::string shown(double value)
 
 struct TypeText {
     int type;
-    const char* text;    // in millimetres and newtons
+    const char* text;  // in millimetres and newtons
 };
-void PrintTo(const TypeText& row, std::ostream* out) { *out << "unit type " << row.type; }
+void PrintTo(const TypeText& row, std::ostream* out)
+{
+    *out << "unit type " << row.type;
+}
 
 constexpr std::array typeTexts{
-    TypeText{0, ""},           TypeText{1, "mm"},          TypeText{2, "N"},           TypeText{3, "mm^2"},         TypeText{4, "mm^3"},
-    TypeText{5, "mm^4"},       TypeText{6, "N/mm^2"},      TypeText{7, "N/mm"},        TypeText{8, "N/mm^2"},       TypeText{9, "N/mm^3"},
-    TypeText{10, "N/mm^3"},    TypeText{11, "mm/sec^2"},   TypeText{12, "N*mm"},       TypeText{13, "N/mm"},        TypeText{14, "N*mm/[rad]"},
-    TypeText{15, "N/mm/mm"},   TypeText{16, "N*mm/[rad]/mm"}, TypeText{17, "N/[rad]"}, TypeText{18, "[deg]"},       TypeText{19, "[rad]"},
-    TypeText{20, "sec"},       TypeText{21, "[cps]"},      TypeText{22, "1/[C]"},      TypeText{23, "[C]"},         TypeText{24, "N*sec^2/mm"},
-    TypeText{25, "N*sec^2/mm^2"}, TypeText{26, "N*sec^2/mm^3"}, TypeText{27, "N*sec^2/mm^4"}, TypeText{28, "mm/sec"}, TypeText{29, "N/sec"},
+    TypeText{0, ""},
+    TypeText{1, "mm"},
+    TypeText{2, "N"},
+    TypeText{3, "mm^2"},
+    TypeText{4, "mm^3"},
+    TypeText{5, "mm^4"},
+    TypeText{6, "N/mm^2"},
+    TypeText{7, "N/mm"},
+    TypeText{8, "N/mm^2"},
+    TypeText{9, "N/mm^3"},
+    TypeText{10, "N/mm^3"},
+    TypeText{11, "mm/sec^2"},
+    TypeText{12, "N*mm"},
+    TypeText{13, "N/mm"},
+    TypeText{14, "N*mm/[rad]"},
+    TypeText{15, "N/mm/mm"},
+    TypeText{16, "N*mm/[rad]/mm"},
+    TypeText{17, "N/[rad]"},
+    TypeText{18, "[deg]"},
+    TypeText{19, "[rad]"},
+    TypeText{20, "sec"},
+    TypeText{21, "[cps]"},
+    TypeText{22, "1/[C]"},
+    TypeText{23, "[C]"},
+    TypeText{24, "N*sec^2/mm"},
+    TypeText{25, "N*sec^2/mm^2"},
+    TypeText{26, "N*sec^2/mm^3"},
+    TypeText{27, "N*sec^2/mm^4"},
+    TypeText{28, "mm/sec"},
+    TypeText{29, "N/sec"},
     TypeText{30, "N*mm/sec"},
 };
 
@@ -59,13 +86,13 @@ TEST(UnitTypes, HaveTheSizesOfTheirQuantities)
 
 TEST(UnitTypes, ValuesConvertedThereAndBackShowTheSame15Digits)
 {
-    std::mt19937 random(7);    // any start: the property holds for all
+    std::mt19937 random(7);  // any start: the property holds for all
     std::uniform_real_distribution<double> mantissa(-10.0, 10.0);
     for (int i = 0; i < 20000; ++i) {
         const int type = static_cast<int>(random() % Unit::count);
         const T_UNIT_INDEX from{static_cast<int>(random() % lengthUnitCount), static_cast<int>(random() % forceUnitCount)};
         const T_UNIT_INDEX to{static_cast<int>(random() % lengthUnitCount), static_cast<int>(random() % forceUnitCount)};
-        const double value = std::strtod(shown(mantissa(random)).c_str(), nullptr);    // as a person types it
+        const double value = std::strtod(shown(mantissa(random)).c_str(), nullptr);  // as a person types it
         UnitCtrl units(from, nullptr);
         units.moveTo(to);
         const double there = units.ConvertUnitDataPrevious(type, value);
@@ -112,7 +139,7 @@ TEST_F(UnitSystem, ACurveIsConvertedByItsDataType)
         function.points.push_back({0.5, 2000.0});
         functions.Add(function);
     }
-    model->GetUnitCtrl()->SetUnitIndexCurrent({T_UNIT_INDEX::M, T_UNIT_INDEX::N}, 1);    // from mm, kN
+    model->GetUnitCtrl()->SetUnitIndexCurrent({T_UNIT_INDEX::M, T_UNIT_INDEX::N}, 1);  // from mm, kN
     const auto valueOf = [&](const char* name) {
         functions.Get(name);
         EXPECT_DOUBLE_EQ(functions.currentRecord.points[0].time, 0.5);

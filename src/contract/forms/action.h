@@ -18,24 +18,28 @@ template <class... Arguments> class Action {
 public:
     Action() = default;
 
-    template <class Dialog, class Result>
-    Action(Result (Dialog::*handler)(Arguments...))    // NOLINT: implicit, so that a declaration reads well
+    template <class Dialog, class Result> Action(Result (Dialog::*handler)(Arguments...))  // NOLINT: implicit, so that a declaration reads well
         : m_call([handler](CDialog& dialog, Arguments... arguments) { (void)(static_cast<Dialog&>(dialog).*handler)(arguments...); })
     {
     }
 
     template <class Callable>
-        requires std::invocable<Callable&, Arguments...> && (!std::same_as<std::remove_cvref_t<Callable>, Action>)
-    Action(Callable handler)    // NOLINT: as above
-        : m_call([handler = std::move(handler)](CDialog&, Arguments... arguments) mutable { (void)handler(arguments...); })
-    {
-    }
+        requires std::invocable<Callable&, Arguments...> &&(!std::same_as<std::remove_cvref_t<Callable>, Action>)Action(Callable handler)  // NOLINT: as above
+            : m_call([handler = std::move(handler)](CDialog&, Arguments... arguments) mutable { (void)handler(arguments...); })
+        {
+        }
 
-    explicit operator bool() const { return static_cast<bool>(m_call); }
-    void operator()(CDialog& dialog, Arguments... arguments) const { m_call(dialog, arguments...); }
+        explicit operator bool() const
+        {
+            return static_cast<bool>(m_call);
+        }
+        void operator()(CDialog& dialog, Arguments... arguments) const
+        {
+            m_call(dialog, arguments...);
+        }
 
-private:
-    std::function<void(CDialog&, Arguments...)> m_call;
+    private:
+        std::function<void(CDialog&, Arguments...)> m_call;
 };
 
 }  // namespace zel

@@ -20,9 +20,9 @@ class IFieldWriter;
 /// Where a control stands: in a dialog, and there perhaps in a group and in a row. A control is declared with its dialog,
 /// its group or its row in the first place.
 struct Place {
-    Place(CDialog& owner) : dialog(&owner) {}    // NOLINT: implicit, so that `CEdit name{*this, ...}` reads well
-    Place(CGroup& group);                        // NOLINT
-    Place(CRow& row);                            // NOLINT
+    Place(CDialog& owner) : dialog(&owner) {}  // NOLINT: implicit, so that `CEdit name{*this, ...}` reads well
+    Place(CGroup& group);                      // NOLINT
+    Place(CRow& row);                          // NOLINT
 
     CDialog* dialog = nullptr;
     CGroup* group = nullptr;
@@ -37,7 +37,7 @@ const char* kindName(Kind kind);
 
 /// Whether a control took what the user did; if not, the sentence that says why. A refusal changes nothing.
 struct [[nodiscard]] Taken {
-    CString refusal;    ///< empty when it was taken
+    CString refusal;  ///< empty when it was taken
 
     [[nodiscard]] bool ok() const { return refusal.empty(); }
     explicit operator bool() const { return ok(); }

@@ -20,7 +20,7 @@ public:
     int Create(unsigned id, unsigned templateId, CWnd* parent);
     [[nodiscard]] unsigned dialogId() const { return m_id; }
 
-    CDBDoc* m_pDoc = nullptr;    ///< the document; set by who opens the dialog, else by the constructor
+    CDBDoc* m_pDoc = nullptr;  ///< the document; set by who opens the dialog, else by the constructor
 
 protected:
     void OnOK() override;

@@ -145,7 +145,7 @@ private:
     State m_state = State::closed;
     bool m_modal = false;
     bool m_appeared = false;
-    bool m_fresh = false;    ///< its first SetActiveWindow belongs to its opening
+    bool m_fresh = false;  ///< its first SetActiveWindow belongs to its opening
     std::optional<int> m_endCode;
 };
 
@@ -164,7 +164,7 @@ public:
     using CInternationalDlg::CInternationalDlg;
 
     struct InitPos {
-        int mode = 0;    ///< 0 the host's choice, 1 beside the parent, 2 at x, y
+        int mode = 0;  ///< 0 the host's choice, 1 beside the parent, 2 at x, y
         int x = 0;
         int y = 0;
     };

@@ -43,9 +43,9 @@ private:
     void convert();
 
     int m_unitType;
-    double m_value = 0.0;       ///< the number that SetEditUnit was given
-    bool m_hasValue = false;    ///< whether the text is still that of m_value
-    T_UNIT_INDEX m_units;       ///< the unit system in which the text is to be read
+    double m_value = 0.0;     ///< the number that SetEditUnit was given
+    bool m_hasValue = false;  ///< whether the text is still that of m_value
+    T_UNIT_INDEX m_units;     ///< the unit system in which the text is to be read
 };
 
 /// A label that shows the current unit of its type, and follows a change of units by itself.

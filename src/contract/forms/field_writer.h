@@ -11,9 +11,9 @@ namespace zel {
 /// A column of a report list or a grid.
 struct ColumnView {
     CString title;
-    int width = 0;                   ///< [pixels]
+    int width = 0;  ///< [pixels]
     bool visible = true;
-    std::vector<CString> choices;    ///< where a cell offers a list
+    std::vector<CString> choices;  ///< where a cell offers a list
 };
 
 struct GraphPoint {
@@ -34,9 +34,9 @@ struct Shape {
     enum class Kind { polygon, ellipse };
 
     Kind kind = Kind::polygon;
-    std::vector<GraphPoint> points;    ///< corners; of an ellipse two opposite corners of the rectangle around it
+    std::vector<GraphPoint> points;  ///< corners; of an ellipse two opposite corners of the rectangle around it
     Colour pen;
-    std::optional<Colour> fill;        ///< none: the outline alone
+    std::optional<Colour> fill;  ///< none: the outline alone
     bool operator==(const Shape&) const = default;
 };
 
@@ -50,7 +50,7 @@ public:
 
     virtual void text(std::string_view name, const CString& value) = 0;
     virtual void flag(std::string_view name, bool value) = 0;
-    virtual void number(std::string_view name, std::optional<int> value) = 0;    ///< none is null
+    virtual void number(std::string_view name, std::optional<int> value) = 0;  ///< none is null
     virtual void numbers(std::string_view name, const std::vector<int>& values) = 0;
     virtual void keys(std::string_view name, const std::vector<unsigned>& values) = 0;
     virtual void texts(std::string_view name, const std::vector<CString>& values) = 0;

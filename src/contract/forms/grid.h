@@ -49,7 +49,7 @@ public:
     [[nodiscard]] int GetColIndex(int column) const;
     [[nodiscard]] const zel::GridColumn& GetColInfo(int index) const { return m_columns[static_cast<std::size_t>(index)]; }
     [[nodiscard]] const CString& GetColTitle(int index) const { return GetColInfo(index).title; }
-    [[nodiscard]] CArray<int> GetAllColumns() const;    ///< all indices, ascending
+    [[nodiscard]] CArray<int> GetAllColumns() const;  ///< all indices, ascending
 
     void SetColKind(int index, zel::GridKind kind);
     void SetColWidth(int index, int width);
@@ -140,7 +140,7 @@ public:
 
     /// Returns 0, with both left alone, if no cell is current.
     int GetCurrentCell(int& row, int& column) const;
-    [[nodiscard]] int GetCurrentRow() const { return m_currentRow; }    ///< 0 if no cell is current
+    [[nodiscard]] int GetCurrentRow() const { return m_currentRow; }  ///< 0 if no cell is current
     /// Returns 0, with the current cell left alone, if the cell will not take it.
     virtual int SetCurrentCell(int row, int column);
     void ResetCurrentCell();
@@ -163,16 +163,16 @@ public:
 
     // For hosts: places of the user's channel. -1 is no place.
 
-    [[nodiscard]] int toRow(int userRow) const;                          ///< the grid's row of a row in a journal; -1 outside
-    [[nodiscard]] int toUserRow(int row) const;                          ///< `append` for the append row
-    [[nodiscard]] int columnByTitle(std::string_view title) const;       ///< column from 0, by its header or its title
-    [[nodiscard]] CString shownText(int userRow, int column) const;      ///< what a host paints
+    [[nodiscard]] int toRow(int userRow) const;                      ///< the grid's row of a row in a journal; -1 outside
+    [[nodiscard]] int toUserRow(int row) const;                      ///< `append` for the append row
+    [[nodiscard]] int columnByTitle(std::string_view title) const;   ///< column from 0, by its header or its title
+    [[nodiscard]] CString shownText(int userRow, int column) const;  ///< what a host paints
     /// Has rows that are filled on demand filled now, those of a screenful at once.
     virtual void fillRows(int /*firstRow*/, int /*lastRow*/) {}
 
 protected:
     [[nodiscard]] zel::GridRowStore& rows() const { return *m_rows; }
-    [[nodiscard]] int columnOf(int index) const;    ///< number on screen; 0 if there is none
+    [[nodiscard]] int columnOf(int index) const;  ///< number on screen; 0 if there is none
     [[nodiscard]] bool hasIndex(int index) const { return index >= 0 && index < GetColCount(); }
     [[nodiscard]] bool isRowDrag() const { return m_rowDrag; }
     [[nodiscard]] bool isColDrag() const { return m_colDrag; }
@@ -221,11 +221,11 @@ private:
 
     std::vector<zel::GridColumn> m_columns;
     std::vector<Header> m_headers;
-    std::vector<int> m_order;    ///< indices in their order on screen
+    std::vector<int> m_order;  ///< indices in their order on screen
     std::unique_ptr<zel::GridRowStore> m_rows;
-    std::map<std::pair<int, int>, zel::GridCellStyle> m_styles;    ///< by row and index
-    mutable CArray<int> m_selected;           ///< as the rows say ...
-    mutable bool m_selectionStale = false;    ///< ... unless rows have come or gone since
+    std::map<std::pair<int, int>, zel::GridCellStyle> m_styles;  ///< by row and index
+    mutable CArray<int> m_selected;                              ///< as the rows say ...
+    mutable bool m_selectionStale = false;                       ///< ... unless rows have come or gone since
     int m_currentRow = 0;
     int m_currentIndex = -1;
     int m_rowHeaderWidth = 35;

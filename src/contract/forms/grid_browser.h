@@ -171,15 +171,15 @@ public:
 
 protected:
     struct RowEdit {
-        bool added = false;        ///< it is the append row
-        int row = 0;               ///< of a data row; 0 for the append row, and for a row that has gone while it was written
-        CArray<CString> texts;     ///< of all columns, what has been typed included
-        bool typed = false;        ///< something differs from the stored texts, or was typed into the append row
-        bool open = false;         ///< a cell is open ...
-        int index = -1;            ///< ... of this column
-        CString cell;              ///< ... with this text
-        bool cellTyped = false;    ///< something was typed into it
-        bool writing = false;      ///< AddToDB or ModifyToDB is running
+        bool added = false;      ///< it is the append row
+        int row = 0;             ///< of a data row; 0 for the append row, and for a row that has gone while it was written
+        CArray<CString> texts;   ///< of all columns, what has been typed included
+        bool typed = false;      ///< something differs from the stored texts, or was typed into the append row
+        bool open = false;       ///< a cell is open ...
+        int index = -1;          ///< ... of this column
+        CString cell;            ///< ... with this text
+        bool cellTyped = false;  ///< something was typed into it
+        bool writing = false;    ///< AddToDB or ModifyToDB is running
     };
 
     /// Leaves the cell and the row as needed to go elsewhere. False, with the warning shown, if they are refused.
@@ -250,9 +250,9 @@ private:
     void goDown();
 
     std::optional<RowEdit> m_edit;
-    CArray<int> m_tracked;     ///< rows that are followed on their way while the row under edit is written
-    bool m_rowsTouched = false;    ///< the grid of the program has changed rows since this was cleared
-    int m_toldRow = 0;         ///< row that OnCurrentRowChanged was last told of
+    CArray<int> m_tracked;       ///< rows that are followed on their way while the row under edit is written
+    bool m_rowsTouched = false;  ///< the grid of the program has changed rows since this was cleared
+    int m_toldRow = 0;           ///< row that OnCurrentRowChanged was last told of
     bool m_displayOnly = false;
     bool m_writeEachCell = false;
     bool m_onDemand = false;

@@ -14,7 +14,7 @@ public:
 
     struct Column {
         CString title;
-        int width = 0;    ///< [pixels]
+        int width = 0;  ///< [pixels]
         Align align = Align::left;
         bool visible = true;
     };
@@ -22,8 +22,7 @@ public:
     /// @param onSelect  the user has changed the selection
     CListCtrl(const zel::Place& place, std::string_view id, zel::Action<> onSelect = {}, Selection selection = Selection::single);
     /// With its columns: `CListCtrl list{*this, "list", {{"Load Case", 85}, {"Factor", 60}}, &CDgnGenSeisFactor::OnChangedCurrentItem};`
-    CListCtrl(const zel::Place& place, std::string_view id, std::vector<Column> columns, zel::Action<> onSelect = {},
-              Selection selection = Selection::single);
+    CListCtrl(const zel::Place& place, std::string_view id, std::vector<Column> columns, zel::Action<> onSelect = {}, Selection selection = Selection::single);
 
     [[nodiscard]] zel::Kind kind() const override { return zel::Kind::report; }
     [[nodiscard]] bool isMultiple() const { return m_multiple; }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "contract/forms/dialog.h"
 #include "contract/forms/control.h"
+#include "contract/forms/dialog.h"
 
 #include <vector>
 

@@ -9,13 +9,15 @@
 // Dynamic input.
 
 /// Time history functions.
-class CDataThfc : public CTable<T_THFC_D, Table::THFC, Op::GetCount | Op::GetList | Op::GetByKey | Op::GetByName | Op::AddRecord | Op::ModifyByName | Op::DelName | Op::Initialize> {
+class CDataThfc : public CTable<T_THFC_D, Table::THFC,
+                                Op::GetCount | Op::GetList | Op::GetByKey | Op::GetByName | Op::AddRecord | Op::ModifyByName | Op::DelName | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(THFC)
 };
 
 /// Time history load cases.
-class CDataThld : public CTable<T_THLD_D, Table::THLD, Op::GetCount | Op::GetList | Op::GetByKey | Op::GetByName | Op::AddRecord | Op::ModifyByName | Op::DelName | Op::Initialize> {
+class CDataThld : public CTable<T_THLD_D, Table::THLD,
+                                Op::GetCount | Op::GetList | Op::GetByKey | Op::GetByName | Op::AddRecord | Op::ModifyByName | Op::DelName | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(THLD)
 };

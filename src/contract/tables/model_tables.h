@@ -36,7 +36,9 @@
 // The model itself: objects, assignments and control data. The commands only read or count most of them.
 
 /// Domains.
-class CDataWkar : public CTable<T_WKAR_D, Table::WKAR, Op::GetCount | Op::Initialize | Op::GetKeyList | Op::GetList | Op::GetNameList | Op::GetByKey | Op::GetByName | Op::ExistName | Op::AddRecord | Op::ModifyByKey | Op::DelKey> {
+class CDataWkar : public CTable<T_WKAR_D, Table::WKAR,
+                                Op::GetCount | Op::Initialize | Op::GetKeyList | Op::GetList | Op::GetNameList | Op::GetByKey | Op::GetByName | Op::ExistName |
+                                    Op::AddRecord | Op::ModifyByKey | Op::DelKey> {
 public:
     ZEL_UPDATE_CODES(WKAR)
 };

@@ -10,19 +10,25 @@
 // Materials, sections and thicknesses.
 
 /// Materials.
-class CDataMatl : public CTable<T_MATL_D, Table::MATL, Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey | Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
+class CDataMatl : public CTable<T_MATL_D, Table::MATL,
+                                Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey |
+                                    Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(MATL)
 };
 
 /// Sections.
-class CDataSect : public CTable<T_SECT_D, Table::SECT, Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey | Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
+class CDataSect : public CTable<T_SECT_D, Table::SECT,
+                                Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey |
+                                    Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(SECT)
 };
 
 /// Slab thicknesses.
-class CDataThik : public CTable<T_THIK_D, Table::THIK, Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey | Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
+class CDataThik : public CTable<T_THIK_D, Table::THIK,
+                                Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey |
+                                    Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(THIK)
 };

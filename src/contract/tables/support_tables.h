@@ -10,31 +10,41 @@
 // Support types.
 
 /// Column support types.
-class CDataCosd : public CTable<T_COSD_D, Table::COSD, Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
+class CDataCosd : public CTable<T_COSD_D, Table::COSD,
+                                Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
+                                    Op::DelKey | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(COSD)
 };
 
 /// Pile support types.
-class CDataPisd : public CTable<T_PISD_D, Table::PISD, Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
+class CDataPisd : public CTable<T_PISD_D, Table::PISD,
+                                Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
+                                    Op::DelKey | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(PISD)
 };
 
 /// Wall support types.
-class CDataWasd : public CTable<T_WASD_D, Table::WASD, Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
+class CDataWasd : public CTable<T_WASD_D, Table::WASD,
+                                Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
+                                    Op::DelKey | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(WASD)
 };
 
 /// Soil support types.
-class CDataSosd : public CTable<T_SOSD_D, Table::SOSD, Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
+class CDataSosd : public CTable<T_SOSD_D, Table::SOSD,
+                                Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
+                                    Op::DelKey | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(SOSD)
 };
 
 /// General spring types.
-class CDataGspd : public CTable<T_GSPD_D, Table::GSPD, Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
+class CDataGspd : public CTable<T_GSPD_D, Table::GSPD,
+                                Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
+                                    Op::DelKey | Op::Initialize> {
 public:
     ZEL_UPDATE_CODES(GSPD)
 };

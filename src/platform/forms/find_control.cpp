@@ -138,8 +138,8 @@ FoundControl findControl(const CDialog& dialog, std::string_view name)
     const Controls seen = matching(found, [](const Control& control) { return control.IsWindowVisible(); });
     if (seen.size() == 1)
         return {seen.front(), {}};
-    return {nullptr, dialog.ClassName() + " has " + std::to_string(found.size()) + " controls called " + quoted(CString(name)) +
-                         ": say which, " + waysToTell(found)};
+    return {nullptr,
+            dialog.ClassName() + " has " + std::to_string(found.size()) + " controls called " + quoted(CString(name)) + ": say which, " + waysToTell(found)};
 }
 
 }  // namespace zel

@@ -73,8 +73,7 @@ const CArray<CString>& CTBBrowserWnd::GetDefValueArray()
     return none;
 }
 
-bool CTBBrowserWnd::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys,
-                                        zel::GridValues& records)
+bool CTBBrowserWnd::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records)
 {
     for (std::size_t i = 0; i < columns.size() && i < texts.size(); ++i)
         if (!ValidateField(texts[i], columns[i]))
@@ -229,7 +228,7 @@ void CTBBrowserWnd::rowDeleted(int row)
         return;
     if (m_edit->row == row) {
         if (m_edit->writing)
-            m_edit->row = 0;    // the row has gone, what was typed is still being written
+            m_edit->row = 0;  // the row has gone, what was typed is still being written
         else
             m_edit.reset();
     } else if (m_edit->row > row) {

@@ -142,7 +142,7 @@ void CTBGrid::describe(zel::IFieldWriter& writer) const
     }
     writer.columns("columns", columns);
 
-    const_cast<CTBGrid*>(this)->fillRows(1, GetDataRowCount());    // reading fills rows that are read on demand
+    const_cast<CTBGrid*>(this)->fillRows(1, GetDataRowCount());  // reading fills rows that are read on demand
     std::vector<std::vector<CString>> texts;
     texts.reserve(static_cast<std::size_t>(GetDataRowCount()));
     for (int row = 1; row <= GetDataRowCount(); ++row) {

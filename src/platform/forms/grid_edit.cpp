@@ -101,7 +101,7 @@ bool CTBBrowserWnd::writeRow()
     m_edit->writing = false;
     if (!written) {
         if (!added && m_edit->row == 0)
-            m_edit.reset();    // the row that was refused is no longer there
+            m_edit.reset();  // the row that was refused is no longer there
         showWarning();
         repaint();
         return false;
@@ -273,7 +273,7 @@ void CTBBrowserWnd::goOn()
                 goTo(below, next);
                 return;
             }
-    if (IsAppendRow(row) && closeRow())    // from the end of a new row to the beginning of the next one
+    if (IsAppendRow(row) && closeRow())  // from the end of a new row to the beginning of the next one
         for (int next = 1; next <= GetColCount(); ++next)
             if (IsValidCell(GetAppendRow(), next)) {
                 goTo(GetAppendRow(), next);

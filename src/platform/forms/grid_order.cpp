@@ -15,7 +15,7 @@ int CTBBrowserWndEx::compare(int index, const CString& a, const CString& b) cons
         if (first && second)
             return *first < *second ? -1 : *first > *second ? 1 : 0;
         if (first || second)
-            return first ? -1 : 1;    // numbers stand before other texts
+            return first ? -1 : 1;  // numbers stand before other texts
     }
     return a.compare(b);
 }
@@ -112,7 +112,7 @@ Taken CTBBrowserWndEx::dragRows(const std::vector<int>& rows, int to)
         if (Taken selected = select(rows); !selected)
             return selected;
     } else if (gridRows != GetSelectedRows()) {
-        selectByUser(gridRows);    // a row under edit is not left by a drag: the grid may want to refuse it
+        selectByUser(gridRows);  // a row under edit is not left by a drag: the grid may want to refuse it
     }
     const int target = to == append ? GetDataRowCount() + 1 : to + 1;
     const auto [first, last] = std::minmax_element(gridRows.begin(), gridRows.end());

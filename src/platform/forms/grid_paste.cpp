@@ -11,9 +11,9 @@ struct CTBBrowserWndEx::Pasted {
         zel::GridValues records;
     };
 
-    CArray<int> rows;                       ///< data rows that change
-    CArray<CArray<CString>> changedTexts;   ///< their new texts
-    CArray<CArray<CString>> addedTexts;     ///< texts of new rows
+    CArray<int> rows;                      ///< data rows that change
+    CArray<CArray<CString>> changedTexts;  ///< their new texts
+    CArray<CArray<CString>> addedTexts;    ///< texts of new rows
     Records former;
     Records changed;
     Records added;
@@ -66,14 +66,11 @@ Taken CTBBrowserWndEx::layOut(const zel::GridBlock& block, int row, int column, 
 bool CTBBrowserWndEx::makeRecords(Pasted& pasted)
 {
     const CArray<int> columns = GetAllColumns();
-    const auto make = [&](const CArray<CString>& texts, Pasted::Records& into) {
-        return MakeKeyAndDataArray(texts, columns, into.keys, into.records);
-    };
+    const auto make = [&](const CArray<CString>& texts, Pasted::Records& into) { return MakeKeyAndDataArray(texts, columns, into.keys, into.records); };
     for (std::size_t i = 0; i < pasted.rows.size(); ++i)
         if (!make(GetRowTexts(pasted.rows[i]), pasted.former) || !make(pasted.changedTexts[i], pasted.changed))
             return false;
-    return std::all_of(pasted.addedTexts.begin(), pasted.addedTexts.end(),
-                       [&](const CArray<CString>& texts) { return make(texts, pasted.added); });
+    return std::all_of(pasted.addedTexts.begin(), pasted.addedTexts.end(), [&](const CArray<CString>& texts) { return make(texts, pasted.added); });
 }
 
 bool CTBBrowserWndEx::writeRecords(Pasted& pasted)

@@ -80,7 +80,7 @@ std::vector<int> GridRowStore::move(const std::vector<int>& rows, int target)
     for (const int row : rows)
         moved[static_cast<std::size_t>(row)] = true;
 
-    std::vector<int> order;    // old rows in their new order
+    std::vector<int> order;  // old rows in their new order
     order.reserve(m_rows.size());
     for (int row = 0; row < target; ++row)
         if (!moved[static_cast<std::size_t>(row)])

@@ -52,9 +52,9 @@ public:
 
 private:
     struct Row {
-        std::string block;    ///< as many 32-bit ends as there are columns, then the texts; empty for a row of empty texts
+        std::string block;  ///< as many 32-bit ends as there are columns, then the texts; empty for a row of empty texts
         std::uint32_t key = 0;
-        std::uint32_t selected = 0;    ///< number in the order of selection, from 1; 0 if it is not selected
+        std::uint32_t selected = 0;  ///< number in the order of selection, from 1; 0 if it is not selected
         bool filled = true;
         bool hidden = false;
     };
@@ -68,9 +68,9 @@ private:
     [[nodiscard]] Row* newRow();
 
     int m_columns = 0;
-    std::deque<Row> m_pool;        ///< all rows that were ever made since the last reset; they stay where they are
-    std::vector<Row*> m_unused;    ///< those of them that were taken out
-    std::vector<Row*> m_rows;      ///< plain pointers, so that a row is put in by moving a block of bytes
+    std::deque<Row> m_pool;      ///< all rows that were ever made since the last reset; they stay where they are
+    std::vector<Row*> m_unused;  ///< those of them that were taken out
+    std::vector<Row*> m_rows;    ///< plain pointers, so that a row is put in by moving a block of bytes
 };
 
 }  // namespace zel

@@ -120,7 +120,7 @@ CString CTBGrid::storedText(int row, int index) const
     if (!IsDataRow(row) || !hasIndex(index))
         return {};
     if (!m_rows->filled(row - 1))
-        const_cast<CTBGrid*>(this)->fillRow(row);    // reading a row is what fills it; nobody can see the difference
+        const_cast<CTBGrid*>(this)->fillRow(row);  // reading a row is what fills it; nobody can see the difference
     return CString{m_rows->text(row - 1, index)};
 }
 

@@ -17,8 +17,7 @@ public:
     void ResetPick() override { m_closed = false; }
     void GetSelectedLines(std::vector<Key>& keys) const override;
     void ActivateOnly(const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool objectsOnly) override;
-    void ActivateCommon(int mode, const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas,
-                        bool objectsOnly) override;
+    void ActivateCommon(int mode, const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool objectsOnly) override;
     void ActivateAll() override { m_active.reset(); }
     void setPickClosed(bool closed) override { m_closed = closed; }
     [[nodiscard]] int modelingMode() const override { return m_mode; }
@@ -47,8 +46,8 @@ public:
     ~HeadlessUserInterface() override;
 
     struct Box {
-        CString key;     ///< of its message, where texts show their keys ("[KEY]text")
-        CString text;    ///< without the key
+        CString key;   ///< of its message, where texts show their keys ("[KEY]text")
+        CString text;  ///< without the key
         unsigned type = MB_OK;
         int answer = 0;
     };
@@ -65,7 +64,7 @@ public:
     std::vector<CString> histories;
     std::vector<CString> fileFilters;
     std::vector<CString> processes;
-    std::vector<CString> warnings;    ///< of grids
+    std::vector<CString> warnings;  ///< of grids
     std::vector<int> preferencePages;
     HeadlessModelView view;
 

@@ -28,7 +28,7 @@ struct Batch {
 
 /// One user action: what is one transaction, one undo step and one notice.
 struct ChangeRecord {
-    CString name;                                                ///< for the Undo menu
+    CString name;  ///< for the Undo menu
     std::vector<Batch> batches;
     std::optional<std::pair<T_UNIT_INDEX, T_UNIT_INDEX>> units;  ///< from and to, where the unit system changes with it
 

@@ -8,14 +8,20 @@ namespace zel {
 
 namespace {
 
-CString quoted(const CString& name) { return "\"" + name + "\""; }
+CString quoted(const CString& name)
+{
+    return "\"" + name + "\"";
+}
 
 const char* sqlType(FieldType type)
 {
     switch (type) {
-    case FieldType::real: return "REAL";
-    case FieldType::text: return "TEXT";
-    default: return "INTEGER";
+    case FieldType::real:
+        return "REAL";
+    case FieldType::text:
+        return "TEXT";
+    default:
+        return "INTEGER";
     }
 }
 
@@ -51,7 +57,7 @@ CString conditions(const SqlTable& table, std::size_t addressColumns)
 void complete(SqlTable& table, const SqlTable* parent)
 {
     std::vector<CString> lines;
-    const bool rowid = parent == nullptr && table.address.size() == 1;    // a record table under one key
+    const bool rowid = parent == nullptr && table.address.size() == 1;  // a record table under one key
     for (const CString& column : table.address)
         lines.push_back(quoted(column) + " INTEGER " + (rowid ? "PRIMARY KEY" : "NOT NULL"));
     for (std::size_t i = 0; i < table.layout->columns.size(); ++i) {
@@ -85,8 +91,7 @@ void complete(SqlTable& table, const SqlTable* parent)
             for (const CString& column : table.address)
                 child.address.push_back(column == "key" ? "parent" : "parent_" + column);
             child.address.emplace_back("seq");
-        }
-        else {
+        } else {
             child.address = table.address;
             child.address.push_back("seq" + std::to_string(table.address.size()));
         }

@@ -12,7 +12,7 @@
 /// table of its own, "LCOM_items", whose rows carry the address of their record and their place in the list.
 namespace zel {
 
-inline constexpr std::int32_t applicationId = 0x5A454C31;    ///< "ZEL1"
+inline constexpr std::int32_t applicationId = 0x5A454C31;  ///< "ZEL1"
 inline constexpr int schemaVersion = 1;
 
 /// Table of the row count and hash of every table; table of the model's settings.
@@ -22,12 +22,12 @@ inline constexpr std::string_view settingTable = "zel_setting";
 /// One SQL table that holds the records of a model table, or the elements of one of their lists.
 struct SqlTable {
     CString name;
-    std::vector<CString> address;      ///< columns that say whose row it is: "key", or "parent" and "seq"
+    std::vector<CString> address;  ///< columns that say whose row it is: "key", or "parent" and "seq"
     const FlatLayout* layout = nullptr;
-    std::size_t list = 0;              ///< place of the list in the layout above; unused for a record table
-    std::vector<SqlTable> lists;       ///< its own lists, in the order of the layout
-    CString create;                    ///< the statement that makes it
-    std::vector<bool> skipped;         ///< columns of the layout that stand among the address columns already
+    std::size_t list = 0;         ///< place of the list in the layout above; unused for a record table
+    std::vector<SqlTable> lists;  ///< its own lists, in the order of the layout
+    CString create;               ///< the statement that makes it
+    std::vector<bool> skipped;    ///< columns of the layout that stand among the address columns already
 };
 
 /// The SQL tables of a model table.

@@ -44,7 +44,7 @@ void checkSize(const std::filesystem::path& path, const Header& header, std::uin
     const bool counted = number(header, changeCounterAt, 4) == number(header, validForAt, 4);
     const bool log = std::filesystem::exists(path.string() + "-wal") || std::filesystem::exists(path.string() + "-journal");
     const bool whole = power && size % pageSize == 0 && (!counted || size / pageSize == number(header, pageCountAt, 4));
-    if (!power || (!whole && !log))    // with a log beside it, a crash has left work for SQLite to finish
+    if (!power || (!whole && !log))  // with a log beside it, a crash has left work for SQLite to finish
         throw FileRefusal(Reason::damaged, path, "is damaged: it is not as long as it says. Restore it from a copy.");
 }
 

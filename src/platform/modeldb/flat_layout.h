@@ -13,11 +13,11 @@ struct FlatLayout;
 
 /// One scalar of a record, at a fixed place in its memory: a plain field, a field of an inner record or a place of an array.
 struct FlatColumn {
-    CString name;               ///< "name", "base_area", "value_3": the SQL column
-    std::string_view field;     ///< its own field's name, and the place in that field
+    CString name;            ///< "name", "base_area", "value_3": the SQL column
+    std::string_view field;  ///< its own field's name, and the place in that field
     std::size_t element = 0;
     FieldType type = FieldType::int32;
-    std::size_t offset = 0;     ///< from the start of the record [bytes]
+    std::size_t offset = 0;  ///< from the start of the record [bytes]
     int unit = Unit::none;
 
     template <class T> [[nodiscard]] const T& in(const void* record) const

@@ -33,8 +33,7 @@ int CImportFile::import(const CString& path, Table table)
         m_read[table] = std::move(rows);
         m_read[Table::STLD] = std::move(loadCases);
         return 1;
-    }
-    catch (const zel::FileRefusal& refusal) {
+    } catch (const zel::FileRefusal& refusal) {
         return zel::refuse(zel::Refusal::fileRead, refusal.what());
     }
 }

@@ -22,7 +22,7 @@ public:
     bool number_unsigned(number_unsigned_t value) override { return put(value); }
     bool number_float(number_float_t value, const string_t&) override { return put(value); }
     bool string(string_t& value) override { return put(std::move(value)); }
-    bool binary(binary_t&) override { return false; }    // no JSON text holds any
+    bool binary(binary_t&) override { return false; }  // no JSON text holds any
 
     bool start_object(std::size_t) override { return open(Json::object()); }
     bool end_object() override { return close(); }
@@ -50,8 +50,8 @@ public:
 private:
     struct Open {
         Json* value;
-        std::string name;                          // of the member that comes next
-        std::unordered_set<std::string> names;     // of the members so far
+        std::string name;                       // of the member that comes next
+        std::unordered_set<std::string> names;  // of the members so far
     };
     std::vector<Open> m_open;
 
@@ -113,7 +113,7 @@ void printNumber(double value, std::string& out)
     const std::string_view digits(buffer, static_cast<std::size_t>(end.ptr - buffer));
     out += digits;
     if (digits.find_first_of(".e") == std::string_view::npos)
-        out += ".0";    // stays a real number for whoever reads it
+        out += ".0";  // stays a real number for whoever reads it
 }
 
 void print(const Json& json, std::string& out)
@@ -170,19 +170,31 @@ std::string printJson(const Json& json)
     return out;
 }
 
-std::string memberPath(const std::string& path, std::string_view name) { return path.empty() ? std::string(name) : path + "." + std::string(name); }
+std::string memberPath(const std::string& path, std::string_view name)
+{
+    return path.empty() ? std::string(name) : path + "." + std::string(name);
+}
 
-std::string elementPath(const std::string& path, std::size_t index) { return path + "[" + std::to_string(index) + "]"; }
+std::string elementPath(const std::string& path, std::size_t index)
+{
+    return path + "[" + std::to_string(index) + "]";
+}
 
 const char* jsonKind(const Json& json)
 {
     switch (json.type()) {
-    case Json::value_t::null: return "null";
-    case Json::value_t::boolean: return "true or false";
-    case Json::value_t::string: return "a text";
-    case Json::value_t::array: return "a list";
-    case Json::value_t::object: return "an object";
-    default: return "a number";
+    case Json::value_t::null:
+        return "null";
+    case Json::value_t::boolean:
+        return "true or false";
+    case Json::value_t::string:
+        return "a text";
+    case Json::value_t::array:
+        return "a list";
+    case Json::value_t::object:
+        return "an object";
+    default:
+        return "a number";
     }
 }
 

@@ -51,7 +51,10 @@ int CDataLcom::Get(int kind, zel::Key key)
     return 1;
 }
 
-int CDataLcom::Get(int kind, const CString& name) { return Get(kind, store().keyByName(kind, name)); }
+int CDataLcom::Get(int kind, const CString& name)
+{
+    return Get(kind, store().keyByName(kind, name));
+}
 
 int CDataLcom::Get(int kind, zel::Key key, T_LCOM_D& record) const
 {
@@ -62,16 +65,22 @@ int CDataLcom::Get(int kind, zel::Key key, T_LCOM_D& record) const
     return 1;
 }
 
-int CDataLcom::Add(int kind, const T_LCOM_D& record) { return addAll(store(), kind, {zel::share(record)}); }
+int CDataLcom::Add(int kind, const T_LCOM_D& record)
+{
+    return addAll(store(), kind, {zel::share(record)});
+}
 
-int CDataLcom::Add(int kind, const std::vector<T_LCOM_D>& records) { return addAll(store(), kind, zel::shareAll(records)); }
+int CDataLcom::Add(int kind, const std::vector<T_LCOM_D>& records)
+{
+    return addAll(store(), kind, zel::shareAll(records));
+}
 
 int CDataLcom::Add(int kind, std::vector<T_LCOM_D>&& records)
 {
     std::vector<zel::RecordPtr> shared;
     shared.reserve(records.size());
     std::int32_t place = store().count(kind);
-    for (T_LCOM_D& record : records) {    // with the fields that the table keeps, so that it need not copy the record
+    for (T_LCOM_D& record : records) {  // with the fields that the table keeps, so that it need not copy the record
         record.kind = kind;
         record.number = ++place;
         shared.push_back(std::make_shared<T_LCOM_D>(std::move(record)));
@@ -103,7 +112,7 @@ int CDataLcom::Merge(T_LCOM_D& target, const T_LCOM_D& source) const
 {
     if (target.items.size() + source.items.size() > static_cast<std::size_t>(mergeLimit))
         return 0;
-    const std::vector<T_LCOM_ITEM> added = source.items;    // the source may be the target
+    const std::vector<T_LCOM_ITEM> added = source.items;  // the source may be the target
     target.items.insert(target.items.end(), added.begin(), added.end());
     return 1;
 }

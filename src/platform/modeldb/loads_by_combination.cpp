@@ -21,7 +21,10 @@ namespace {
 /// The factor of each static load case of a combination. A case that stands in it twice counts twice.
 using Factors = std::map<Key, double>;
 
-template <class Record> const Record& typed(const RecordPtr& record) { return *static_cast<const Record*>(record.get()); }
+template <class Record> const Record& typed(const RecordPtr& record)
+{
+    return *static_cast<const Record*>(record.get());
+}
 
 template <class Record> std::vector<std::pair<Key, Record>> allOf(ITable& table)
 {
@@ -55,17 +58,26 @@ struct Writes {
     [[nodiscard]] bool make()
     {
         return (removed.empty() || table.remove(0, removed) != 0) && (changed.empty() || table.modify(0, changedKeys, changedKeys, std::move(changed)) != 0) &&
-               (added.empty() || table.add(0, addedKeys, std::move(added), false) != 0);
+            (added.empty() || table.add(0, addedKeys, std::move(added), false) != 0);
     }
 };
 
 // ---- loads that name their load case -------------------------------------------------------------------------------
 
-using Place = std::tuple<Key, Key, std::int32_t>;    ///< points, sub-load case
+using Place = std::tuple<Key, Key, std::int32_t>;  ///< points, sub-load case
 
-Place placeOf(const T_PTLA_D& load) { return {load.pointKey, 0, load.subLoadCaseNo}; }
-Place placeOf(const T_SPDP_D& load) { return {load.pointKey, 0, load.subLoadCaseNo}; }
-Place placeOf(const T_SPDI_D& load) { return {load.point1, load.point2, load.subLoadCaseNo}; }
+Place placeOf(const T_PTLA_D& load)
+{
+    return {load.pointKey, 0, load.subLoadCaseNo};
+}
+Place placeOf(const T_SPDP_D& load)
+{
+    return {load.pointKey, 0, load.subLoadCaseNo};
+}
+Place placeOf(const T_SPDI_D& load)
+{
+    return {load.point1, load.point2, load.subLoadCaseNo};
+}
 
 template <std::size_t N> void addTo(std::array<double, N>& target, const std::array<double, N>& source, double factor)
 {
@@ -83,7 +95,10 @@ void joinFlags(CString& target, const CString& source)
     }
 }
 
-void addTo(T_PTLA_D& target, const T_PTLA_D& source, double factor) { addTo(target.value, source.value, factor); }
+void addTo(T_PTLA_D& target, const T_PTLA_D& source, double factor)
+{
+    addTo(target.value, source.value, factor);
+}
 
 void addTo(T_SPDP_D& target, const T_SPDP_D& source, double factor)
 {
@@ -130,7 +145,7 @@ template <class Record> Writes copyLoads(ITable& table, const Factors& factors, 
 {
     Writes writes(table);
     const auto rows = allOf<Record>(table);
-    std::map<Place, std::pair<Key, Record>> sums;    // key 0: a new load
+    std::map<Place, std::pair<Key, Record>> sums;  // key 0: a new load
     for (const auto& [key, load] : rows) {
         if (load.loadCaseKey != targetKey)
             continue;
@@ -173,8 +188,7 @@ template <class Type> struct TypePlace {
     std::uint32_t Type::*loadCase;
     double Type::*load;
 };
-template <class Type>
-constexpr std::array<TypePlace<Type>, placeCount> typePlaces{
+template <class Type> constexpr std::array<TypePlace<Type>, placeCount> typePlaces{
     {{&Type::loadCase1, &Type::load1}, {&Type::loadCase2, &Type::load2}, {&Type::loadCase3, &Type::load3}}};
 
 /// Whether the model weight belongs to the load in a place; only area loads say.
@@ -191,7 +205,8 @@ CString freeName(const CString& name, std::set<CString>& taken)
 }
 
 /// The new types of a table of load types, and their assignments.
-template <class Type, class Assigned> std::pair<Writes, Writes> copyTypes(ITable& types, ITable& assignments, const Factors& factors, Key targetKey, bool removeOwn)
+template <class Type, class Assigned>
+std::pair<Writes, Writes> copyTypes(ITable& types, ITable& assignments, const Factors& factors, Key targetKey, bool removeOwn)
 {
     std::pair<Writes, Writes> writes{Writes(types), Writes(assignments)};
     const auto typeRows = allOf<Type>(types);
@@ -284,7 +299,7 @@ int CDataLcom::MakeLoadsByCombination(const T_LCOM_D& combination, zel::Key targ
         writes.push_back(copyLoads<T_SPDP_D>(document.table(Table::SPDP), factors, targetKey, removeOwn));
         writes.push_back(copyLoads<T_SPDI_D>(document.table(Table::SPDI), factors, targetKey, removeOwn));
     }
-    const auto addTypes = [&](std::pair<Writes, Writes> both) {    // the types before their assignments
+    const auto addTypes = [&](std::pair<Writes, Writes> both) {  // the types before their assignments
         writes.push_back(std::move(both.first));
         writes.push_back(std::move(both.second));
     };

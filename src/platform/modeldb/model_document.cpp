@@ -22,16 +22,28 @@ constexpr const char* modelFileFilter = "KORAX ZEL Model File(*.qvx)|*.qvx|All F
 
 }  // namespace
 
-CDBDoc::CDBDoc() { openDocuments().push_back(this); }
+CDBDoc::CDBDoc()
+{
+    openDocuments().push_back(this);
+}
 
-CDBDoc::~CDBDoc() { std::erase(openDocuments(), this); }
+CDBDoc::~CDBDoc()
+{
+    std::erase(openDocuments(), this);
+}
 
-CDBDoc* CDBDoc::GetDocPoint() { return openDocuments().empty() ? nullptr : openDocuments().back(); }
+CDBDoc* CDBDoc::GetDocPoint()
+{
+    return openDocuments().empty() ? nullptr : openDocuments().back();
+}
 
 namespace zel {
 
 ModelDocument::ModelDocument(const T_UNIT_INDEX& units, std::unique_ptr<ModelFile> file)
-    : m_file(std::move(file)), m_storedUnits(units), m_units(units, [this](const T_UNIT_INDEX& system) { return convertModel(system); }), m_settings(m_units),
+    : m_file(std::move(file)),
+      m_storedUnits(units),
+      m_units(units, [this](const T_UNIT_INDEX& system) { return convertModel(system); }),
+      m_settings(m_units),
       m_view(*this)
 {
     ChangeSink& sink = *this;
@@ -39,7 +51,10 @@ ModelDocument::ModelDocument(const T_UNIT_INDEX& units, std::unique_ptr<ModelFil
         m_tables.push_back(std::make_unique<StoredTable>(info, sink));
 }
 
-ModelDocument::~ModelDocument() { m_dialogs.closeAll(); }
+ModelDocument::~ModelDocument()
+{
+    m_dialogs.closeAll();
+}
 
 std::unique_ptr<ModelDocument> ModelDocument::inMemory(const T_UNIT_INDEX& units)
 {
@@ -69,14 +84,16 @@ void ModelDocument::load(StoredTable& table)
         batch.steps.push_back({0, row.key, row.kind, nullptr, std::move(row.record)});
     try {
         table.apply(batch);
-    }
-    catch (const std::out_of_range&) {
+    } catch (const std::out_of_range&) {
         throw FileRefusal(FileRefusal::Reason::damaged, m_file->path(),
                           "is damaged: the sequence of table " + CString(table.info().code) + " has gaps. Restore it from a copy.");
     }
 }
 
-void ModelDocument::saveCopy(const std::filesystem::path& path, bool replace) const { ModelFile::create(path, m_storedUnits, everything(), replace); }
+void ModelDocument::saveCopy(const std::filesystem::path& path, bool replace) const
+{
+    ModelFile::create(path, m_storedUnits, everything(), replace);
+}
 
 std::vector<Batch> ModelDocument::everything() const
 {
@@ -93,9 +110,15 @@ std::vector<Batch> ModelDocument::everything() const
     return batches;
 }
 
-std::optional<FileFacts> ModelDocument::fileFacts() const { return m_file ? std::optional(m_file->facts()) : std::nullopt; }
+std::optional<FileFacts> ModelDocument::fileFacts() const
+{
+    return m_file ? std::optional(m_file->facts()) : std::nullopt;
+}
 
-CString ModelDocument::GetPathName() const { return m_file ? m_file->path().string() : CString(); }
+CString ModelDocument::GetPathName() const
+{
+    return m_file ? m_file->path().string() : CString();
+}
 
 int ModelDocument::PromptModelFile(CString& path)
 {
@@ -105,7 +128,10 @@ int ModelDocument::PromptModelFile(CString& path)
 
 // ---- listeners -------------------------------------------------------------------------------------------------------
 
-void ModelDocument::join(CDBUpdateConnector& listener) { m_listeners.push_back(&listener); }
+void ModelDocument::join(CDBUpdateConnector& listener)
+{
+    m_listeners.push_back(&listener);
+}
 
 void ModelDocument::leave(CDBUpdateConnector& listener)
 {
@@ -113,7 +139,7 @@ void ModelDocument::leave(CDBUpdateConnector& listener)
     if (place == m_listeners.end())
         return;
     if (m_notifying > 0)
-        *place = nullptr;    // a loop over the listeners is running
+        *place = nullptr;  // a loop over the listeners is running
     else
         m_listeners.erase(place);
 }
@@ -121,7 +147,7 @@ void ModelDocument::leave(CDBUpdateConnector& listener)
 void ModelDocument::notify(CView* sender, long long hint, CObject* object)
 {
     ++m_notifying;
-    const std::size_t count = m_listeners.size();    // those that join during the notice have read the new state already
+    const std::size_t count = m_listeners.size();  // those that join during the notice have read the new state already
     for (std::size_t i = 0; i < count; ++i) {
         if (m_listeners[i] != nullptr)
             m_listeners[i]->OnUpdate(sender, hint, object);
@@ -143,7 +169,7 @@ void ModelDocument::tell(const ChangeRecord& change, long long hint)
             };
             for (const Step& step : batch.steps) {
                 const bool pair = step.before && step.after && codes == Codes::all;
-                if (step.after)    // where there is no code for a replacement, it is told as an addition
+                if (step.after)  // where there is no code for a replacement, it is told as an addition
                     enter(pair ? Change::modified : Change::added, step.kind, step.newKey, step.after);
                 if (pair)
                     enter(Change::modifiedFrom, step.kind, step.oldKey, step.before);
@@ -157,8 +183,8 @@ void ModelDocument::tell(const ChangeRecord& change, long long hint)
     CViewBuff outer;
     outer.swap(m_viewBuffer);
     m_viewBuffer.assign(std::move(entries));
-    notify(nullptr, itsHint, nullptr);    // `change` may have moved: a listener may write
-    if (m_notifying > 0)    // a listener made this change: the loop further up goes on with its own
+    notify(nullptr, itsHint, nullptr);  // `change` may have moved: a listener may write
+    if (m_notifying > 0)                // a listener made this change: the loop further up goes on with its own
         m_viewBuffer.swap(outer);
 }
 
@@ -193,8 +219,7 @@ bool ModelDocument::perform(Batch batch)
                 m_file->begin();
             m_file->write(batch);
         }
-    }
-    catch (const FileRefusal& refusal) {    // rolled back already
+    } catch (const FileRefusal& refusal) {  // rolled back already
         m_failed = true;
         takeBack();
         refuse(Refusal::fileWrite, refusal.what());
@@ -211,7 +236,7 @@ void ModelDocument::takeBack()
 {
     for (auto batch = m_running.batches.rbegin(); batch != m_running.batches.rend(); ++batch)
         m_tables[static_cast<std::size_t>(batch->table)]->apply(inverse(*batch));
-    if (m_noticeTime == NoticeTime::each && !m_running.batches.empty())    // who has been told of it is told that it is gone again
+    if (m_noticeTime == NoticeTime::each && !m_running.batches.empty())  // who has been told of it is told that it is gone again
         tell(inverse(m_running), Hint::undo);
     m_running.batches.clear();
 }
@@ -249,8 +274,7 @@ bool ModelDocument::commitRunning()
         return !m_failed;
     try {
         m_file->commit();
-    }
-    catch (const FileRefusal& refusal) {
+    } catch (const FileRefusal& refusal) {
         m_failed = true;
         takeBack();
         refuse(Refusal::fileWrite, refusal.what());
@@ -273,9 +297,15 @@ int ModelDocument::replay(std::vector<ChangeRecord>& from, std::vector<ChangeRec
     return 1;
 }
 
-int ModelDocument::Undo() { return replay(m_undo, m_redo, Hint::undo); }
+int ModelDocument::Undo()
+{
+    return replay(m_undo, m_redo, Hint::undo);
+}
 
-int ModelDocument::Redo() { return replay(m_redo, m_undo, Hint::redo); }
+int ModelDocument::Redo()
+{
+    return replay(m_redo, m_undo, Hint::redo);
+}
 
 /// Makes a change that is known to be possible: one taken back or made again, or a change of units.
 bool ModelDocument::performAll(const ChangeRecord& change)
@@ -289,8 +319,7 @@ bool ModelDocument::performAll(const ChangeRecord& change)
                 m_file->writeUnits(change.units->second);
             m_file->commit();
         }
-    }
-    catch (const FileRefusal& refusal) {
+    } catch (const FileRefusal& refusal) {
         refuse(Refusal::fileWrite, refusal.what());
         return false;
     }
@@ -336,8 +365,7 @@ CString ModelDocument::usersOf(Table target, const std::vector<Key>& keys) const
     CString text;
     std::size_t count = 0;
     eachUser(
-        target, std::unordered_set<Key>(keys.begin(), keys.end()),
-        [this](Table user) -> ITable& { return *m_tables[static_cast<std::size_t>(user)]; },
+        target, std::unordered_set<Key>(keys.begin(), keys.end()), [this](Table user) -> ITable& { return *m_tables[static_cast<std::size_t>(user)]; },
         [&](const TableInfo& user, Key key, const void* record) {
             if (++count > named)
                 return true;

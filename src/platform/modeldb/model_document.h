@@ -93,10 +93,10 @@ private:
     CLoadDB m_loadTypes;
     CDlgModelessMgr m_dialogs;
 
-    std::vector<CDBUpdateConnector*> m_listeners;    // null where one left during a notice
+    std::vector<CDBUpdateConnector*> m_listeners;  // null where one left during a notice
     int m_notifying = 0;
 
-    ChangeRecord m_running;    // the change between beginChange and endChange
+    ChangeRecord m_running;  // the change between beginChange and endChange
     int m_depth = 0;
     bool m_failed = false;
     NoticeTime m_noticeTime = NoticeTime::atEnd;

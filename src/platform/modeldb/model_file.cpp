@@ -1,11 +1,11 @@
 #include "platform/modeldb/model_file.h"
 
 #include "contract/units.h"
+#include "contract/version.h"
 #include "platform/modeldb/file_format.h"
 #include "platform/modeldb/file_header.h"
 #include "platform/modeldb/record_values.h"
 #include "platform/os/file_access.h"
-#include "contract/version.h"
 
 #include <set>
 #include <xxhash.h>
@@ -16,7 +16,7 @@ namespace {
 
 using Reason = FileRefusal::Reason;
 
-constexpr int lockWait = 250;    // milliseconds for another program that is just closing the file
+constexpr int lockWait = 250;  // milliseconds for another program that is just closing the file
 
 /// Hash of a setting, as a row of the setting table.
 std::uint64_t settingHash(const CString& name, const CString& value)
@@ -53,8 +53,7 @@ void prepareReplacement(const std::filesystem::path& path)
 {
     try {
         ModelFile existing(path, ModelFile::Access::write);
-    }
-    catch (const FileRefusal& refusal) {
+    } catch (const FileRefusal& refusal) {
         if (refusal.reason() == Reason::locked || refusal.reason() == Reason::readOnly)
             throw;
     }
@@ -77,8 +76,7 @@ ModelFile::ModelFile(const std::filesystem::path& path, Access access) : m_path(
         checkSchema();
         readChecks();
         readSettings();
-    }
-    catch (const SqliteError& error) {
+    } catch (const SqliteError& error) {
         throw refusalFor(error);
     }
 }
@@ -91,8 +89,7 @@ void ModelFile::prepareConnection(Access access)
         const bool log = std::filesystem::exists(m_path.string() + "-wal");
         const std::filesystem::path uri = "file:" + m_path.string() + (log ? "?mode=ro" : "?mode=ro&immutable=1");
         m_database = std::make_unique<Database>(uri, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
-    }
-    else {
+    } else {
         m_database = std::make_unique<Database>(m_path, SQLITE_OPEN_READWRITE);
         sqlite3_busy_timeout(m_database->handle(), lockWait);
         m_database->run("PRAGMA locking_mode=EXCLUSIVE");
@@ -100,7 +97,7 @@ void ModelFile::prepareConnection(Access access)
     m_database->run("PRAGMA trusted_schema=OFF; PRAGMA cell_size_check=ON; PRAGMA foreign_keys=ON; PRAGMA synchronous=FULL; "
                     "PRAGMA temp_store=MEMORY; PRAGMA cache_size=-65536");
     if (access == Access::write)
-        m_database->run("BEGIN IMMEDIATE; COMMIT");    // takes the lock now, and finishes what a crash has left
+        m_database->run("BEGIN IMMEDIATE; COMMIT");  // takes the lock now, and finishes what a crash has left
     m_rows = std::make_unique<RowStore>(*m_database);
 }
 
@@ -156,11 +153,9 @@ std::vector<StoredRow> ModelFile::read(const TableInfo& table)
         if (found != m_checks[CString(table.code)])
             throw damaged("the records of table " + CString(table.code) + " are not as they were stored");
         return rows;
-    }
-    catch (const SqliteError& error) {
+    } catch (const SqliteError& error) {
         throw refusalFor(error);
-    }
-    catch (const DamagedRows& error) {
+    } catch (const DamagedRows& error) {
         throw damaged("in table " + CString(table.code) + " " + error.what());
     }
 }
@@ -194,19 +189,18 @@ void ModelFile::create(const std::filesystem::path& path, const T_UNIT_INDEX& un
         file.commit();
         file.m_checkStatement.reset();
         file.m_rows.reset();
-        file.m_database->run("PRAGMA journal_mode=WAL");    // stays as it is where the write-ahead log can't work
+        file.m_database->run("PRAGMA journal_mode=WAL");  // stays as it is where the write-ahead log can't work
         file.m_database.reset();
-    }
-    catch (const SqliteError& failure) {
+    } catch (const SqliteError& failure) {
         throw file.refusalFor(failure);
     }
     if (replace)
         std::filesystem::rename(temporary.path(), path, error);
-    else {    // never over a file that appeared meanwhile
+    else {  // never over a file that appeared meanwhile
         std::filesystem::create_hard_link(temporary.path(), path, error);
         if (error && std::filesystem::exists(path))
             refuseExisting(path);
-        if (error)    // a file system without hard links
+        if (error)  // a file system without hard links
             std::filesystem::rename(temporary.path(), path, error);
     }
     if (error)
@@ -233,15 +227,14 @@ void ModelFile::makeSchema(const T_UNIT_INDEX& units)
 void ModelFile::begin()
 {
     try {
-        if (!m_structureChecked) {    // a damaged index page would lead a write astray
+        if (!m_structureChecked) {  // a damaged index page would lead a write astray
             if (m_database->text("PRAGMA quick_check(1)") != "ok")
                 throw damaged("its structure is broken");
             m_structureChecked = true;
         }
         m_database->run("BEGIN IMMEDIATE");
         m_checksBefore = m_checks;
-    }
-    catch (const SqliteError& error) {
+    } catch (const SqliteError& error) {
         throw refusalFor(error);
     }
 }
@@ -250,13 +243,11 @@ void ModelFile::inTransaction(const std::function<void()>& work)
 {
     try {
         work();
-    }
-    catch (const SqliteError& error) {
+    } catch (const SqliteError& error) {
         const FileRefusal refusal = refusalFor(error);
         rollback();
         throw refusal;
-    }
-    catch (const DamagedRows& error) {
+    } catch (const DamagedRows& error) {
         const FileRefusal refusal = damaged(error.what());
         rollback();
         throw refusal;
@@ -355,16 +346,21 @@ FileRefusal ModelFile::refusalFor(const SqliteError& error) const
 {
     switch (error.code()) {
     case SQLITE_BUSY:
-    case SQLITE_LOCKED: return {Reason::locked, m_path, "is open in another program. Close it there and try again."};
+    case SQLITE_LOCKED:
+        return {Reason::locked, m_path, "is open in another program. Close it there and try again."};
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
     case SQLITE_SCHEMA:
-    case SQLITE_ERROR: return damaged(CString("the database says: ") + error.what());
+    case SQLITE_ERROR:
+        return damaged(CString("the database says: ") + error.what());
     case SQLITE_CANTOPEN:
     case SQLITE_READONLY:
-    case SQLITE_PERM: return {Reason::readOnly, m_path, CString("can't be written (") + error.what() + "). Allow writing to the file and its folder."};
-    case SQLITE_FULL: return {Reason::failed, m_path, "can't be written: the disk is full. Make room and try again."};
-    default: return {Reason::failed, m_path, CString("can't be read or written (") + error.what() + "). Check the disk."};
+    case SQLITE_PERM:
+        return {Reason::readOnly, m_path, CString("can't be written (") + error.what() + "). Allow writing to the file and its folder."};
+    case SQLITE_FULL:
+        return {Reason::failed, m_path, "can't be written: the disk is full. Make room and try again."};
+    default:
+        return {Reason::failed, m_path, CString("can't be read or written (") + error.what() + "). Check the disk."};
     }
 }
 

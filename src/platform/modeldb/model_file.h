@@ -16,9 +16,9 @@ namespace zel {
 
 /// Facts about a model file, for people.
 struct FileFacts {
-    std::uint64_t size = 0;    ///< [bytes]
+    std::uint64_t size = 0;  ///< [bytes]
     int schema = 0;
-    CString journalMode;       ///< "wal" or "delete"
+    CString journalMode;  ///< "wal" or "delete"
     CString createdBy;
 };
 
@@ -88,7 +88,7 @@ private:
     CString m_createdBy;
     std::map<CString, CString> m_settings;
     Checks m_checks;
-    Checks m_checksBefore;    ///< of the running transaction
+    Checks m_checksBefore;  ///< of the running transaction
     bool m_structureChecked = false;
 };
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int firstKind = 1;
 constexpr int lastKind = 5;
-constexpr std::size_t longestName = 80;    // characters
+constexpr std::size_t longestName = 80;  // characters
 
 // Heads
 
@@ -56,7 +56,7 @@ template <class NameAt> int unitFromJson(const Json& units, const char* member, 
 struct Reading {
     TableRows rows;
     std::vector<std::size_t> places;
-    std::unordered_map<Key, std::size_t> keys;          // to the place
+    std::unordered_map<Key, std::size_t> keys;  // to the place
     std::unordered_map<std::string, std::size_t> names;
 };
 
@@ -214,11 +214,11 @@ void printModelJson(CDBDoc& document, std::ostream& out)
 {
     T_UNIT_INDEX units;
     document.GetUnitCtrl()->GetUnitIndexCurrent(units);
-    out << "{\"format\": \"" << modelJsonFormat << "\", \"version\": " << modelJsonVersion << ", \"units\": {\"length\": \""
-        << lengthUnitName(units.length) << "\", \"force\": \"" << forceUnitName(units.force) << "\"}";
+    out << "{\"format\": \"" << modelJsonFormat << "\", \"version\": " << modelJsonVersion << ", \"units\": {\"length\": \"" << lengthUnitName(units.length)
+        << "\", \"force\": \"" << forceUnitName(units.force) << "\"}";
     for (const TableInfo& info : tableList()) {
         ITable& table = document.table(info.table);
-        if (info.shape == TableShape::single && table.count(0) == 0)    // never written: absent, which is not the same as its defaults
+        if (info.shape == TableShape::single && table.count(0) == 0)  // never written: absent, which is not the same as its defaults
             continue;
         out << ",\n \"" << info.code << "\": ";
         if (info.shape == TableShape::single)

@@ -24,11 +24,16 @@ constexpr std::size_t listLimit = 10'000'000;
 Json elementToJson(const FieldInfo& field, const void* element)
 {
     switch (field.type) {
-    case FieldType::int32: return *static_cast<const std::int32_t*>(element);
-    case FieldType::uint32: return *static_cast<const std::uint32_t*>(element);
-    case FieldType::real: return *static_cast<const double*>(element);
-    case FieldType::text: return *static_cast<const CString*>(element);
-    case FieldType::record: return fieldsToJson(*field.inner, element);
+    case FieldType::int32:
+        return *static_cast<const std::int32_t*>(element);
+    case FieldType::uint32:
+        return *static_cast<const std::uint32_t*>(element);
+    case FieldType::real:
+        return *static_cast<const double*>(element);
+    case FieldType::text:
+        return *static_cast<const CString*>(element);
+    case FieldType::record:
+        return fieldsToJson(*field.inner, element);
     }
     return nullptr;
 }
@@ -44,7 +49,10 @@ Json fieldToJson(const FieldInfo& field, const void* record)
 }
 
 /// Objects search for a member before they add it; the fields of a record are known to be different.
-void append(Json& object, std::string_view name, Json value) { object.get_ref<Json::object_t&>().push_back({std::string(name), std::move(value)}); }
+void append(Json& object, std::string_view name, Json value)
+{
+    object.get_ref<Json::object_t&>().push_back({std::string(name), std::move(value)});
+}
 
 void appendFields(Json& object, const RecordInfo& info, const void* record, std::string_view without, std::string_view alsoWithout)
 {
@@ -77,12 +85,11 @@ void readElement(const Json& json, const FieldInfo& field, void* element, const 
 {
     switch (field.type) {
     case FieldType::int32:
-        *static_cast<std::int32_t*>(element) = static_cast<std::int32_t>(
-            integerFromJson(json, path, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()));
+        *static_cast<std::int32_t*>(element) =
+            static_cast<std::int32_t>(integerFromJson(json, path, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()));
         break;
     case FieldType::uint32:
-        *static_cast<std::uint32_t*>(element) =
-            static_cast<std::uint32_t>(integerFromJson(json, path, 0, std::numeric_limits<std::uint32_t>::max()));
+        *static_cast<std::uint32_t*>(element) = static_cast<std::uint32_t>(integerFromJson(json, path, 0, std::numeric_limits<std::uint32_t>::max()));
         break;
     case FieldType::real:
         *static_cast<double*>(element) = realFromJson(json, path);
@@ -108,7 +115,7 @@ void readField(const Json& json, const FieldInfo& field, void* record, const std
     if (json.size() > most)
         throw JsonFault(path, "has " + std::to_string(json.size()) + " elements; at most " + std::to_string(most) + " are taken");
     if (field.list != nullptr) {
-        field.list->resize(field.in(record), 0);    // what stood in a base must not show through
+        field.list->resize(field.in(record), 0);  // what stood in a base must not show through
         field.list->resize(field.in(record), json.size());
     }
     for (std::size_t i = 0; i < json.size(); ++i)
@@ -183,7 +190,10 @@ Key keyFromJson(const Json& json, const std::string& path)
     return static_cast<Key>(integerFromJson(json, path, 1, std::numeric_limits<Key>::max()));
 }
 
-int kindFromJson(const Json& json, const std::string& path) { return static_cast<int>(integerFromJson(json, path, 1, kindCount)); }
+int kindFromJson(const Json& json, const std::string& path)
+{
+    return static_cast<int>(integerFromJson(json, path, 1, kindCount));
+}
 
 long long integerFromJson(const Json& json, const std::string& path, long long least, long long most)
 {

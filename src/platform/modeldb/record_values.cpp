@@ -34,20 +34,20 @@ bool layoutHasUnits(const FlatLayout& layout)
 {
     return std::any_of(layout.columns.begin(), layout.columns.end(),
                        [](const FlatColumn& column) { return column.type == FieldType::real && column.unit != Unit::none; }) ||
-           std::any_of(layout.lists.begin(), layout.lists.end(), [](const FlatList& list) { return layoutHasUnits(*list.element); });
+        std::any_of(layout.lists.begin(), layout.lists.end(), [](const FlatList& list) { return layoutHasUnits(*list.element); });
 }
 
-const FieldInfo* nameField(const TableInfo& table) { return table.names == NameRule::none ? nullptr : table.record->find("name"); }
+const FieldInfo* nameField(const TableInfo& table)
+{
+    return table.names == NameRule::none ? nullptr : table.record->find("name");
+}
 
 /// Bytes of a row in a fixed order, gathered for the hash.
 class RowBytes {
 public:
     void clear() { m_bytes.clear(); }
 
-    template <class T> void put(T value)
-    {
-        m_bytes.append(reinterpret_cast<const char*>(&value), sizeof value);
-    }
+    template <class T> void put(T value) { m_bytes.append(reinterpret_cast<const char*>(&value), sizeof value); }
 
     void put(const FlatLayout& layout, const void* record)
     {
@@ -72,7 +72,7 @@ private:
             put(column.in<std::uint32_t>(record));
             break;
         case FieldType::real:
-            put(column.in<double>(record) + 0.0);    // SQLite gives -0.0 back as 0.0
+            put(column.in<double>(record) + 0.0);  // SQLite gives -0.0 back as 0.0
             break;
         case FieldType::text: {
             const auto& text = column.in<CString>(record);
@@ -81,7 +81,7 @@ private:
             break;
         }
         case FieldType::record:
-            break;    // flattened into columns of its own
+            break;  // flattened into columns of its own
         }
     }
 
@@ -94,12 +94,15 @@ void convertRecord(const TableInfo& table, void* record, const T_UNIT_INDEX& fro
 {
     eachReal(flatLayout(*table.record), record, [&](const FlatColumn& column, double& value) {
         const int unit = column.unit == Unit::byRecord ? table.record->unitOf(record, column.field, column.element) : column.unit;
-        if (unit != Unit::none)    // extended precision: there and back, a value keeps every digit that "%.15g" shows
+        if (unit != Unit::none)  // extended precision: there and back, a value keeps every digit that "%.15g" shows
             value = static_cast<double>(static_cast<long double>(value) * unitFactor(unit, from) / unitFactor(unit, to));
     });
 }
 
-bool hasUnits(const TableInfo& table) { return layoutHasUnits(flatLayout(*table.record)); }
+bool hasUnits(const TableInfo& table)
+{
+    return layoutHasUnits(flatLayout(*table.record));
+}
 
 std::string_view notFiniteField(const TableInfo& table, const void* record)
 {
@@ -146,7 +149,7 @@ RecordPtr withKeptFields(const TableInfo& table, RecordPtr record, int kind, Key
         const void* current = changed ? changed.get() : record.get();
         if (*static_cast<const Value*>(field->in(current)) == value)
             return;
-        if (!changed)    // records are made as changeable objects; whoever holds one alone may still change it
+        if (!changed)  // records are made as changeable objects; whoever holds one alone may still change it
             changed = record.use_count() == 1 ? std::const_pointer_cast<void>(std::move(record)) : table.record->copy(record.get());
         *static_cast<Value*>(field->in(changed.get())) = value;
     };

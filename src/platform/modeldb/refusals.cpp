@@ -11,16 +11,26 @@ namespace {
 const char* keyOf(Refusal reason)
 {
     switch (reason) {
-    case Refusal::duplicateName: return "IDS_DB_REFUSE_DUPLICATE_NAME";
-    case Refusal::emptyName: return "IDS_DB_REFUSE_EMPTY_NAME";
-    case Refusal::nameTooLong: return "IDS_DB_REFUSE_NAME_TOO_LONG";
-    case Refusal::keyExists: return "IDS_DB_REFUSE_KEY_EXISTS";
-    case Refusal::noRecord: return "IDS_DB_REFUSE_NO_RECORD";
-    case Refusal::inUse: return "IDS_DB_REFUSE_IN_USE";
-    case Refusal::notFinite: return "IDS_DB_REFUSE_NOT_FINITE";
-    case Refusal::badKind: return "IDS_DB_REFUSE_BAD_KIND";
-    case Refusal::fileWrite: return "IDS_DB_REFUSE_FILE_WRITE";
-    case Refusal::fileRead: return "IDS_DB_REFUSE_FILE_READ";
+    case Refusal::duplicateName:
+        return "IDS_DB_REFUSE_DUPLICATE_NAME";
+    case Refusal::emptyName:
+        return "IDS_DB_REFUSE_EMPTY_NAME";
+    case Refusal::nameTooLong:
+        return "IDS_DB_REFUSE_NAME_TOO_LONG";
+    case Refusal::keyExists:
+        return "IDS_DB_REFUSE_KEY_EXISTS";
+    case Refusal::noRecord:
+        return "IDS_DB_REFUSE_NO_RECORD";
+    case Refusal::inUse:
+        return "IDS_DB_REFUSE_IN_USE";
+    case Refusal::notFinite:
+        return "IDS_DB_REFUSE_NOT_FINITE";
+    case Refusal::badKind:
+        return "IDS_DB_REFUSE_BAD_KIND";
+    case Refusal::fileWrite:
+        return "IDS_DB_REFUSE_FILE_WRITE";
+    case Refusal::fileRead:
+        return "IDS_DB_REFUSE_FILE_READ";
     }
     return "";
 }
@@ -43,6 +53,9 @@ int refuse(Refusal reason, const CString& detail, int number)
     return 0;
 }
 
-int refuseMissing(const TableInfo& /*table*/, const CString& /*name*/) { return refuse(Refusal::noRecord); }
+int refuseMissing(const TableInfo& /*table*/, const CString& /*name*/)
+{
+    return refuse(Refusal::noRecord);
+}
 
 }  // namespace zel

@@ -14,11 +14,20 @@ int bindColumns(Statement& statement, const SqlTable& table, const void* record,
             continue;
         const FlatColumn& column = table.layout->columns[i];
         switch (column.type) {
-        case FieldType::int32: statement.bind(parameter++, static_cast<std::int64_t>(column.in<std::int32_t>(record))); break;
-        case FieldType::uint32: statement.bind(parameter++, static_cast<std::int64_t>(column.in<std::uint32_t>(record))); break;
-        case FieldType::real: statement.bind(parameter++, column.in<double>(record)); break;
-        case FieldType::text: statement.bind(parameter++, std::string_view(column.in<CString>(record))); break;
-        case FieldType::record: break;    // flattened into columns of its own
+        case FieldType::int32:
+            statement.bind(parameter++, static_cast<std::int64_t>(column.in<std::int32_t>(record)));
+            break;
+        case FieldType::uint32:
+            statement.bind(parameter++, static_cast<std::int64_t>(column.in<std::uint32_t>(record)));
+            break;
+        case FieldType::real:
+            statement.bind(parameter++, column.in<double>(record));
+            break;
+        case FieldType::text:
+            statement.bind(parameter++, std::string_view(column.in<CString>(record)));
+            break;
+        case FieldType::record:
+            break;  // flattened into columns of its own
         }
     }
     return parameter;
@@ -38,11 +47,20 @@ void readColumns(const Statement& statement, const SqlTable& table, void* record
             continue;
         const FlatColumn& column = table.layout->columns[i];
         switch (column.type) {
-        case FieldType::int32: column.in<std::int32_t>(record) = narrow<std::int32_t>(statement.integer(place)); break;
-        case FieldType::uint32: column.in<std::uint32_t>(record) = narrow<std::uint32_t>(statement.integer(place)); break;
-        case FieldType::real: column.in<double>(record) = statement.real(place); break;
-        case FieldType::text: column.in<CString>(record) = statement.text(place); break;
-        case FieldType::record: break;
+        case FieldType::int32:
+            column.in<std::int32_t>(record) = narrow<std::int32_t>(statement.integer(place));
+            break;
+        case FieldType::uint32:
+            column.in<std::uint32_t>(record) = narrow<std::uint32_t>(statement.integer(place));
+            break;
+        case FieldType::real:
+            column.in<double>(record) = statement.real(place);
+            break;
+        case FieldType::text:
+            column.in<CString>(record) = statement.text(place);
+            break;
+        case FieldType::record:
+            break;
         }
         ++place;
     }
@@ -52,9 +70,12 @@ bool sameScalars(const FlatLayout& layout, const void* left, const void* right)
 {
     return std::all_of(layout.columns.begin(), layout.columns.end(), [&](const FlatColumn& column) {
         switch (column.type) {
-        case FieldType::real: return column.in<double>(left) == column.in<double>(right);
-        case FieldType::text: return column.in<CString>(left) == column.in<CString>(right);
-        default: return column.in<std::uint32_t>(left) == column.in<std::uint32_t>(right);
+        case FieldType::real:
+            return column.in<double>(left) == column.in<double>(right);
+        case FieldType::text:
+            return column.in<CString>(left) == column.in<CString>(right);
+        default:
+            return column.in<std::uint32_t>(left) == column.in<std::uint32_t>(right);
         }
     });
 }
@@ -82,7 +103,10 @@ bool sameLists(const FlatLayout& layout, const void* left, const void* right)
 
 }  // namespace
 
-bool RowStore::Address::operator==(const Address& other) const { return size == other.size && std::equal(parts, parts + size, other.parts); }
+bool RowStore::Address::operator==(const Address& other) const
+{
+    return size == other.size && std::equal(parts, parts + size, other.parts);
+}
 
 RowStore::Address RowStore::addressOf(const TableInfo& table, int kind, Key key)
 {
@@ -160,7 +184,7 @@ void RowStore::remove(const SqlTable& table, const Address& address)
     Statement& statement = prepared(m_statements[&table].remove, deleteStatement(table, address.size));
     for (std::size_t i = 0; i < address.size; ++i)
         statement.bind(static_cast<int>(i) + 1, address.parts[i]);
-    statement.run();    // its lists go with it
+    statement.run();  // its lists go with it
     if (m_database.changes() != 1)
         throw DamagedRows("a row to delete is not there");
 }

@@ -12,7 +12,7 @@ public:
 
     [[nodiscard]] double DefaultGravity() const override
     {
-        constexpr double standardGravity = 9.80665;    // m/s^2; 3rd General Conference on Weights and Measures, 1901
+        constexpr double standardGravity = 9.80665;  // m/s^2; 3rd General Conference on Weights and Measures, 1901
         return standardGravity / m_units.GetConvertFactorCurrent(Unit::acceleration);
     }
     void GetPreference(T_PREFERENCE& preference) const override { preference = m_preference; }

@@ -44,9 +44,15 @@ Statement::Statement(Database& database, const CString& sql) : m_database(databa
         fail(code);
 }
 
-void Statement::bind(int parameter, std::int64_t value) { check(sqlite3_bind_int64(m_handle.get(), parameter, value)); }
+void Statement::bind(int parameter, std::int64_t value)
+{
+    check(sqlite3_bind_int64(m_handle.get(), parameter, value));
+}
 
-void Statement::bind(int parameter, double value) { check(sqlite3_bind_double(m_handle.get(), parameter, value)); }
+void Statement::bind(int parameter, double value)
+{
+    check(sqlite3_bind_double(m_handle.get(), parameter, value));
+}
 
 void Statement::bind(int parameter, std::string_view value)
 {
@@ -80,6 +86,9 @@ std::string_view Statement::text(int column) const
     return data != nullptr ? std::string_view(data, static_cast<std::size_t>(sqlite3_column_bytes(m_handle.get(), column))) : std::string_view();
 }
 
-void Statement::fail(int code) const { throw SqliteError(code, sqlite3_errmsg(m_database)); }
+void Statement::fail(int code) const
+{
+    throw SqliteError(code, sqlite3_errmsg(m_database));
+}
 
 }  // namespace zel

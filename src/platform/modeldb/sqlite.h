@@ -30,7 +30,7 @@ public:
     Database(const std::filesystem::path& path, int flags);
 
     void run(const CString& sql);
-    [[nodiscard]] std::int64_t number(const CString& sql);    ///< first column of the first row; 0 if there is no row
+    [[nodiscard]] std::int64_t number(const CString& sql);  ///< first column of the first row; 0 if there is no row
     [[nodiscard]] CString text(const CString& sql);
     [[nodiscard]] int changes() const { return sqlite3_changes(m_handle.get()); }
     [[nodiscard]] sqlite3* handle() const { return m_handle.get(); }

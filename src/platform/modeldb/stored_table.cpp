@@ -12,15 +12,23 @@ namespace zel {
 namespace {
 
 constexpr int kindCount = 5;
-constexpr std::size_t longestName = 80;    // characters
+constexpr std::size_t longestName = 80;  // characters
 
-bool isBlank(const CString& text) { return text.find_first_not_of(" \t\r\n") == CString::npos; }
+bool isBlank(const CString& text)
+{
+    return text.find_first_not_of(" \t\r\n") == CString::npos;
+}
 
 }  // namespace
 
-StoredTable::StoredTable(const TableInfo& info, ChangeSink& sink) : m_info(info), m_sink(sink), m_spaces(info.shape == TableShape::kinded ? kindCount + 1 : 1) {}
+StoredTable::StoredTable(const TableInfo& info, ChangeSink& sink) : m_info(info), m_sink(sink), m_spaces(info.shape == TableShape::kinded ? kindCount + 1 : 1)
+{
+}
 
-std::vector<int> StoredTable::kinds() const { return m_info.shape == TableShape::kinded ? std::vector<int>{1, 2, 3, 4, 5} : std::vector<int>{0}; }
+std::vector<int> StoredTable::kinds() const
+{
+    return m_info.shape == TableShape::kinded ? std::vector<int>{1, 2, 3, 4, 5} : std::vector<int>{0};
+}
 
 const StoredTable::Space* StoredTable::space(int kind) const
 {
@@ -62,7 +70,7 @@ Key StoredTable::keyByName(int kind, const CString& name) const
     const Space* within = space(kind);
     if (within == nullptr || !named())
         return 0;
-    const auto found = within->names.find(foldedName(name));    // names are unique without regard to case
+    const auto found = within->names.find(foldedName(name));  // names are unique without regard to case
     return found != within->names.end() ? found->second : 0;
 }
 
@@ -78,7 +86,7 @@ Key StoredTable::freeKeyAbove(int kind, Key key) const
     if (within == nullptr)
         return 0;
     Key candidate = key + 1;
-    if (candidate == 0)    // every key up to the last one lies below: the first gap from the start
+    if (candidate == 0)  // every key up to the last one lies below: the first gap from the start
         candidate = 1;
     for (auto next = within->records.lower_bound(candidate); next != within->records.end() && next->first == candidate; ++next)
         ++candidate;
@@ -165,7 +173,7 @@ int StoredTable::modify(int kind, const std::vector<Key>& oldKeys, const std::ve
             moved.push_back(oldKeys[i]);
         batch.steps.push_back({oldKeys[i], key, kind, before, withKeptFields(m_info, std::move(records[i]), kind, key, recordPlace(m_info, before.get()))});
     }
-    if (!moved.empty()) {    // whoever refers to the old key would refer to nothing
+    if (!moved.empty()) {  // whoever refers to the old key would refer to nothing
         const CString users = m_sink.usersOf(m_info.table, moved);
         if (!users.empty())
             return refuse(Refusal::inUse, users);
@@ -200,7 +208,7 @@ int StoredTable::remove(int kind, const std::vector<Key>& keys)
 
     const CString name = describeChange("Delete", batch.steps);
     if (sequenced()) {
-        std::int32_t first = std::numeric_limits<std::int32_t>::max();    // those before it keep their places
+        std::int32_t first = std::numeric_limits<std::int32_t>::max();  // those before it keep their places
         for (const Step& step : batch.steps)
             first = std::min(first, recordPlace(m_info, step.before.get()));
         std::vector<Key> order;
@@ -289,7 +297,7 @@ bool StoredTable::namesStayUnique(const Space& space, const std::vector<Step>& s
     taken.reserve(steps.size());
     for (const Step& step : steps) {
         const CString& name = recordName(m_info, step.after.get());
-        if (name.empty())    // where a table takes it, any number of records may have no name
+        if (name.empty())  // where a table takes it, any number of records may have no name
             continue;
         const CString folded = foldedName(name);
         const auto holder = space.names.find(folded);
@@ -356,8 +364,7 @@ void StoredTable::applyStep(Space& space, const Step& step)
     if (sequenced() && step.before && step.after) {
         const auto place = recordPlace(m_info, step.after.get());
         space.orderStale = space.orderStale || step.oldKey != step.newKey || place != recordPlace(m_info, step.before.get());
-    }
-    else if (sequenced() && step.after) {
+    } else if (sequenced() && step.after) {
         if (static_cast<std::size_t>(recordPlace(m_info, step.after.get())) == space.order.size() + 1)
             space.order.push_back(step.newKey);
         else

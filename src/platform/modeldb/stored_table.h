@@ -38,8 +38,8 @@ private:
     /// Keys, names and sequence of one design kind.
     struct Space {
         std::map<Key, RecordPtr> records;
-        std::unordered_map<CString, Key> names;    ///< folded name to key
-        std::vector<Key> order;                    ///< only with a sequence
+        std::unordered_map<CString, Key> names;  ///< folded name to key
+        std::vector<Key> order;                  ///< only with a sequence
         bool orderStale = false;
     };
 
@@ -58,7 +58,7 @@ private:
 
     const TableInfo& m_info;
     ChangeSink& m_sink;
-    std::vector<Space> m_spaces;    ///< by kind; one alone for a table without kinds
+    std::vector<Space> m_spaces;  ///< by kind; one alone for a table without kinds
 };
 
 }  // namespace zel

@@ -22,7 +22,10 @@ bool isKnown(const T_UNIT_INDEX& system)
 }
 
 /// The unit control of the current document; every document of this system has one of this type.
-const UnitCtrl& currentUnits() { return static_cast<const UnitCtrl&>(*CDBDoc::GetDocPoint()->GetUnitCtrl()); }
+const UnitCtrl& currentUnits()
+{
+    return static_cast<const UnitCtrl&>(*CDBDoc::GetDocPoint()->GetUnitCtrl());
+}
 
 }  // namespace
 

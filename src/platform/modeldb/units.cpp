@@ -8,9 +8,9 @@ namespace zel {
 namespace {
 
 struct NamedUnit {
-    const char* name;      ///< in files and journals
-    const char* symbol;    ///< in texts
-    double size;           ///< in metres or newtons
+    const char* name;    ///< in files and journals
+    const char* symbol;  ///< in texts
+    double size;         ///< in metres or newtons
 };
 
 // Sizes: the international inch, foot and pound of 1959; standard gravity 9.80665 m/s^2.
@@ -38,6 +38,7 @@ struct Quantity {
 };
 
 // The place in this list is the unit type. Time is always seconds; angle and temperature have no size of their own.
+// clang-format off
 constexpr std::array<Quantity, Unit::count> quantities{{
     {0, 0, ""},               // none
     {1, 0, "L"},              // length
@@ -71,14 +72,21 @@ constexpr std::array<Quantity, Unit::count> quantities{{
     {0, 1, "F/sec"},          // force per time
     {1, 1, "F*L/sec"},        // moment per time
 }};
+// clang-format on
 
 const Quantity& quantity(int unitType)
 {
     return quantities[unitType >= 0 && unitType < Unit::count ? static_cast<std::size_t>(unitType) : 0];
 }
 
-const NamedUnit& lengthUnit(const T_UNIT_INDEX& system) { return lengthUnits.at(static_cast<std::size_t>(system.length)); }
-const NamedUnit& forceUnit(const T_UNIT_INDEX& system) { return forceUnits.at(static_cast<std::size_t>(system.force)); }
+const NamedUnit& lengthUnit(const T_UNIT_INDEX& system)
+{
+    return lengthUnits.at(static_cast<std::size_t>(system.length));
+}
+const NamedUnit& forceUnit(const T_UNIT_INDEX& system)
+{
+    return forceUnits.at(static_cast<std::size_t>(system.force));
+}
 
 double power(double base, int exponent)
 {
@@ -119,9 +127,21 @@ CString unitText(int unitType, const T_UNIT_INDEX& system)
     return text;
 }
 
-const char* lengthUnitName(int index) { return lengthUnits.at(static_cast<std::size_t>(index)).name; }
-const char* forceUnitName(int index) { return forceUnits.at(static_cast<std::size_t>(index)).name; }
-int lengthUnitIndex(std::string_view name) { return indexOf(lengthUnits, name); }
-int forceUnitIndex(std::string_view name) { return indexOf(forceUnits, name); }
+const char* lengthUnitName(int index)
+{
+    return lengthUnits.at(static_cast<std::size_t>(index)).name;
+}
+const char* forceUnitName(int index)
+{
+    return forceUnits.at(static_cast<std::size_t>(index)).name;
+}
+int lengthUnitIndex(std::string_view name)
+{
+    return indexOf(lengthUnits, name);
+}
+int forceUnitIndex(std::string_view name)
+{
+    return indexOf(forceUnits, name);
+}
 
 }  // namespace zel

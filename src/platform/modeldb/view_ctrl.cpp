@@ -8,11 +8,16 @@ namespace zel {
 const std::vector<Key>& ViewCtrl::of(const T_SELECTION& keys, std::size_t kind)
 {
     switch (kind) {
-    case points: return keys.points;
-    case lines: return keys.lines;
-    case areas: return keys.areas;
-    case nodes: return keys.nodes;
-    default: return keys.elements;
+    case points:
+        return keys.points;
+    case lines:
+        return keys.lines;
+    case areas:
+        return keys.areas;
+    case nodes:
+        return keys.nodes;
+    default:
+        return keys.elements;
     }
 }
 
@@ -22,7 +27,10 @@ Table ViewCtrl::tableOf(std::size_t kind)
     return tables.at(kind);
 }
 
-std::vector<Key> ViewCtrl::listed(std::size_t kind) const { return {m_selected.at(kind).begin(), m_selected.at(kind).end()}; }
+std::vector<Key> ViewCtrl::listed(std::size_t kind) const
+{
+    return {m_selected.at(kind).begin(), m_selected.at(kind).end()};
+}
 
 std::vector<Key> ViewCtrl::others(std::size_t kind) const
 {
@@ -53,11 +61,20 @@ void ViewCtrl::unselect(const T_SELECTION& keys)
     take(std::move(selection));
 }
 
-void ViewCtrl::SelectPrevious() { take(m_before); }
+void ViewCtrl::SelectPrevious()
+{
+    take(m_before);
+}
 
-void ViewCtrl::UnselectAll(CView* /*view*/) { take({}); }
+void ViewCtrl::UnselectAll(CView* /*view*/)
+{
+    take({});
+}
 
-T_SELECTION ViewCtrl::selection() const { return {listed(points), listed(lines), listed(areas), listed(nodes), listed(elements)}; }
+T_SELECTION ViewCtrl::selection() const
+{
+    return {listed(points), listed(lines), listed(areas), listed(nodes), listed(elements)};
+}
 
 void ViewCtrl::dropMissing()
 {
