@@ -84,7 +84,7 @@ bool CCMLoadCombGrid::ReadItems(const CArray<CString>& texts, T_LCOM_D& record)
         const bool same = text == factorText(stored);
         const double factor = same ? stored : RealOf(text);
         changed = changed || !same;
-        if (factor != 0.0)
+        if (factor != 0.0 && zel::isLoadCase(each.key))
             items.push_back({each.type, each.key, factor});
     }
     if (changed) {

@@ -42,28 +42,38 @@ void CCMLoadCombSubGrid::Initialize()
     SetColHidden(placeColumn);
     SetColDisabled(placeColumn);
     SetAppendRow(HasCombination());
-    FillCases();
+    OfferCases(ReadCases());
     CTBCommon::Initialize();
 }
 
-void CCMLoadCombSubGrid::FillCases()
+std::vector<CCMLoadCombSubGrid::Case> CCMLoadCombSubGrid::ReadCases()
 {
     std::vector<zel::Key> keys;
     std::vector<T_STLD_D> records;
     CDataStld().GetList(keys, records);
+    std::vector<Case> cases;
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        cases.push_back({keys[i], zel::staticCaseText(records[i].name)});
+    return cases;
+}
+
+void CCMLoadCombSubGrid::OfferCases(std::vector<Case>&& cases)
+{
+    m_cases = std::move(cases);
     std::vector<CString> choices;
-    m_cases.clear();
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        m_cases.push_back({keys[i], zel::staticCaseText(records[i].name)});
-        choices.push_back(m_cases.back().text);
-    }
+    for (const Case& each : m_cases)
+        choices.push_back(each.text);
     choices.push_back(zel::loadText("IDS_ZEL_CMD__None"));
     SetColChoices(caseColumn, choices);
 }
 
 void CCMLoadCombSubGrid::FollowLoadCases()
 {
-    FillCases();
+    std::vector<Case> cases = ReadCases();
+    if (cases == m_cases)
+        return;
+    OnTerminate(2);
+    OfferCases(std::move(cases));
     ShowItems(m_kind, m_key);
 }
 
@@ -91,7 +101,7 @@ CCMLoadCombSubGrid::RowItem CCMLoadCombSubGrid::ItemOf(const CArray<CString>& te
     T_LCOM_ITEM item{staticCase, CaseOf(texts[caseColumn]), RealOf(trimmed(texts[factorColumn]))};
     if (stored != nullptr && texts[factorColumn] == RealText(stored->factor))
         item.factor = stored->factor;
-    return item.key == 0 || item.factor == 0.0 ? RowItem() : RowItem(item);
+    return item.factor != 0.0 && zel::isLoadCase(item.key) ? RowItem(item) : RowItem();
 }
 
 void CCMLoadCombSubGrid::MakeItemNormal(int count, const CArray<int>& /*columns*/)

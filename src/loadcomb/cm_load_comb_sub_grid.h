@@ -16,7 +16,7 @@ public:
     /// Shows the items of a combination, as they are now; key 0: of none. A row under edit of another one is ended first.
     void ShowItems(int kind, zel::Key key);
     [[nodiscard]] bool HasCombination() const { return m_key != 0; }
-    /// Follows changes of the load cases.
+    /// Follows changes of the load cases. If any came, went or has another name, a row under edit is ended first.
     void FollowLoadCases();
     /// Whether the user was refused when leaving the grid: its row waits for a correction.
     [[nodiscard]] bool IsRefused() const { return m_refused && IsEdit(); }
@@ -49,11 +49,14 @@ private:
     struct Case {
         zel::Key key = 0;
         CString text;
+
+        bool operator==(const Case&) const = default;
     };
     /// An item as a row holds it; none where the row is empty or its factor is 0.
     using RowItem = std::optional<T_LCOM_ITEM>;
 
-    void FillCases();
+    [[nodiscard]] static std::vector<Case> ReadCases();
+    void OfferCases(std::vector<Case>&& cases);
     /// Key of a load case by its text in the list; 0 if it is none of them.
     [[nodiscard]] zel::Key CaseOf(const CString& text) const;
     /// @param stored  the item before; null for a new one. Its factor is kept if its text is

@@ -3,6 +3,7 @@
 #include "command/messages.h"
 #include "contract/document.h"
 #include "contract/number_text.h"
+#include "contract/tables/load_tables.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -26,6 +27,11 @@ bool itemsFit(const std::vector<T_LCOM_ITEM>& items)
         return true;
     showMessage("IDS_ZEL_CMD__Error___Number_of_load_case_exceeds_li_MSG1", {mostItems});
     return false;
+}
+
+bool isLoadCase(Key key)
+{
+    return CDataStld().Get(key) != 0;
 }
 
 CString newCombinationName(int kind)

@@ -11,6 +11,9 @@ namespace zel {
 /// Whether a combination may hold so many items in the editor, which takes 50; a message if not.
 bool itemsFit(const std::vector<T_LCOM_ITEM>& items);
 
+/// Whether there is a static load case of that key. One may have gone while a factor of it was being typed.
+bool isLoadCase(Key key);
+
 /// The first "LCB%d" that no combination of the kind bears; %d starts behind their count.
 CString newCombinationName(int kind);
 

@@ -267,6 +267,35 @@ TEST_F(LoadCombinationNotices, ARowUnderEditIsWrittenBeforeTheColumnsChange)
     EXPECT_THAT(stored("A").items, ElementsAre(T_LCOM_ITEM{1, 1, 1.0}, T_LCOM_ITEM{1, 2, 1.6}));
 }
 
+TEST_F(LoadCombinationNotices, AFactorOfACaseThatGoesMeanwhileIsNoItem)
+{
+    const Form form = openSpreadsheet();
+    typeOpen(sheet(form), 0, {{wx, "1.6"}, {ll, "0.5"}});
+    deleteCase("WX");
+    EXPECT_THAT(stored("A").items, ElementsAre(T_LCOM_ITEM{1, 1, 1.0}, T_LCOM_ITEM{1, 2, 0.5}));
+    ASSERT_NE(model->Undo(), 0);
+    ASSERT_NE(model->Undo(), 0);
+    form.press("toggle");
+    click(mainGrid(form), 0, mainName);
+    typeOpen(subGrid(form), append, {{loadCase, "WX(ST)"}, {factor, "1.6"}});
+    deleteCase("WX");
+    EXPECT_FALSE(subGrid(form).IsEdit());
+    EXPECT_THAT(stored("A").items, ElementsAre(T_LCOM_ITEM{1, 1, 1.0}));
+}
+
+TEST_F(LoadCombinationNotices, AnItemUnderEditIsWrittenBeforeItsCaseIsRenamed)
+{
+    const Form form = open();
+    click(mainGrid(form), 0, mainName);
+    typeOpen(subGrid(form), 0, {{factor, "1.4"}});
+    renameCase("DL", "dead");
+    EXPECT_THAT(stored("A").items, ElementsAre(T_LCOM_ITEM{1, 1, 1.4}));
+    EXPECT_THAT(rows(subGrid(form)), ElementsAre("dead(ST)|1.4|1"));
+    typeOpen(subGrid(form), 0, {{factor, "1.5"}});
+    changeCase("dead", [](T_STLD_D& record) { record.selfWeightFactor = 1.0; });
+    EXPECT_TRUE(subGrid(form).IsEdit());
+}
+
 TEST_F(LoadCombinationNotices, TheColumnOfADeletedCaseLeavesTheCurrentCellNearby)
 {
     const Form form = openSpreadsheet();
