@@ -28,7 +28,7 @@ protected:
 TEST_F(DefaultCombination, ShowsItsFieldsInTheOrderOfThePage)
 {
     addCases();
-    open([this](const Form& form) {
+    open([](const Form& form) {
         EXPECT_EQ(form.dialog().GetWindowText(), "Select Default Load Combination");
         EXPECT_EQ(form.dialog().templateId(), 31002U);
         EXPECT_EQ(form.dialog().ClassName(), "CCMAutoLoadCombDlg");

@@ -306,7 +306,7 @@ TEST_F(DefaultCombinationScaleUps, WhatIsRememberedIsListedAtOpeningWithoutTheTe
 {
     addCases();
     store({{ey, 1.5, ez}, {ex, 0.5, ez}});
-    open([this](const Form& form) {
+    open([](const Form& form) {
         EXPECT_THAT(form.rows(), ElementsAre(Texts{"     1.500", "EY", "EZ"}, Texts{"     0.500", "EX", "EZ"}));
         EXPECT_THAT(form.selected(), ElementsAre(1));
         EXPECT_EQ(form.text(factor), "1") << "the fields open on their defaults";
