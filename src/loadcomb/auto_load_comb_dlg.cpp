@@ -34,12 +34,20 @@ CArray<CString> codesOfKind(int kind)
 {
     CArray<CString, CString&> names;
     switch (kind) {
-    case 1: CDBLib::GetConLcomCodeNameList(names); return names;
-    case 2: return {"AIK-ASD83", "AIK-LSD97", "AISC-ASD89", "AISC-LRFD93"};
-    case 3: CDBLib::GetConCodeNameList(names); return names;
-    case 4: return {"KCI-USD99", "AIK-USD94", "ACI318-89"};
-    case 5: return {"SSRC79", "AIK-SRC2K"};
-    default: return {};
+    case 1:
+        CDBLib::GetConLcomCodeNameList(names);
+        return names;
+    case 2:
+        return {"AIK-ASD83", "AIK-LSD97", "AISC-ASD89", "AISC-LRFD93"};
+    case 3:
+        CDBLib::GetConCodeNameList(names);
+        return names;
+    case 4:
+        return {"KCI-USD99", "AIK-USD94", "ACI318-89"};
+    case 5:
+        return {"SSRC79", "AIK-SRC2K"};
+    default:
+        return {};
     }
 }
 
@@ -163,7 +171,7 @@ void CCMAutoLoadCombDlg::OnDesignCode()
 {
     orthogonal.SetCheck(false);
     combType.SetSel(0);
-    formChanged();    // groups come and go by their rules
+    formChanged();  // groups come and go by their rules
 }
 
 // Scale-up of response spectrum load cases
@@ -237,7 +245,7 @@ void CCMAutoLoadCombDlg::OnDelete()
         return;
     }
     RemoveScaleUp(row);
-    OnChangedCurrentItem();    // so that Modify does not put the deleted entry into the row that is selected now
+    OnChangedCurrentItem();  // so that Modify does not put the deleted entry into the row that is selected now
 }
 
 /// A row with a case of accidental eccentricity switches that on, or Modify would lose it.
@@ -269,19 +277,19 @@ void CCMAutoLoadCombDlg::OnOK()
         return;
     }
     if (!isOneOf(code(), "KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022"))
-        horizontalPressure.SetCheck(false);    // the two load factors below it are read by no table
+        horizontalPressure.SetCheck(false);  // the two load factors below it are read by no table
     double alpha = 1.0;
     if (verticalPressure.GetCheck() && alphaH.GetEditValue(alpha) == 0)
         return;
 
     CDBDoc* document = CDBDoc::GetDocPoint();
-    document->beginChange("Generate load combinations of \"" + code() + "\"", CDBDoc::NoticeTime::each);    // one step to undo
+    document->beginChange("Generate load combinations of \"" + code() + "\"", CDBDoc::NoticeTime::each);  // one step to undo
     const bool ready = StoreScaleUps() && HasOrthogonalPairs();
     const bool generated = ready && Generate(alpha);
-    if (document->endChange(1) == 0)    // what is written stays, whatever failed behind it, unless the file did not take it
+    if (document->endChange(1) == 0)  // what is written stays, whatever failed behind it, unless the file did not take it
         return;
     if (ready)
-        ClearScaleUps();    // of what has run nothing is left for a second run
+        ClearScaleUps();  // of what has run nothing is left for a second run
     if (generated)
         EndDialog(IDOK);
 }

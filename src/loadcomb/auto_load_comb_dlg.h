@@ -47,54 +47,54 @@ private:
     [[nodiscard]] bool HasOrthogonalPairs() const;
     [[nodiscard]] bool Generate(double alpha) const;
 
-    CRadioGroup  mode{*this};
+    CRadioGroup mode{*this};
     CRadioButton modeAdd{mode, "modeAdd", "Add"};
     CRadioButton modeReplace{mode, "modeReplace", "Replace"};
-    CComboBox    designCode{*this, "designCode", "Design Code :", &CCMAutoLoadCombDlg::OnDesignCode};
-    CComboBox    loadCode{*this, "loadCode", "Load Code :"};    // hidden for every code
+    CComboBox designCode{*this, "designCode", "Design Code :", &CCMAutoLoadCombDlg::OnDesignCode};
+    CComboBox loadCode{*this, "loadCode", "Load Code :"};  // hidden for every code
 
-    CGroup       scaleUp{*this, "Scale Up of Response Spectrum Load Cases"};
-    CEditUnit    scaleUpFactor{scaleUp, "scaleUpFactor", "Scale Up Factor :"};
-    CComboBox    rsLoadCase{scaleUp, "rsLoadCase", "RS Load Case :"};
-    CCheckBox    eccentricity{scaleUp, "eccentricity", "Consider Accidental Eccentricity"};
-    CComboBox    esLoadCase{scaleUp, "esLoadCase", "ES Load Case :"};
-    CListCtrl    list{scaleUp, "list", &CCMAutoLoadCombDlg::OnChangedCurrentItem};
-    CButtonRow   buttons{scaleUp};
-    CButton      add{buttons, "add", "Add", &CCMAutoLoadCombDlg::OnAdd};
-    CButton      modify{buttons, "modify", "Modify", &CCMAutoLoadCombDlg::OnModify};
-    CButton      del{buttons, "del", "Delete", &CCMAutoLoadCombDlg::OnDelete};
+    CGroup scaleUp{*this, "Scale Up of Response Spectrum Load Cases"};
+    CEditUnit scaleUpFactor{scaleUp, "scaleUpFactor", "Scale Up Factor :"};
+    CComboBox rsLoadCase{scaleUp, "rsLoadCase", "RS Load Case :"};
+    CCheckBox eccentricity{scaleUp, "eccentricity", "Consider Accidental Eccentricity"};
+    CComboBox esLoadCase{scaleUp, "esLoadCase", "ES Load Case :"};
+    CListCtrl list{scaleUp, "list", &CCMAutoLoadCombDlg::OnChangedCurrentItem};
+    CButtonRow buttons{scaleUp};
+    CButton add{buttons, "add", "Add", &CCMAutoLoadCombDlg::OnAdd};
+    CButton modify{buttons, "modify", "Modify", &CCMAutoLoadCombDlg::OnModify};
+    CButton del{buttons, "del", "Delete", &CCMAutoLoadCombDlg::OnDelete};
 
-    CGroup       wind{*this, "Wind Direction"};
-    CButton      windSets{wind, "windSets", "Set Load Cases for Wind Direction..."};
+    CGroup wind{*this, "Wind Direction"};
+    CButton windSets{wind, "windSets", "Set Load Cases for Wind Direction..."};
 
-    CGroup       orthogonalGroup{*this, "Orthogonal Effect"};
-    CCheckBox    orthogonal{orthogonalGroup, "orthogonal", "Consider Orthogonal Effect (100:30 Rule)"};
-    CButton      orthogonalSets{orthogonalGroup, "orthogonalSets", "Set Load Cases for Orthogonal Effect..."};
+    CGroup orthogonalGroup{*this, "Orthogonal Effect"};
+    CCheckBox orthogonal{orthogonalGroup, "orthogonal", "Consider Orthogonal Effect (100:30 Rule)"};
+    CButton orthogonalSets{orthogonalGroup, "orthogonalSets", "Set Load Cases for Orthogonal Effect..."};
 
-    CGroup       types{*this, "Type"};
-    CRadioGroup  combType{types};
+    CGroup types{*this, "Type"};
+    CRadioGroup combType{types};
     CRadioButton strength{combType, "strength", "Strength"};
     CRadioButton special{combType, "special", "for Special Seismic Load"};
     CRadioButton vertical{combType, "vertical", "for Vertical Seismic Load"};
     CRadioButton underground{combType, "underground", "for Underground Load"};
     CRadioButton undergroundSpecial{combType, "undergroundSpecial", "for Underground Load (Special)"};
-    CButton      seismicFactors{types, "seismicFactors", "Factors for Seismic Design..."};
-    CButton      undergroundSets{types, "undergroundSets", "Set Load Cases for Underground Load..."};
+    CButton seismicFactors{types, "seismicFactors", "Factors for Seismic Design..."};
+    CButton undergroundSets{types, "undergroundSets", "Set Load Cases for Underground Load..."};
 
-    CGroup       verticalPressureGroup{*this, "Vertical Pressure Load"};
-    CCheckBox    verticalPressure{verticalPressureGroup, "verticalPressure", "Consider Vertical Pressure Load(Earth)"};
-    CRow         alphaHRow{verticalPressureGroup};
-    CEditUnit    alphaH{alphaHRow, "alphaH", "Alpha_H :"};
-    CButton      alphaHButton{alphaHRow, "alphaHButton", "...", &CCMAutoLoadCombDlg::OnAlphaH};
+    CGroup verticalPressureGroup{*this, "Vertical Pressure Load"};
+    CCheckBox verticalPressure{verticalPressureGroup, "verticalPressure", "Consider Vertical Pressure Load(Earth)"};
+    CRow alphaHRow{verticalPressureGroup};
+    CEditUnit alphaH{alphaHRow, "alphaH", "Alpha_H :"};
+    CButton alphaHButton{alphaHRow, "alphaHButton", "...", &CCMAutoLoadCombDlg::OnAlphaH};
 
-    CGroup       horizontalPressureGroup{*this, "Horizontal Pressure Load"};    // hidden for every code
-    CCheckBox    horizontalPressure{horizontalPressureGroup, "horizontalPressure", "Consider Horizontal Pressure Load(Earth)"};
-    CComboBox    strengthFactor{horizontalPressureGroup, "strengthFactor", "Load Factor For Strength :"};
-    CComboBox    serviceFactor{horizontalPressureGroup, "serviceFactor", "Load Factor For Serviceability :"};
+    CGroup horizontalPressureGroup{*this, "Horizontal Pressure Load"};  // hidden for every code
+    CCheckBox horizontalPressure{horizontalPressureGroup, "horizontalPressure", "Consider Horizontal Pressure Load(Earth)"};
+    CComboBox strengthFactor{horizontalPressureGroup, "strengthFactor", "Load Factor For Strength :"};
+    CComboBox serviceFactor{horizontalPressureGroup, "serviceFactor", "Load Factor For Serviceability :"};
 
-    CButtonRow   closing{*this};
-    CButton      ok{closing, "ok", "OK", &CCMAutoLoadCombDlg::OnOK};
-    CButton      cancel{closing, "cancel", "Cancel", &CCMAutoLoadCombDlg::OnCancel};
+    CButtonRow closing{*this};
+    CButton ok{closing, "ok", "OK", &CCMAutoLoadCombDlg::OnOK};
+    CButton cancel{closing, "cancel", "Cancel", &CCMAutoLoadCombDlg::OnCancel};
 
     int m_kind;
 };

@@ -6,7 +6,10 @@
 
 #include <algorithm>
 
-CCMEnvlItemDlg::CCMEnvlItemDlg(CWnd* parent) : CDlgMove(31004, "Define Envelope", parent) { SetDefButton(ok); }
+CCMEnvlItemDlg::CCMEnvlItemDlg(CWnd* parent) : CDlgMove(31004, "Define Envelope", parent)
+{
+    SetDefButton(ok);
+}
 
 CCMEnvlItemDlg::~CCMEnvlItemDlg() = default;
 
@@ -34,7 +37,7 @@ int CCMEnvlItemDlg::OnInitDialog()
         const auto found = std::ranges::find(m_candidates, item, &Candidate::item);
         if (found != m_candidates.end())
             found->selected = true;
-        else    // gone from the model: it stays in the envelope until the user takes it out
+        else  // gone from the model: it stays in the envelope until the user takes it out
             m_candidates.push_back({item, true});
     }
     MakeItemEx();
@@ -64,7 +67,7 @@ void CCMEnvlItemDlg::Move(CListCtrl& from, bool select)
 bool CCMEnvlItemDlg::Save()
 {
     m_record.name = name.GetWindowText();
-    if (m_record.name.empty()) {    // a name of blanks is a name
+    if (m_record.name.empty()) {  // a name of blanks is a name
         zel::showMessage("IDS_ZEL_CMD__Error___Name_has_not_been_input_");
         return false;
     }
@@ -84,7 +87,7 @@ bool CCMEnvlItemDlg::Save()
         return envelopes.Add(m_record) != 0;
     if (envelopes.Modify(m_oldName) == 0)
         return false;
-    m_oldName = m_record.name;    // a second Apply modifies it under its new name
+    m_oldName = m_record.name;  // a second Apply modifies it under its new name
     return true;
 }
 
@@ -94,4 +97,7 @@ void CCMEnvlItemDlg::OnOK()
         CDlgMove::OnOK();
 }
 
-void CCMEnvlItemDlg::OnApply() { Save(); }
+void CCMEnvlItemDlg::OnApply()
+{
+    Save();
+}

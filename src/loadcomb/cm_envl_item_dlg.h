@@ -27,21 +27,21 @@ private:
         bool selected = false;
     };
 
-    CEdit      name{*this, "name", "Envelope Name : "};
-    CEdit      description{*this, "description", "Description        : "};
-    CGroup     candidateGroup{*this, "Load Case && Combination List"};
-    CListCtrl  candidates{candidateGroup, "candidates", {}, CListCtrl::Selection::multiple};
+    CEdit name{*this, "name", "Envelope Name : "};
+    CEdit description{*this, "description", "Description        : "};
+    CGroup candidateGroup{*this, "Load Case && Combination List"};
+    CListCtrl candidates{candidateGroup, "candidates", {}, CListCtrl::Selection::multiple};
     CButtonRow moveButtons{*this};
-    CButton    moveRight{moveButtons, "moveRight", "->", [this] { Move(candidates, true); }};
-    CButton    moveLeft{moveButtons, "moveLeft", "<-", [this] { Move(selected, false); }};
-    CGroup     selectedGroup{*this, "Selected List"};
-    CListCtrl  selected{selectedGroup, "selected", {}, CListCtrl::Selection::multiple};
+    CButton moveRight{moveButtons, "moveRight", "->", [this] { Move(candidates, true); }};
+    CButton moveLeft{moveButtons, "moveLeft", "<-", [this] { Move(selected, false); }};
+    CGroup selectedGroup{*this, "Selected List"};
+    CListCtrl selected{selectedGroup, "selected", {}, CListCtrl::Selection::multiple};
     CButtonRow buttons{*this};
-    CButton    ok{buttons, "ok", "&OK", &CCMEnvlItemDlg::OnOK};
-    CButton    cancel{buttons, "cancel", "&Cancel", &CCMEnvlItemDlg::OnCancel};
-    CButton    apply{buttons, "apply", "&Apply", &CCMEnvlItemDlg::OnApply};
+    CButton ok{buttons, "ok", "&OK", &CCMEnvlItemDlg::OnOK};
+    CButton cancel{buttons, "cancel", "&Cancel", &CCMEnvlItemDlg::OnCancel};
+    CButton apply{buttons, "apply", "&Apply", &CCMEnvlItemDlg::OnApply};
 
-    std::vector<Candidate> m_candidates;    ///< everything that can be enveloped, and the items of the envelope that no longer exist
+    std::vector<Candidate> m_candidates;  ///< everything that can be enveloped, and the items of the envelope that no longer exist
     T_ENVL_D m_record;
     CString m_oldName;
     bool m_modify = false;

@@ -11,7 +11,10 @@
 
 ZEL_DIALOG(CCMEnvlListDlg)
 
-CCMEnvlListDlg::CCMEnvlListDlg(CWnd* parent) : CDlgMove(14054, "Envelope", parent) { envelopeList.onDoubleClick(&CCMEnvlListDlg::OnModify); }
+CCMEnvlListDlg::CCMEnvlListDlg(CWnd* parent) : CDlgMove(14054, "Envelope", parent)
+{
+    envelopeList.onDoubleClick(&CCMEnvlListDlg::OnModify);
+}
 
 CCMEnvlListDlg::~CCMEnvlListDlg() = default;
 
@@ -64,7 +67,10 @@ bool CCMEnvlListDlg::GetSelectedItem(T_ENVL_D& envelope)
     return false;
 }
 
-void CCMEnvlListDlg::OnAdd() { CCMEnvlItemDlg(this).DoModal(); }
+void CCMEnvlListDlg::OnAdd()
+{
+    CCMEnvlItemDlg(this).DoModal();
+}
 
 void CCMEnvlListDlg::OnModify()
 {

@@ -23,12 +23,12 @@ private:
     void UpdateBuffer(const CViewBuff& buffer) override;
     [[nodiscard]] bool canUpdate() const override { return IsWindow(); }
 
-    CListBox   envelopeList{*this, "envelopeList", "Envelope List", &CCMEnvlListDlg::ShowItems};
-    CGroup     itemGroup{*this, "Load Case && Combination List"};
-    CListCtrl  items{itemGroup, "items"};
+    CListBox envelopeList{*this, "envelopeList", "Envelope List", &CCMEnvlListDlg::ShowItems};
+    CGroup itemGroup{*this, "Load Case && Combination List"};
+    CListCtrl items{itemGroup, "items"};
     CButtonRow buttons{*this};
-    CButton    add{buttons, "add", "&Add", &CCMEnvlListDlg::OnAdd};
-    CButton    modify{buttons, "modify", "&Modify", &CCMEnvlListDlg::OnModify};
-    CButton    del{buttons, "del", "&Delete", &CCMEnvlListDlg::OnDelete};
-    CButton    close{buttons, "close", "&Close", &CCMEnvlListDlg::OnCancel};
+    CButton add{buttons, "add", "&Add", &CCMEnvlListDlg::OnAdd};
+    CButton modify{buttons, "modify", "&Modify", &CCMEnvlListDlg::OnModify};
+    CButton del{buttons, "del", "&Delete", &CCMEnvlListDlg::OnDelete};
+    CButton close{buttons, "close", "&Close", &CCMEnvlListDlg::OnCancel};
 };

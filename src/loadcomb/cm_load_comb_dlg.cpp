@@ -12,7 +12,7 @@
 namespace {
 
 struct KindOfTab {
-    const char* text;    ///< message key
+    const char* text;  ///< message key
     int kind;
 };
 
@@ -39,7 +39,7 @@ CCMLoadCombDlg::CCMLoadCombDlg(CWnd* parent) : CDBDlgBase(14052, "Load Combinati
     subGrid.visibleWhen(normalForm);
     grid.visibleWhen([this] { return m_spreadsheet; });
     subGrid.enabledWhen([this] { return subGrid.HasCombination(); });
-    mainGrid.enabledWhen([this] { return !subGrid.IsRefused(); });    // an item that is refused is corrected first, or given up
+    mainGrid.enabledWhen([this] { return !subGrid.IsRefused(); });  // an item that is refused is corrected first, or given up
 }
 
 CCMLoadCombDlg::~CCMLoadCombDlg() = default;
@@ -74,7 +74,7 @@ zel::CombinationGrid& CCMLoadCombDlg::ShownGrid()
 bool CCMLoadCombDlg::EndEditing()
 {
     if (subGrid.IsRefused())
-        return false;    // the user has just been told
+        return false;  // the user has just been told
     return subGrid.OnTerminate(1) != 0 && ShownGrid().OnTerminate(1) != 0;
 }
 

@@ -37,18 +37,18 @@ private:
     bool EndEditing();
     void ShowToggleText();
 
-    int m_kind = 1;                ///< design kind: 1 general, 2 steel, 3 concrete, 4 footing, 5 SRC
-    bool m_spreadsheet = false;    ///< which form is shown
+    int m_kind = 1;              ///< design kind: 1 general, 2 steel, 3 concrete, 4 footing, 5 SRC
+    bool m_spreadsheet = false;  ///< which form is shown
     int m_tab = 0;
 
-    CDlgTabCtrl         tabs{*this, "tabs", &CCMLoadCombDlg::OnSelectTab};
+    CDlgTabCtrl tabs{*this, "tabs", &CCMLoadCombDlg::OnSelectTab};
     CCMLoadCombMainGrid mainGrid{*this, "mainGrid", m_kind};
-    CCMLoadCombSubGrid  subGrid{*this, "subGrid"};
-    CCMLoadCombGrid     grid{*this, "grid", m_kind};
-    CButtonRow          buttons{*this};
-    CButton             copy{buttons, "copy", "Copy", &CCMLoadCombDlg::OnCopy};
-    CButton             import{buttons, "import", "Import...", &CCMLoadCombDlg::OnImport};
-    CButton             autoGeneration{buttons, "autoGeneration", "&Auto Generation...", &CCMLoadCombDlg::OnAutoGeneration};
-    CButton             toggle{buttons, "toggle", {}, &CCMLoadCombDlg::OnToggle};
-    CButton             close{buttons, "close", "&Close", &CCMLoadCombDlg::DestroyWindow};
+    CCMLoadCombSubGrid subGrid{*this, "subGrid"};
+    CCMLoadCombGrid grid{*this, "grid", m_kind};
+    CButtonRow buttons{*this};
+    CButton copy{buttons, "copy", "Copy", &CCMLoadCombDlg::OnCopy};
+    CButton import{buttons, "import", "Import...", &CCMLoadCombDlg::OnImport};
+    CButton autoGeneration{buttons, "autoGeneration", "&Auto Generation...", &CCMLoadCombDlg::OnAutoGeneration};
+    CButton toggle{buttons, "toggle", {}, &CCMLoadCombDlg::OnToggle};
+    CButton close{buttons, "close", "&Close", &CCMLoadCombDlg::DestroyWindow};
 };

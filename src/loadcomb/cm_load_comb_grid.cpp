@@ -98,8 +98,9 @@ bool CCMLoadCombGrid::ValidateField(const CString& text, int column)
 {
     if (!IsCase(column))
         return true;
-    return ValidateNumber(text, {zel::loadText("IDS_ZEL_CMD__Invalid_formula_"), zel::loadText("IDS_ZEL_CMD__Character_exists_in_double_value"),
-                                 zel::loadText("IDS_ZEL_CMD__Value_is_too_big_")});
+    return ValidateNumber(text,
+                          {zel::loadText("IDS_ZEL_CMD__Invalid_formula_"), zel::loadText("IDS_ZEL_CMD__Character_exists_in_double_value"),
+                           zel::loadText("IDS_ZEL_CMD__Value_is_too_big_")});
 }
 
 // Load cases

@@ -8,7 +8,7 @@
 /// A column of the spreadsheet that holds the factors of one load case.
 struct SLcomColItem {
     CString title;
-    std::int32_t type = 0;    ///< what `key` refers to, as in an item: 1 static load case
+    std::int32_t type = 0;  ///< what `key` refers to, as in an item: 1 static load case
     zel::Key key = 0;
 
     bool operator==(const SLcomColItem&) const = default;
@@ -39,6 +39,6 @@ private:
     [[nodiscard]] int ColumnOf(const T_LCOM_ITEM& item) const;
     void RemakeColumns();
 
-    std::vector<SLcomColItem> m_cases;                ///< in the order of their columns
-    std::unordered_map<zel::Key, int> m_columnOf;     ///< index of the column of each load case
+    std::vector<SLcomColItem> m_cases;             ///< in the order of their columns
+    std::unordered_map<zel::Key, int> m_columnOf;  ///< index of the column of each load case
 };

@@ -119,8 +119,8 @@ bool CCMLoadCombSubGrid::ValidateField(const CString& text, int column)
 {
     if (column != factorColumn)
         return true;
-    return ValidateNumber(text, {zel::loadText("IDS_ZEL_CMD__Invalid_Formula_"), zel::loadText("IDS_ZEL_CMD__Input_Number_"),
-                                 zel::loadText("IDS_ZEL_CMD__Out_of_range_")});
+    return ValidateNumber(
+        text, {zel::loadText("IDS_ZEL_CMD__Invalid_Formula_"), zel::loadText("IDS_ZEL_CMD__Input_Number_"), zel::loadText("IDS_ZEL_CMD__Out_of_range_")});
 }
 
 void CCMLoadCombSubGrid::WarnOfMissing(const char* what)
@@ -173,7 +173,7 @@ bool CCMLoadCombSubGrid::AddToDB(int row)
 {
     const RowItem item = ItemOf(GetRowTexts(row), nullptr);
     if (!item) {
-        RebuildRows();    // nothing to add: the row for a new item is empty again
+        RebuildRows();  // nothing to add: the row for a new item is empty again
         return true;
     }
     std::vector<T_LCOM_ITEM> items = Items();
@@ -207,8 +207,7 @@ bool CCMLoadCombSubGrid::DeleteFromDB(const CArray<int>& rows)
 
 // Pasting. The key of a row is the number of its item.
 
-bool CCMLoadCombSubGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys,
-                                             zel::GridValues& records)
+bool CCMLoadCombSubGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records)
 {
     if (!ValidateField(texts[factorColumn], factorColumn) || !ValidateRecord(texts, columns))
         return false;
@@ -256,7 +255,7 @@ bool CCMLoadCombSubGrid::AddToDB(const zel::GridValues& /*keys*/, const zel::Gri
     if (Write(items))
         return true;
     if (m_beforePaste)
-        Write(*m_beforePaste);    // rows that were pasted over may have gone, so that the rest no longer stands at its number
+        Write(*m_beforePaste);  // rows that were pasted over may have gone, so that the rest no longer stands at its number
     return false;
 }
 

@@ -44,7 +44,7 @@ public:
 private:
     static constexpr int caseColumn = 0;
     static constexpr int factorColumn = 1;
-    static constexpr int placeColumn = 2;    ///< hidden: number of the item, from 1
+    static constexpr int placeColumn = 2;  ///< hidden: number of the item, from 1
 
     struct Case {
         zel::Key key = 0;
@@ -70,8 +70,8 @@ private:
     bool Write(const std::vector<T_LCOM_ITEM>& items);
 
     int m_kind = 1;
-    zel::Key m_key = 0;                                    ///< of the combination that is shown
+    zel::Key m_key = 0;  ///< of the combination that is shown
     std::vector<Case> m_cases;
-    std::optional<std::vector<T_LCOM_ITEM>> m_beforePaste; ///< while a block is pasted: the items before any of it was written
+    std::optional<std::vector<T_LCOM_ITEM>> m_beforePaste;  ///< while a block is pasted: the items before any of it was written
     bool m_refused = false;
 };

@@ -17,7 +17,10 @@ constexpr std::array<const char*, 5> prefixes{"CB: ", "DS: ", "DC: ", "DF: ", "D
 
 ZEL_DIALOG(CCMLoadMLLCDlg)
 
-CCMLoadMLLCDlg::CCMLoadMLLCDlg(CWnd* parent) : CDlgMove(9210, "Create Load Cases Using Load Combinations", parent) { SetDefButton(apply); }
+CCMLoadMLLCDlg::CCMLoadMLLCDlg(CWnd* parent) : CDlgMove(9210, "Create Load Cases Using Load Combinations", parent)
+{
+    SetDefButton(apply);
+}
 
 CCMLoadMLLCDlg::~CCMLoadMLLCDlg() = default;
 

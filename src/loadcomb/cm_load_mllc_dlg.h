@@ -33,25 +33,25 @@ private:
     void UpdateBuffer(const CViewBuff& buffer) override;
     [[nodiscard]] bool canUpdate() const override { return IsWindow() && !m_suspended; }
 
-    CRow       combinationRow{*this};
-    CComboBox  loadCombination{combinationRow, "loadCombination", "Load Combination :"};
-    CButton    loadCombinationButton{combinationRow, "loadCombinationButton", "...", [] { zel::sendHostCommand(32894); }};
-    CRow       loadCaseRow{*this};
-    CComboBox  loadCase{loadCaseRow, "loadCase", "Load Case           :"};
-    CButton    loadCaseButton{loadCaseRow, "loadCaseButton", "...", [] { zel::sendHostCommand(32869); }};
-    CCheckBox  deleteCurrentLoads{*this, "deleteCurrentLoads", "Delete Current Loads in the Selected Load Case"};
-    CCheckBox  selfWeight{*this, "selfWeight", "Self Weight"};
-    CCheckBox  pointLoad{*this, "pointLoad", "Point Load"};
-    CCheckBox  specifiedDisplacement{*this, "specifiedDisplacement", "Specified Displacement"};
-    CCheckBox  lineLoad{*this, "lineLoad", "Line Load"};
-    CCheckBox  areaLoad{*this, "areaLoad", "Area Load"};
+    CRow combinationRow{*this};
+    CComboBox loadCombination{combinationRow, "loadCombination", "Load Combination :"};
+    CButton loadCombinationButton{combinationRow, "loadCombinationButton", "...", [] { zel::sendHostCommand(32894); }};
+    CRow loadCaseRow{*this};
+    CComboBox loadCase{loadCaseRow, "loadCase", "Load Case           :"};
+    CButton loadCaseButton{loadCaseRow, "loadCaseButton", "...", [] { zel::sendHostCommand(32869); }};
+    CCheckBox deleteCurrentLoads{*this, "deleteCurrentLoads", "Delete Current Loads in the Selected Load Case"};
+    CCheckBox selfWeight{*this, "selfWeight", "Self Weight"};
+    CCheckBox pointLoad{*this, "pointLoad", "Point Load"};
+    CCheckBox specifiedDisplacement{*this, "specifiedDisplacement", "Specified Displacement"};
+    CCheckBox lineLoad{*this, "lineLoad", "Line Load"};
+    CCheckBox areaLoad{*this, "areaLoad", "Area Load"};
     CButtonRow checkButtons{*this};
-    CButton    checkAll{checkButtons, "checkAll", "Check All", [this] { CheckAll(true); }};
-    CButton    checkNone{checkButtons, "checkNone", "Check None", [this] { CheckAll(false); }};
+    CButton checkAll{checkButtons, "checkAll", "Check All", [this] { CheckAll(true); }};
+    CButton checkNone{checkButtons, "checkNone", "Check None", [this] { CheckAll(false); }};
     CButtonRow buttons{*this};
-    CButton    apply{buttons, "apply", "Apply", &CCMLoadMLLCDlg::OnApply};
-    CButton    close{buttons, "close", "Close", &CCMLoadMLLCDlg::OnCancel};
+    CButton apply{buttons, "apply", "Apply", &CCMLoadMLLCDlg::OnApply};
+    CButton close{buttons, "close", "Close", &CCMLoadMLLCDlg::OnCancel};
 
-    std::vector<Combination> m_combinations;    ///< parallel to the lines of the list
-    bool m_suspended = false;    ///< the loads are being made: notices are passed over
+    std::vector<Combination> m_combinations;  ///< parallel to the lines of the list
+    bool m_suspended = false;                 ///< the loads are being made: notices are passed over
 };

@@ -111,12 +111,18 @@ private:
     {
         const double spectrum = m_values.shortPeriodCoefficient * m_values.verticalLoadFactor;
         switch (pair.with) {
-        case With::nothing: return pair.factor;
-        case With::alphaH: return pair.factor * m_values.alphaH;
-        case With::plusSpectrum: return pair.factor + spectrum;
-        case With::minusSpectrum: return pair.factor - spectrum;
-        case With::verticalForce: return pair.factor * m_values.verticalForceFactor;
-        default: return pair.factor * m_wind.w[windMark(pair.with)].factor;
+        case With::nothing:
+            return pair.factor;
+        case With::alphaH:
+            return pair.factor * m_values.alphaH;
+        case With::plusSpectrum:
+            return pair.factor + spectrum;
+        case With::minusSpectrum:
+            return pair.factor - spectrum;
+        case With::verticalForce:
+            return pair.factor * m_values.verticalForceFactor;
+        default:
+            return pair.factor * m_wind.w[windMark(pair.with)].factor;
         }
     }
 

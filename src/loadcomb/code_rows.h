@@ -21,11 +21,11 @@ struct RowValues {
 /// A row as it is added.
 struct WrittenRow {
     struct Factor {
-        std::string_view group;    ///< "" for a pair without a group
+        std::string_view group;  ///< "" for a pair without a group
         double factor = 0.0;
     };
     std::string_view block;
-    int flag = 1;                  ///< 0 service, 1 strength; 10 more in a part with `liveRoofIsSnow`
+    int flag = 1;  ///< 0 service, 1 strength; 10 more in a part with `liveRoofIsSnow`
     std::string text;
     std::vector<Factor> factors;
 };

@@ -8,7 +8,7 @@ namespace zel::loadcomb {
 
 namespace {
 
-constexpr std::string_view kindLetters = "gscfr";    // of kinds 1 to 5
+constexpr std::string_view kindLetters = "gscfr";  // of kinds 1 to 5
 constexpr std::string_view commonName = "LCB";
 constexpr std::size_t numberWidth = 3;
 
@@ -23,7 +23,7 @@ std::uint32_t hashOf(const T_LCOM_D& record)
 {
     std::uint64_t hash = mixed(static_cast<std::uint32_t>(record.active), static_cast<std::uint32_t>(record.number));
     for (const T_LCOM_ITEM& item : record.items) {
-        const double factor = item.factor + 0.0;    // -0.0 and 0.0 are equal
+        const double factor = item.factor + 0.0;  // -0.0 and 0.0 are equal
         hash = mixed(hash, (std::uint64_t{item.key} << 32) | static_cast<std::uint32_t>(item.type));
         hash = mixed(hash, std::bit_cast<std::uint64_t>(factor));
     }

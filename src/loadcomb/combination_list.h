@@ -43,7 +43,7 @@ public:
 private:
     struct Slot {
         std::uint32_t hash = 0;
-        std::uint32_t place = 0;    ///< in the list, counted from 1; 0 is free
+        std::uint32_t place = 0;  ///< in the list, counted from 1; 0 is free
     };
     void grow();
 
@@ -51,7 +51,7 @@ private:
     int m_rowCount = 0;
     std::int64_t m_lastNumber = 0;
     std::vector<T_LCOM_D> m_rows;
-    std::vector<Slot> m_slots;    ///< open addressing over a power of two, at most half full
+    std::vector<Slot> m_slots;  ///< open addressing over a power of two, at most half full
 };
 
 }  // namespace zel::loadcomb

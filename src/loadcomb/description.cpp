@@ -13,9 +13,9 @@ namespace {
 
 constexpr std::size_t nowhere = std::string::npos;
 constexpr std::string_view alphaToken = "(APH)";
-constexpr std::size_t longestDescription = 79;    // characters
+constexpr std::size_t longestDescription = 79;  // characters
 constexpr std::size_t keptOfLonger = 76;
-constexpr std::ptrdiff_t shortestPair = 4;        // distance of two parentheses that stay
+constexpr std::ptrdiff_t shortestPair = 4;  // distance of two parentheses that stay
 
 bool isDigit(char c)
 {
@@ -68,8 +68,8 @@ void deleteLoose(std::string& text, char sign)
 
 /// What the steps would find in a text, from one look at it: most formulas need their group names shortened and nothing else.
 struct Findings {
-    bool brackets = false;          ///< "(APH)", a loose sign or a short pair of parentheses
-    bool nestedNames = false;       ///< a name that ends in "LL": shortening one may make another
+    bool brackets = false;     ///< "(APH)", a loose sign or a short pair of parentheses
+    bool nestedNames = false;  ///< a name that ends in "LL": shortening one may make another
     std::size_t firstName = nowhere;
 };
 
@@ -85,7 +85,7 @@ Findings lookAt(std::string_view text)
 {
     static constexpr std::array<bool, 256> isMark = marksOf("()+-L");
     Findings found;
-    std::size_t open = nowhere;    // of the innermost pair
+    std::size_t open = nowhere;  // of the innermost pair
     std::size_t ignored = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (!isMark[static_cast<unsigned char>(text[i])])
@@ -107,7 +107,7 @@ Findings lookAt(std::string_view text)
             }
             break;
         default:
-            if (i == 0 || text[i - 1] != ' ' || at(text, i + 1) != ' ')    // a sign between blanks is never loose
+            if (i == 0 || text[i - 1] != ' ' || at(text, i + 1) != ' ')  // a sign between blanks is never loose
                 found.brackets |= looseSign(text, i, ignored) != 0;
         }
     }
@@ -148,7 +148,7 @@ std::size_t pairedBack(std::string_view text, std::size_t limit)
     std::size_t length = 0;
     for (std::size_t i = 1; i <= std::min(text.size(), limit) && !depth.unpaired; ++i) {
         const char c = text[text.size() - i];
-        depth.pass(c == '(' ? ')' : (c == ')' ? '(' : c));    // backwards each is the other
+        depth.pass(c == '(' ? ')' : (c == ')' ? '(' : c));  // backwards each is the other
         if (c == ' ' && depth.open == 0 && !depth.unpaired)
             length = i;
     }
@@ -182,7 +182,7 @@ void deleteLooseSigns(std::string& text)
 void deleteShortParentheses(std::string& text)
 {
     std::vector<std::size_t> open;
-    std::size_t kept = 0;    // characters of the result, which grows in the place of what has been read
+    std::size_t kept = 0;  // characters of the result, which grows in the place of what has been read
     for (const char c : std::string_view(text)) {
         if (c == '(')
             open.push_back(kept);
@@ -225,9 +225,11 @@ void rewriteDescription(std::string& text)
 SharedRewriting::SharedRewriting(const std::string& first, const std::string& last)
 {
     const std::size_t shorter = std::min(first.size(), last.size());
-    const auto alike = static_cast<std::size_t>(std::mismatch(first.begin(), first.begin() + static_cast<std::ptrdiff_t>(shorter), last.begin()).first - first.begin());
+    const auto alike =
+        static_cast<std::size_t>(std::mismatch(first.begin(), first.begin() + static_cast<std::ptrdiff_t>(shorter), last.begin()).first - first.begin());
     m_front = first.substr(0, pairedFront(first, alike));
-    const auto alikeBack = static_cast<std::size_t>(std::mismatch(first.rbegin(), first.rbegin() + static_cast<std::ptrdiff_t>(shorter), last.rbegin()).first - first.rbegin());
+    const auto alikeBack =
+        static_cast<std::size_t>(std::mismatch(first.rbegin(), first.rbegin() + static_cast<std::ptrdiff_t>(shorter), last.rbegin()).first - first.rbegin());
     m_back = first.substr(first.size() - pairedBack(first, std::min(alikeBack, shorter - m_front.size())));
     m_rewrittenFront = m_front;
     rewriteDescription(m_rewrittenFront);
@@ -239,7 +241,8 @@ void SharedRewriting::rewrite(std::string& text) const
 {
     const std::size_t front = m_front.size();
     const std::size_t back = m_back.size();
-    const bool shares = text.size() > front + back && (front == 0 || text[front] == ' ') && text.compare(0, front, m_front) == 0 && text.compare(text.size() - back, back, m_back) == 0;
+    const bool shares = text.size() > front + back && (front == 0 || text[front] == ' ') && text.compare(0, front, m_front) == 0 &&
+        text.compare(text.size() - back, back, m_back) == 0;
     if (!shares) {
         rewriteDescription(text);
         return;
@@ -264,10 +267,10 @@ void cutDescription(std::string& text)
     if (text.size() <= longestDescription)
         return;
     std::size_t characters = 0;
-    std::size_t end = 0;    // of the part that is kept of a longer text [bytes]
+    std::size_t end = 0;  // of the part that is kept of a longer text [bytes]
     for (std::size_t i = 0; i < text.size(); ++i) {
         if ((static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80U)
-            continue;    // goes on with a character
+            continue;  // goes on with a character
         if (characters == keptOfLonger)
             end = i;
         ++characters;

@@ -23,8 +23,8 @@ public:
     void rewrite(std::string& text) const;
 
 private:
-    std::string m_front, m_rewrittenFront;    ///< up to a blank, without it
-    std::string m_back, m_rewrittenBack;      ///< from a blank on
+    std::string m_front, m_rewrittenFront;  ///< up to a blank, without it
+    std::string m_back, m_rewrittenBack;    ///< from a blank on
 };
 
 /// Deletes every "(APH)" that is left.

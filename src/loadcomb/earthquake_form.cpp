@@ -21,9 +21,9 @@ std::string_view signText(double value)
 /// One of the two cases at right angles.
 struct RowExpansion::Member {
     std::uint32_t key = 0;
-    double coefficient = 1.0;     ///< k: 1.0 of the first member, 0.3 or -0.3 of the second
-    std::uint32_t partner = 0;    ///< the eccentric case, 0 for none
-    double partnerSign = 1.0;     ///< with which the partner is added
+    double coefficient = 1.0;   ///< k: 1.0 of the first member, 0.3 or -0.3 of the second
+    std::uint32_t partner = 0;  ///< the eccentric case, 0 for none
+    double partnerSign = 1.0;   ///< with which the partner is added
 };
 
 void RowExpansion::earthquakeForm(const _CCmd_Loadcase& group, double factor)
@@ -119,10 +119,10 @@ void RowExpansion::orthogonalEarthquakes(const _CCmd_Loadcase& group, double fac
     replaced.started = true;
     for (std::size_t from = 0; from < m_drafts.list.size(); ++from) {
         eachPair([&](Member first, Member second) {
-            addOrthogonal(replaced, from, first, second, factor);    // eccentric partners added
+            addOrthogonal(replaced, from, first, second, factor);  // eccentric partners added
             if (first.partner == 0 && second.partner == 0)
                 return;
-            first.partnerSign = second.partnerSign = -1.0;           // subtracted
+            first.partnerSign = second.partnerSign = -1.0;  // subtracted
             addOrthogonal(replaced, from, first, second, factor);
         });
     }
@@ -130,7 +130,7 @@ void RowExpansion::orthogonalEarthquakes(const _CCmd_Loadcase& group, double fac
         eachPair([&](Member first, Member second) {
             if (first.partner == 0 || second.partner == 0)
                 return;
-            second.partnerSign = -1.0;                               // one added, the other subtracted
+            second.partnerSign = -1.0;  // one added, the other subtracted
             addOrthogonal(replaced, from, first, second, factor);
             std::swap(first.partnerSign, second.partnerSign);
             addOrthogonal(replaced, from, first, second, factor);
@@ -157,7 +157,8 @@ void RowExpansion::addOrthogonal(Drafts& to, std::size_t from, const Member& fir
     if (m_state.tracing) {
         for (const Member& member : {first, second}) {
             const int sign = member.partner == 0 ? 0 : static_cast<int>(member.partnerSign);
-            choice.earthquakes.push_back({member.key, member.coefficient, m_state.scaleOf(member.key), m_state.overstrengthOf(member.key), member.partner, sign});
+            choice.earthquakes.push_back(
+                {member.key, member.coefficient, m_state.scaleOf(member.key), m_state.overstrengthOf(member.key), member.partner, sign});
         }
     }
     add(to, std::move(made), from, std::move(choice));

@@ -14,7 +14,7 @@ namespace zel::loadcomb {
 struct EnvelopeItemType {
     int type;
     const char* label;
-    int kind;    ///< design kind of a combination; 0 for other items
+    int kind;  ///< design kind of a combination; 0 for other items
 };
 
 // Response spectrum, time history, moving load and settlement cases come from other programs: they keep their label, and no table of this

@@ -30,22 +30,22 @@ inline constexpr int strength = 0, special = 1, vertical = 2, underground = 3, u
 struct ZEL_CMD_API ExpansionState {
     bool orthoOption = false;
     int combType = CombType::strength;
-    KeyFactors scaleFactors;             ///< (SUF) values
-    KeyPairs eccentricCases;             ///< an earthquake case to its eccentric partner
-    KeyPairs orthoPairs;                 ///< in both directions
-    KeyFactors overstrength;             ///< (OMG) values
-    UndergroundSets undergroundByCase;        ///< static earth pressures
-    UndergroundSets undergroundByCaseOther;   ///< seismic earth pressures
-    double underground = 1.0;            ///< of one row: ratio of its live load factor to its earthquake factor
-    bool serviceRow = false;             ///< of one row
-    std::map<int, std::vector<T_LCOM_ITEM>> extraItems;    ///< of one row, by a record's temporary number
+    KeyFactors scaleFactors;                             ///< (SUF) values
+    KeyPairs eccentricCases;                             ///< an earthquake case to its eccentric partner
+    KeyPairs orthoPairs;                                 ///< in both directions
+    KeyFactors overstrength;                             ///< (OMG) values
+    UndergroundSets undergroundByCase;                   ///< static earth pressures
+    UndergroundSets undergroundByCaseOther;              ///< seismic earth pressures
+    double underground = 1.0;                            ///< of one row: ratio of its live load factor to its earthquake factor
+    bool serviceRow = false;                             ///< of one row
+    std::map<int, std::vector<T_LCOM_ITEM>> extraItems;  ///< of one row, by a record's temporary number
     double shortPeriodCoefficient = 0.0;
     double verticalLoadFactor = 0.0;
     double verticalForceFactor = 0.0;
     double alphaH = 1.0;
     std::vector<T_LCOM_D> windCombinations;
-    std::unordered_map<std::uint32_t, std::string> names;    ///< of all load cases of the model
-    bool tracing = false;                ///< keep the choices of each draft
+    std::unordered_map<std::uint32_t, std::string> names;  ///< of all load cases of the model
+    bool tracing = false;                                  ///< keep the choices of each draft
 
     [[nodiscard]] bool exists(std::uint32_t key) const { return names.count(key) != 0; }
     /// Over-strength factors are used for special seismic loads, and never in service rows.
@@ -64,14 +64,14 @@ struct ZEL_CMD_API ExpansionState {
 struct Draft {
     std::string text;
     std::vector<T_LCOM_ITEM> items;
-    int number = 0;    ///< temporary, not 0 where `extraItems` holds something under it
+    int number = 0;  ///< temporary, not 0 where `extraItems` holds something under it
 };
 
 /// The drafts of one row, in order. Nothing is in the list before the first group with cases starts it.
 struct Drafts {
     bool started = false;
     std::vector<Draft> list;
-    std::vector<Choices> choices;    ///< beside the list while tracing, else empty
+    std::vector<Choices> choices;  ///< beside the list while tracing, else empty
 };
 
 /// A row that is being expanded.

@@ -21,7 +21,7 @@ namespace zel::loadcomb {
 
 /// What the generator reads of a model. A record that could not be read is missing.
 struct GeneratorModel {
-    std::vector<LoadCase> cases;    ///< in the sequence of the table
+    std::vector<LoadCase> cases;  ///< in the sequence of the table
     std::optional<T_LCWD_D> windSets;
     std::optional<T_LCOE_D> orthogonal;
     std::optional<T_LCUG_D> underground;
@@ -31,19 +31,19 @@ struct GeneratorModel {
 
 /// What the user chose.
 struct GeneratorOptions {
-    int kind = 1;                  ///< design kind, 1 to 5; only kind 1 has code tables
-    int combType = 0;              ///< type of combinations, 0 to 4
-    bool orthoOption = false;      ///< the 100:30 rule
+    int kind = 1;              ///< design kind, 1 to 5; only kind 1 has code tables
+    int combType = 0;          ///< type of combinations, 0 to 4
+    bool orthoOption = false;  ///< the 100:30 rule
     double alphaH = 1.0;
     KeyFactors scaleFactors;
-    KeyPairs eccentricCases;       ///< a value 0 is no entry
+    KeyPairs eccentricCases;  ///< a value 0 is no entry
     int loadCode = 1;
 };
 
 /// A factor of a row, with its load group.
 struct RowFactor {
-    double factor = 0.0;                       ///< exactly 0 for no pair
-    const _CCmd_Loadcase* group = nullptr;     ///< null for no pair
+    double factor = 0.0;                    ///< exactly 0 for no pair
+    const _CCmd_Loadcase* group = nullptr;  ///< null for no pair
 };
 
 /// Turns a code's rows into combinations over the load cases of a model. Needs no database.

@@ -20,8 +20,8 @@ namespace zel::lcb {
 
 namespace {
 
-constexpr std::size_t tooLong = 1020;       // bytes of a line that is refused
-constexpr std::size_t lineBuffer = 1024;    // of a line, its end included
+constexpr std::size_t tooLong = 1020;     // bytes of a line that is refused
+constexpr std::size_t lineBuffer = 1024;  // of a line, its end included
 constexpr std::size_t fewestFields = 4;
 constexpr std::size_t mostPairs = CDataLcom::mergeLimit;
 constexpr std::int32_t staticCase = 1;
@@ -42,7 +42,7 @@ public:
         if (!m_file.getline(m_buffer.data(), static_cast<std::streamsize>(m_buffer.size())) && m_file.gcount() == 0)
             return false;
         ++m_number;
-        const bool hasEnd = m_file.good();    // an end of line was read, which counts as taken
+        const bool hasEnd = m_file.good();  // an end of line was read, which counts as taken
         m_line = {m_buffer.data(), static_cast<std::size_t>(m_file.gcount()) - (hasEnd ? 1 : 0)};
         if (m_number == 1 && m_line.starts_with(byteOrderMark))
             m_line.remove_prefix(byteOrderMark.size());
@@ -52,7 +52,7 @@ public:
     }
 
     [[nodiscard]] std::string_view line() const { return m_line; }
-    [[nodiscard]] int number() const { return m_number; }    ///< from 1
+    [[nodiscard]] int number() const { return m_number; }  ///< from 1
     /// The file could not be read to its end.
     [[nodiscard]] bool broken() const { return m_file.bad(); }
 
@@ -169,10 +169,10 @@ private:
 
     Lines m_lines;
     const std::vector<Key>& m_cases;
-    CDataLcom m_table;    // merges
+    CDataLcom m_table;  // merges
     Fields m_fields;
     std::vector<T_LCOM_D> m_combinations;
-    std::unordered_map<std::int32_t, std::size_t> m_places;    ///< of the combinations by ID
+    std::unordered_map<std::int32_t, std::size_t> m_places;  ///< of the combinations by ID
 };
 
 int add(int kind, std::istream& file)

@@ -15,12 +15,12 @@ namespace zel::lcb {
 
 /// The first thing that is wrong with a file.
 struct Fault {
-    const char* key = nullptr;    ///< of the message
-    CString text;                 ///< the message, with the line and the field where it names them
+    const char* key = nullptr;  ///< of the message
+    CString text;               ///< the message, with the line and the field where it names them
 };
 
 struct Contents {
-    std::vector<T_LCOM_D> combinations;    ///< one an ID, "LCB%d", in the order of first mention; none where there is a fault
+    std::vector<T_LCOM_D> combinations;  ///< one an ID, "LCB%d", in the order of first mention; none where there is a fault
     std::optional<Fault> fault;
 };
 

@@ -17,7 +17,10 @@ constexpr int mostItems = 50;
 /// Up to so many rows are filled at once after a change; of more the ones that are looked at.
 constexpr std::size_t fewRows = 64;
 
-bool isBlank(const CString& text) { return number::trim(text).empty(); }
+bool isBlank(const CString& text)
+{
+    return number::trim(text).empty();
+}
 
 }  // namespace
 
@@ -283,7 +286,7 @@ void CombinationGrid::TakeOrder(const std::vector<Key>& keys)
     for (int row = same + 1; row <= oldCount; ++row)
         oldRows.emplace(m_keys[static_cast<std::size_t>(row - 1)], row);
 
-    CArray<int> order;    // rows behind those that stay, as they shall stand
+    CArray<int> order;  // rows behind those that stay, as they shall stand
     for (auto key = newEnd; key != keys.end(); ++key) {
         if (const auto found = oldRows.find(*key); found != oldRows.end()) {
             order.push_back(found->second);

@@ -86,7 +86,7 @@ private:
     void Refresh(const std::unordered_set<Key>& changed);
 
     int m_kind;
-    std::vector<Key> m_keys;    ///< of the rows, in order
+    std::vector<Key> m_keys;  ///< of the rows, in order
 };
 
 }  // namespace zel

@@ -83,7 +83,7 @@ int CLoadCombCtrl::generate(int mode, const CString& codeName, Storing storing)
     if (!dispatched)
         zel::showMessage(noLoadCase);
     if (!dispatched || m_run->rows().empty()) {
-        zel::showMessage(noLoadCase);    // a second time for a model without load cases, and that is meant
+        zel::showMessage(noLoadCase);  // a second time for a model without load cases, and that is meant
         return 0;
     }
     showProgress();

@@ -17,9 +17,9 @@ class ZEL_CMD_API CLoadCombCtrl {
 public:
     /// What happens to the rows of a run.
     enum class Storing {
-        store,           ///< they go into the model
-        storeAndKeep,    ///< and stay in `rows()` too
-        dryRun           ///< they stay in `rows()`, and the model is not touched
+        store,         ///< they go into the model
+        storeAndKeep,  ///< and stay in `rows()` too
+        dryRun         ///< they stay in `rows()`, and the model is not touched
     };
 
     /// Design kind: 1 general, 2 steel, 3 concrete, 4 footing, 5 SRC. Only kind 1 has code tables.

@@ -10,12 +10,12 @@
 #include <vector>
 
 /// The static load cases of one load group, with what the analysis of a row's text finds out about the group.
-struct _CCmd_Loadcase {    // NOLINT(bugprone-reserved-identifier): the documented name
-    CString                    name;                 ///< "DL", "LL", ...; "WLCB" where wind combinations stand in for "WL"
-    std::int32_t               inParentheses = 0;    ///< 1 when the row's text holds the name inside parentheses
-    std::int32_t               levels = 0;           ///< decimal digits, one for each parenthesis level that holds the name
-    std::vector<std::uint32_t> cases;                ///< keys of static load cases
-    std::vector<std::uint32_t> otherCases;           ///< empty in this system
+struct _CCmd_Loadcase {                     // NOLINT(bugprone-reserved-identifier): the documented name
+    CString name;                           ///< "DL", "LL", ...; "WLCB" where wind combinations stand in for "WL"
+    std::int32_t inParentheses = 0;         ///< 1 when the row's text holds the name inside parentheses
+    std::int32_t levels = 0;                ///< decimal digits, one for each parenthesis level that holds the name
+    std::vector<std::uint32_t> cases;       ///< keys of static load cases
+    std::vector<std::uint32_t> otherCases;  ///< empty in this system
 
     [[nodiscard]] bool hasCases() const { return !cases.empty() || !otherCases.empty(); }
     /// Whether the digits of `level` stand in the digits of `levels`.

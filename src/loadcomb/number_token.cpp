@@ -7,7 +7,7 @@ namespace zel::loadcomb {
 
 namespace {
 
-constexpr std::size_t longestNumber = 400;    // "%.3f" of the largest double has 313 characters
+constexpr std::size_t longestNumber = 400;  // "%.3f" of the largest double has 313 characters
 
 std::string printed(double value, std::chars_format format, int precision)
 {

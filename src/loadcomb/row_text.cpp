@@ -36,7 +36,7 @@ public:
         if (m_left == 0)
             return false;
         --m_left;
-        m_open = m_token.rfind('(', m_open - 1);    // there are at least as many as turns
+        m_open = m_token.rfind('(', m_open - 1);  // there are at least as many as turns
         std::size_t close = m_token.find(')', m_open);
         while (close != none && std::find(m_paired.begin(), m_paired.end(), close) != m_paired.end())
             close = m_token.find(')', close + 1);
@@ -112,7 +112,8 @@ Feasibility testFeasibility(std::string& text, const std::vector<_CCmd_Loadcase>
             return {false, &group, 0};
     }
     for (int tested = level - 1; tested >= 1; --tested) {
-        const bool met = std::any_of(groups.begin(), groups.end(), [tested](const _CCmd_Loadcase& group) { return group.hasCases() && group.isInLevel(tested); });
+        const bool met =
+            std::any_of(groups.begin(), groups.end(), [tested](const _CCmd_Loadcase& group) { return group.hasCases() && group.isInLevel(tested); });
         if (!met)
             return {false, nullptr, tested};
     }

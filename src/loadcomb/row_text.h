@@ -20,8 +20,8 @@ ZEL_CMD_API int analyseText(std::string& text, std::vector<_CCmd_Loadcase>& grou
 /// Whether a row can be expanded, and if not, why.
 struct Feasibility {
     bool feasible = true;
-    const _CCmd_Loadcase* missing = nullptr;    ///< the mandatory group without cases, if that is the reason
-    int emptyLevel = 0;                         ///< the level without cases, if that is the reason
+    const _CCmd_Loadcase* missing = nullptr;  ///< the mandatory group without cases, if that is the reason
+    int emptyLevel = 0;                       ///< the level without cases, if that is the reason
 };
 
 /// A row is feasible when each group outside parentheses has cases, and each level has a group with cases. A group "PS" may lack

@@ -21,10 +21,7 @@ constexpr std::array<Sign, 2> bothSigns{{{1.0, "+"}, {-1.0, "-"}}};
 struct WindFactors {
     std::array<double, 3> along, across, torsion;
 
-    explicit WindFactors(const T_LCWD_BASE& set)
-        : along{1.0, 0.4 + 0.6 / set.gd, 0.4 + 0.6 / set.gd}, across{0.4, 1.0, set.k}, torsion{0.4, set.k, 1.0}
-    {
-    }
+    explicit WindFactors(const T_LCWD_BASE& set) : along{1.0, 0.4 + 0.6 / set.gd, 0.4 + 0.6 / set.gd}, across{0.4, 1.0, set.k}, torsion{0.4, set.k, 1.0} {}
 };
 
 class WindCombiner {
@@ -34,7 +31,7 @@ public:
         for (const LoadCase& loadCase : cases)
             m_names.emplace(loadCase.key, loadCase.name);
         for (const Sign& sign : bothSigns) {
-            const int left = sign.factor > 0.0 ? 2 : 1;    // the direction that leaves this sign out
+            const int left = sign.factor > 0.0 ? 2 : 1;  // the direction that leaves this sign out
             if (sets.torsionDirection != left)
                 m_torsionSigns.push_back(sign);
         }

@@ -12,9 +12,9 @@ namespace zel::loadcomb {
 
 /// How a set is combined. Sets whose along case does not exist are never met.
 enum class WindForm : std::uint8_t {
-    along = 1,              ///< the along case by itself
-    alongAcross = 4,        ///< of a middle or low rise building: both with 1.0
-    alongAcrossHigh = 5,    ///< of a high rise building: with the factors of GD
+    along = 1,            ///< the along case by itself
+    alongAcross = 4,      ///< of a middle or low rise building: both with 1.0
+    alongAcrossHigh = 5,  ///< of a high rise building: with the factors of GD
     alongTorsion = 6,
     all = 8
 };
