@@ -18,7 +18,6 @@ namespace {
 
 constexpr int firstKind = 1;
 constexpr int lastKind = 5;
-constexpr std::size_t longestName = 80;  // characters
 
 // Heads
 
@@ -66,11 +65,10 @@ void checkName(const TableInfo& table, const void* record, std::size_t place, Re
         return;
     const CString& name = recordName(table, record);
     const std::string path = memberPath(elementPath(std::string(table.code), place), "name");
-    if (table.names == NameRule::filled && name.find_first_not_of(" \t\r\n") == std::string::npos)
-        throw JsonFault(path, "must not be empty or blank");
-    if (table.names == NameRule::notEmpty && name.empty())
-        throw JsonFault(path, "must not be empty");
-    if (characterCount(name) > longestName)
+    const NameFault fault = nameFault(table, name);
+    if (fault == NameFault::notFilled)
+        throw JsonFault(path, table.names == NameRule::filled ? "must not be empty or blank" : "must not be empty");
+    if (fault == NameFault::tooLong)
         throw JsonFault(path, "is longer than " + std::to_string(longestName) + " characters");
     if (name.empty())
         return;

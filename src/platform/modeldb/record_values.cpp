@@ -128,6 +128,14 @@ CString foldedName(std::string_view name)
     return folded;
 }
 
+NameFault nameFault(const TableInfo& table, const CString& name)
+{
+    const bool blank = name.find_first_not_of(" \t\r\n") == CString::npos;
+    if ((table.names == NameRule::filled && blank) || (table.names == NameRule::notEmpty && name.empty()))
+        return NameFault::notFilled;
+    return name.size() > longestName && characterCount(name) > longestName ? NameFault::tooLong : NameFault::none;
+}
+
 std::size_t characterCount(std::string_view text)
 {
     return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));

@@ -26,6 +26,11 @@ const CString& recordName(const TableInfo& table, const void* record);
 /// The name as the tables compare it: without regard to the case of A to Z.
 CString foldedName(std::string_view name);
 
+/// What a table holds against a name.
+enum class NameFault { none, notFilled, tooLong };
+NameFault nameFault(const TableInfo& table, const CString& name);
+inline constexpr std::size_t longestName = 80;  ///< [characters]
+
 /// Number of characters of a UTF-8 text.
 std::size_t characterCount(std::string_view text);
 

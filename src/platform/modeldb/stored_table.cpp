@@ -12,12 +12,6 @@ namespace zel {
 namespace {
 
 constexpr int kindCount = 5;
-constexpr std::size_t longestName = 80;  // characters
-
-bool isBlank(const CString& text)
-{
-    return text.find_first_not_of(" \t\r\n") == CString::npos;
-}
 
 }  // namespace
 
@@ -278,11 +272,14 @@ bool StoredTable::acceptable(int kind, const std::vector<Step>& steps) const
 
 bool StoredTable::acceptableName(const CString& name) const
 {
-    const bool filled = m_info.names == NameRule::filled ? !isBlank(name) : m_info.names == NameRule::any || !name.empty();
-    if (!filled)
+    switch (nameFault(m_info, name)) {
+    case NameFault::notFilled:
         return refuse(Refusal::emptyName) != 0;
-    if (name.size() > longestName && characterCount(name) > longestName)
+    case NameFault::tooLong:
         return refuse(Refusal::nameTooLong, {}, static_cast<int>(longestName)) != 0;
+    case NameFault::none:
+        break;
+    }
     return true;
 }
 
