@@ -1,5 +1,7 @@
 #include "command/dialog_class.h"
 
+#include "command/dialog_table.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -27,6 +29,11 @@ bool enterDialogClass(const DialogClass& dialogClass)
 {
     dialogClasses().push_back(dialogClass);
     return true;
+}
+
+bool hasDialogClass(std::string_view name)
+{
+    return findDialogClass(name) != nullptr;
 }
 
 }  // namespace zel

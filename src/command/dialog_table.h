@@ -1,6 +1,7 @@
 #pragma once
 
 #include "command/command.h"
+#include "contract/export.h"
 
 #include <array>
 #include <string_view>
@@ -99,5 +100,8 @@ constexpr const ModalCommand* findModalCommand(unsigned number)
         return nullptr;
     return &modalCommands[number - 1];
 }
+
+/// Whether the dialog class is built, so that a host can leave commands out that would open nothing.
+ZEL_CMD_API bool hasDialogClass(std::string_view name);
 
 }  // namespace zel

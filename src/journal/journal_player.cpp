@@ -14,6 +14,7 @@
 #include <array>
 #include <ostream>
 #include <stdexcept>
+#include <utility>
 
 namespace zel {
 
@@ -102,9 +103,9 @@ JournalPlayer::JournalPlayer(CDBDoc& document, std::istream& script, std::ostrea
     : m_document(document),
       m_script(script),
       m_transcript(transcript),
-      m_options(options),
+      m_options(std::move(options)),
       m_former(setUserInterface(this)),
-      m_formerView(I_ZELModelBase::setCurrent(&m_view))
+      m_formerView(m_options.watching != nullptr ? I_ZELModelBase::GetCurMySelfST() : I_ZELModelBase::setCurrent(&m_view))
 {
 }
 
@@ -128,6 +129,8 @@ void JournalPlayer::playUntil(const std::function<bool()>& over)
 {
     while (!over()) {
         writeReply();
+        if (m_options.pause)
+            m_options.pause();
         if (m_stopped || !m_script.next()) {
             m_stopped = true;
             return;
@@ -324,6 +327,10 @@ void JournalPlayer::runModal(CDialog& dialog)
     if (dialog.hasEnded())
         return;
     m_cancelled = true;
+    if (m_options.watching != nullptr) {
+        m_options.watching->runModal(dialog);
+        return;
+    }
     (void)dialog.userClose();
     if (!dialog.hasEnded())  // it does not want to; nobody is left to change its mind
         dialog.EndDialog(IDCANCEL);
@@ -336,17 +343,20 @@ void JournalPlayer::dialogOpened(CDialog& dialog)
            {"template", dialog.templateId()},
            {"title", dialog.GetWindowText()},
            {"modal", dialog.isModal()}});
+    show(&IUserInterface::dialogOpened, dialog);
 }
 
 void JournalPlayer::dialogActivated(CDialog& dialog)
 {
     event({{"event", "activated"}, {"dialog", dialog.ClassName()}});
+    show(&IUserInterface::dialogActivated, dialog);
 }
 
 void JournalPlayer::dialogClosed(CDialog& dialog)
 {
     const std::optional<int> code = dialog.isModal() ? dialog.endCode() : std::nullopt;
     event({{"event", "closed"}, {"dialog", dialog.ClassName()}, {"result", code ? Json(*code) : Json()}});
+    show(&IUserInterface::dialogClosed, dialog);
 }
 
 void JournalPlayer::sendCommand(unsigned number)
@@ -361,14 +371,26 @@ void JournalPlayer::postCommand(unsigned number)
     m_posted.push_back(number);
 }
 
+void JournalPlayer::showPreferences(int page)
+{
+    show(&IUserInterface::showPreferences, page);
+}
+
+void JournalPlayer::busy(const CString& text)
+{
+    show(&IUserInterface::busy, text);
+}
+
 void JournalPlayer::output(const CString& line)
 {
     event({{"event", "output"}, {"text", line}});
+    show(&IUserInterface::output, line);
 }
 
 void JournalPlayer::history(const CString& line)
 {
     event({{"event", "history"}, {"text", line}});
+    show(&IUserInterface::history, line);
 }
 
 bool JournalPlayer::startProcess(const CString& commandLine)
@@ -395,11 +417,13 @@ std::uint64_t JournalPlayer::physicalMemory() const
 void JournalPlayer::gridWarning(Control& grid, const CString& text)
 {
     event({{"event", "warning"}, {"grid", grid.id()}, {"text", text}});
+    show(&IUserInterface::gridWarning, grid, text);
 }
 
 void JournalPlayer::modelingMode(int mode)
 {
     event({{"event", "mode"}, {"value", mode}});
+    show(&IUserInterface::modelingMode, mode);
 }
 
 // CDBUpdateConnector

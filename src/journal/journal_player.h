@@ -14,12 +14,18 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace zel {
 
 struct JournalOptions {
     bool runHostCommands = true;  ///< false: a command for the host is only told as an event
     bool strict = false;          ///< stop at the first command that can't be carried out
+    /// A user interface that shows what happens while the journal plays, and to which an open modal dialog is left at the end of the script.
+    /// Questions are answered by the script all the same. Null: nobody watches, and such a dialog is cancelled.
+    IUserInterface* watching = nullptr;
+    /// Called before each command and at the end of the script: time to show what has changed.
+    std::function<void()> pause{};
 };
 
 /// Plays a journal on the current document: reads commands from a script, does at the forms what they say, and writes one
@@ -47,6 +53,12 @@ private:
     void runPostedCommands();
     void runHostCommand(unsigned number);
     void event(Json what);
+    /// Tells who watches, if anybody does.
+    template <class... Parameters, class... Arguments> void show(void (IUserInterface::*what)(Parameters...), Arguments&&... arguments)
+    {
+        if (m_options.watching != nullptr)
+            (m_options.watching->*what)(std::forward<Arguments>(arguments)...);
+    }
 
     // Commands.
     std::optional<Json> queueAnswer(const JournalCommand& command);
@@ -62,10 +74,10 @@ private:
     void dialogClosed(CDialog& dialog) override;
     void sendCommand(unsigned number) override;
     void postCommand(unsigned number) override;
-    void showPreferences(int /*page*/) override {}
+    void showPreferences(int page) override;
     void output(const CString& line) override;
     void history(const CString& line) override;
-    void busy(const CString& /*text*/) override {}
+    void busy(const CString& text) override;
     bool startProcess(const CString& commandLine) override;
     [[nodiscard]] CString programFolder() const override;
     [[nodiscard]] std::chrono::system_clock::time_point now() const override;

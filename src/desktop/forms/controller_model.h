@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+namespace zel::desktop {
+
+/// A table model that reads from a controller and holds no values. Its numbers of rows and columns follow the controller's when it is told to,
+/// so that a view never sees them change between two events.
+class ControllerModel : public QAbstractTableModel {
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : m_rows; }
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : m_columns; }
+
+    /// Takes these numbers over and has everything that is seen painted again.
+    void follow(int rows, int columns);
+    /// Shows nothing from now on: the controller is gone.
+    void letGo();
+
+private:
+    int m_rows = 0;
+    int m_columns = 0;
+};
+
+}  // namespace zel::desktop
