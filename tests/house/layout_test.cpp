@@ -47,6 +47,7 @@ const Layer layers[] = {
     {"src/platform/os/", {"contract/", "platform/os/"}, {""}},  // any system header: this is their place
     {"src/journal/", with(commandLibrary, {"platform/", "journal/"}), {"nlohmann/"}},
     {"src/cli/", with(commandLibrary, {"platform/", "journal/", "cli/"}), {"CLI/", "nlohmann/"}},
+    {"src/desktop/", with(commandLibrary, {"platform/", "journal/", "desktop/"}), {"Q", "nlohmann/"}},
 };
 
 const Layer* layerOf(const File& file)

@@ -1,6 +1,7 @@
 #include "desktop/host/main_window.h"
 
 #include "desktop/host/command_menus.h"
+#include "journal/dialog_commands.h"
 
 #include <QDockWidget>
 #include <QMenuBar>
@@ -19,12 +20,15 @@ MainWindow::MainWindow() : m_services(*this, m_hand)
     resize(1200, 800);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    closeAllDialogs();
+}
 
 void MainWindow::setDocument(std::unique_ptr<ModelDocument> document)
 {
     if (m_document)
-        m_document->GetDlgCtrl()->closeAll();
+        closeAllDialogs();
     m_document.reset();  // one model is current at a time
     m_document = std::move(document);
 }
