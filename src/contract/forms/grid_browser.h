@@ -195,8 +195,9 @@ protected:
     /// Tells OnCurrentRowChanged if the current row is another one than before.
     void tellCurrentRow();
     void selectByUser(const CArray<int>& rows);
-    /// A row and column of the user's channel, in the grid's numbers; a refusal where there is no such cell.
-    zel::Taken toCell(int row, int column, int& gridRow, int& gridColumn) const;
+    /// Gives the grid the focus for an action at a cell of the user's channel, and gives the cell in the grid's numbers; a refusal where there is
+    /// no such cell.
+    zel::Taken focusCell(int row, int column, int& gridRow, int& gridColumn);
     /// The same for rows as a whole: data rows, each once.
     zel::Taken toRows(const std::vector<int>& rows, CArray<int>& gridRows) const;
     /// Refusal of a cell that takes no text; then of a text that the cell does not offer.

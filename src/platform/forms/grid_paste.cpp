@@ -107,11 +107,9 @@ bool CTBBrowserWndEx::writeRecords(Pasted& pasted)
 Taken CTBBrowserWndEx::paste(int row, int column, const CString& text)
 {
     const zel::UserAction action;
-    if (Taken focused = focus(); !focused)
-        return focused;
     int gridRow = 0;
     int gridColumn = 0;
-    if (Taken there = toCell(row, column, gridRow, gridColumn); !there)
+    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
         return there;
     if (Taken free = changeable(); !free)
         return free;

@@ -20,8 +20,10 @@ CString CTBBrowserWnd::userName(int row, int index) const
     return IsAppendRow(row) ? column + " of the row for a new entry" : column + " of row " + std::to_string(row - 1);
 }
 
-Taken CTBBrowserWnd::toCell(int row, int column, int& gridRow, int& gridColumn) const
+Taken CTBBrowserWnd::focusCell(int row, int column, int& gridRow, int& gridColumn)
 {
+    if (Taken focused = focus(); !focused)
+        return focused;
     gridRow = toRow(row);
     if (gridRow < 0 && row == append)
         return refuse("has no row for a new entry");
@@ -79,11 +81,9 @@ Taken CTBBrowserWnd::offers(int row, int index, const CString& text) const
 Taken CTBBrowserWnd::typeCell(int row, int column, const CString& text)
 {
     const zel::UserAction action;
-    if (Taken focused = focus(); !focused)
-        return focused;
     int gridRow = 0;
     int gridColumn = 0;
-    if (Taken there = toCell(row, column, gridRow, gridColumn); !there)
+    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
         return there;
     if (Taken free = editable(gridRow, gridColumn); !free)
         return free;
@@ -117,11 +117,9 @@ bool CTBBrowserWnd::openAt(int row, int column)
 Taken CTBBrowserWnd::openCell(int row, int column)
 {
     const zel::UserAction action;
-    if (Taken focused = focus(); !focused)
-        return focused;
     int gridRow = 0;
     int gridColumn = 0;
-    if (Taken there = toCell(row, column, gridRow, gridColumn); !there)
+    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
         return there;
     if (Taken free = editable(gridRow, gridColumn); !free)
         return free;
@@ -179,11 +177,9 @@ Taken CTBBrowserWnd::escape()
 Taken CTBBrowserWnd::clickCell(int row, int column)
 {
     const zel::UserAction action;
-    if (Taken focused = focus(); !focused)
-        return focused;
     int gridRow = 0;
     int gridColumn = 0;
-    if (Taken there = toCell(row, column, gridRow, gridColumn); !there)
+    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
         return there;
     if (GetColInfo(GetColIndex(gridColumn)).frozen) {
         if (!goToRow(gridRow))
@@ -314,11 +310,9 @@ Taken CTBBrowserWnd::deleteRows(const std::vector<int>& rows)
 Taken CTBBrowserWnd::dropText(int row, int column, const CString& text)
 {
     const zel::UserAction action;
-    if (Taken focused = focus(); !focused)
-        return focused;
     int gridRow = 0;
     int gridColumn = 0;
-    if (Taken there = toCell(row, column, gridRow, gridColumn); !there)
+    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
         return there;
     if (Taken free = changeable(); !free)
         return free;
