@@ -86,6 +86,8 @@ public:
     void MoveColumns(int firstColumn, int lastColumn, int targetColumn);
     void SetColDrag(bool allowed) { m_colDrag = allowed; }
     void SetRowDrag(bool allowed) { m_rowDrag = allowed; }
+    [[nodiscard]] bool isColDrag() const { return m_colDrag; }
+    [[nodiscard]] bool isRowDrag() const { return m_rowDrag; }
 
     // Rows.
 
@@ -174,8 +176,6 @@ protected:
     [[nodiscard]] zel::GridRowStore& rows() const { return *m_rows; }
     [[nodiscard]] int columnOf(int index) const;  ///< number on screen; 0 if there is none
     [[nodiscard]] bool hasIndex(int index) const { return index >= 0 && index < GetColCount(); }
-    [[nodiscard]] bool isRowDrag() const { return m_rowDrag; }
-    [[nodiscard]] bool isColDrag() const { return m_colDrag; }
     /// Asks the observers to draw again, at once or when the lock goes.
     void repaint();
     void setCurrent(int row, int column);
