@@ -5,34 +5,12 @@
 #include "contract/forms/dialog.h"
 #include "contract/view_ctrl.h"
 
-#include <algorithm>
-#include <iterator>
 #include <string>
 #include <utility>
 
 namespace zel {
 
 namespace {
-
-using Keys = std::vector<Key>;
-
-void sortOnce(Keys& keys)
-{
-    std::sort(keys.begin(), keys.end());
-    keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
-}
-
-/// `active` with the keys added (mode 1) or taken out (mode 2); both ascending.
-Keys combine(int mode, const Keys& active, Keys keys)
-{
-    sortOnce(keys);
-    Keys result;
-    if (mode == 1)
-        std::set_union(active.begin(), active.end(), keys.begin(), keys.end(), std::back_inserter(result));
-    else
-        std::set_difference(active.begin(), active.end(), keys.begin(), keys.end(), std::back_inserter(result));
-    return result;
-}
 
 template <class T> std::optional<T> takeFront(std::deque<T>& queue)
 {
@@ -54,32 +32,11 @@ std::pair<CString, CString> splitKey(const CString& text)
 
 }  // namespace
 
-void HeadlessModelView::GetSelectedLines(Keys& keys) const
+void HeadlessModelView::GetSelectedLines(std::vector<Key>& keys) const
 {
     keys.clear();
     if (CDBDoc* document = CDBDoc::GetDocPoint())
         document->GetViewCtrl()->GetAllSelectedLine(keys);
-}
-
-void HeadlessModelView::ActivateOnly(const Keys& points, const Keys& lines, const Keys& areas, bool /*objectsOnly*/)
-{
-    m_active = Objects{points, lines, areas};
-    sortOnce(m_active->points);
-    sortOnce(m_active->lines);
-    sortOnce(m_active->areas);
-}
-
-void HeadlessModelView::ActivateCommon(int mode, const Keys& points, const Keys& lines, const Keys& areas, bool /*objectsOnly*/)
-{
-    Objects active;
-    if (m_active)
-        active = *m_active;
-    else if (CDBDoc* document = CDBDoc::GetDocPoint()) {
-        active.points = document->table(Table::PONT).keys(0);
-        active.lines = document->table(Table::LINE).keys(0);
-        active.areas = document->table(Table::AREA).keys(0);
-    }
-    m_active = Objects{combine(mode, active.points, points), combine(mode, active.lines, lines), combine(mode, active.areas, areas)};
 }
 
 HeadlessUserInterface::HeadlessUserInterface() : m_former(setUserInterface(this)), m_formerView(I_ZELModelBase::setCurrent(&view)) {}

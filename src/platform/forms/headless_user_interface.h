@@ -2,6 +2,7 @@
 
 #include "contract/model_view.h"
 #include "contract/user_interface.h"
+#include "platform/forms/active_objects.h"
 
 #include <deque>
 #include <functional>
@@ -16,24 +17,25 @@ public:
     [[nodiscard]] bool IsPickClosed() const override { return m_closed; }
     void ResetPick() override { m_closed = false; }
     void GetSelectedLines(std::vector<Key>& keys) const override;
-    void ActivateOnly(const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool objectsOnly) override;
-    void ActivateCommon(int mode, const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool objectsOnly) override;
-    void ActivateAll() override { m_active.reset(); }
+    void ActivateOnly(const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool /*objectsOnly*/) override
+    {
+        m_active.only({points, lines, areas});
+    }
+    void ActivateCommon(int mode, const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool /*objectsOnly*/) override
+    {
+        m_active.common(mode, {points, lines, areas});
+    }
+    void ActivateAll() override { m_active.all(); }
     void setPickClosed(bool closed) override { m_closed = closed; }
     [[nodiscard]] int modelingMode() const override { return m_mode; }
     void setModelingMode(int mode) override { m_mode = mode; }
 
-    struct Objects {
-        std::vector<Key> points;
-        std::vector<Key> lines;
-        std::vector<Key> areas;
-        bool operator==(const Objects&) const = default;
-    };
+    using Objects = ActiveObjects::Keys;
     /// The active objects, each list ascending; none: all are active.
-    [[nodiscard]] const std::optional<Objects>& active() const { return m_active; }
+    [[nodiscard]] const std::optional<Objects>& active() const { return m_active.keys(); }
 
 private:
-    std::optional<Objects> m_active;
+    ActiveObjects m_active;
     int m_mode = -1;
     bool m_closed = false;
 };
