@@ -5,6 +5,7 @@
 #include "desktop/forms/form_window.h"
 #include "desktop/forms/text.h"
 #include "desktop/host/main_window.h"
+#include "desktop/host/window_places.h"
 #include "platform/os/machine.h"
 
 #include <QAbstractEventDispatcher>
@@ -20,11 +21,14 @@ namespace zel::desktop {
 
 namespace {
 
-constexpr std::chrono::milliseconds paintInterval{80};
+constexpr int repostInterval = 20;  ///< [ms]
 
 }  // namespace
 
-DesktopUserInterface::DesktopUserInterface(MainWindow& window, UserHand& hand) : m_window(window), m_hand(hand), m_former(setUserInterface(this)) {}
+DesktopUserInterface::DesktopUserInterface(MainWindow& window, UserHand& hand)
+    : m_window(window), m_hand(hand), m_former(setUserInterface(this)), m_step([&window](const QString& text) { window.showBusy(text); })
+{
+}
 
 DesktopUserInterface::~DesktopUserInterface()
 {
@@ -133,6 +137,7 @@ void DesktopUserInterface::dialogOpened(CDialog& dialog)
     m_forms[&dialog] = window;
     if (dialog.isModal())
         window->setWindowModality(Qt::ApplicationModal);
+    placeForm(*window, dialog);
     window->show();
     window->raise();
     window->activateWindow();
@@ -152,6 +157,7 @@ void DesktopUserInterface::dialogClosed(CDialog& dialog)
     FormWindow* window = windowOf(dialog);
     if (window == nullptr)
         return;
+    keepPlaceOf(*window, dialog);
     m_forms.erase(&dialog);
     // Dialogs that were opened from this one and stay open go on under the window that this one stood over.
     for (FormWindow* inner : formWindows()) {
@@ -173,7 +179,13 @@ void DesktopUserInterface::sendCommand(unsigned number)
 
 void DesktopUserInterface::postCommand(unsigned number)
 {
-    QTimer::singleShot(0, &m_window, [this, number] { m_commands.run(number); });
+    // While a long step has the windows painted, its action is not over yet.
+    QTimer::singleShot(m_step.isPainting() ? repostInterval : 0, &m_window, [this, number] {
+        if (m_step.isPainting())
+            postCommand(number);
+        else
+            m_commands.run(number);
+    });
 }
 
 void DesktopUserInterface::showPreferences(int page)
@@ -183,32 +195,21 @@ void DesktopUserInterface::showPreferences(int page)
 
 // Lines
 
-/// A long step keeps the thread: what it has written so far is painted now and then, while input waits.
-void DesktopUserInterface::keepPainted()
-{
-    const auto now = std::chrono::steady_clock::now();
-    if (now - m_painted < paintInterval)
-        return;
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
-    m_painted = std::chrono::steady_clock::now();
-}
-
 void DesktopUserInterface::output(const CString& line)
 {
     m_window.addOutput(toQt(line));
-    keepPainted();
+    m_step.spoke();
 }
 
 void DesktopUserInterface::history(const CString& line)
 {
     m_window.addHistory(toQt(line));
-    keepPainted();
+    m_step.spoke();
 }
 
 void DesktopUserInterface::busy(const CString& text)
 {
-    m_window.showBusy(toQt(text));
-    keepPainted();
+    m_step.busy(toQt(text));
 }
 
 void DesktopUserInterface::gridWarning(Control& grid, const CString& text)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/user_interface.h"
+#include "desktop/host/long_step.h"
 #include "journal/host_commands.h"
 #include "journal/user_hand.h"
 
@@ -54,14 +55,13 @@ public:
 private:
     /// The window that a new one stands over: the innermost modal form, else the main window.
     [[nodiscard]] QWidget* parentForNew() const;
-    void keepPainted();
 
     MainWindow& m_window;
     UserHand& m_hand;
     HostCommands m_commands;
     IUserInterface* m_former;
     std::map<const CDialog*, FormWindow*> m_forms;
-    std::chrono::steady_clock::time_point m_painted;
+    LongStep m_step;
 };
 
 /// The pairs of text and pattern of a file question, in the form that file dialogs take: "a|*.x|b|*.*||" is "a (*.x);;b (*.*)".

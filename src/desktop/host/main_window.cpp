@@ -1,41 +1,138 @@
 #include "desktop/host/main_window.h"
 
+#include "desktop/forms/text.h"
 #include "desktop/host/command_menus.h"
+#include "desktop/host/edit_actions.h"
+#include "desktop/host/file_actions.h"
+#include "desktop/host/help_actions.h"
+#include "desktop/host/model_follower.h"
+#include "desktop/host/preferences_dialog.h"
+#include "desktop/host/settings.h"
+#include "desktop/host/status_panel.h"
+#include "desktop/host/window_actions.h"
+#include "desktop/host/window_places.h"
 #include "journal/dialog_commands.h"
 
+#include <QApplication>
+#include <QCloseEvent>
 #include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace zel::desktop {
 
+namespace {
+
+/// The model file among what is dragged; empty if there is none.
+QString modelFileIn(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() != 1 || !urls.first().isLocalFile())
+        return {};
+    const QString path = urls.first().toLocalFile();
+    return path.endsWith(QStringLiteral(".qvx"), Qt::CaseInsensitive) ? path : QString();
+}
+
+}  // namespace
+
 MainWindow::MainWindow() : m_services(*this, m_hand)
 {
-    setDocument(ModelDocument::inMemory());
+    m_document = ModelDocument::inMemory(storedPreferences().units);
     m_output = addPane(QStringLiteral("Output"));
     m_history = addPane(QStringLiteral("History"));
+    m_status = new StatusPanel(*this);
     addMenus();
-    statusBar();
+    enterDocument();
+    setAcceptDrops(true);
     resize(1200, 800);
 }
 
 MainWindow::~MainWindow()
 {
-    closeAllDialogs();
+    closeDialogs();
+    leaveDocument();
+}
+
+// The model
+
+void MainWindow::replaceDocument(const std::function<std::unique_ptr<ModelDocument>()>& make)
+{
+    closeDialogs();
+    leaveDocument();
+    try {
+        std::unique_ptr<ModelDocument> next = make();
+        m_document = std::move(next);
+    } catch (...) {
+        enterDocument();
+        throw;
+    }
+    enterDocument();
 }
 
 void MainWindow::setDocument(std::unique_ptr<ModelDocument> document)
 {
-    if (m_document)
-        closeAllDialogs();
-    m_document.reset();  // one model is current at a time
-    m_document = std::move(document);
+    replaceDocument([&] { return std::move(document); });
 }
+
+void MainWindow::closeDialogs()
+{
+    closeAllDialogs();
+}
+
+void MainWindow::leaveDocument()
+{
+    m_follower.reset();
+    T_ANALOPTION option;
+    m_document->GetInitCtrl()->GetAnalysisOption(option);
+    if (option != storedAnalysisOption())
+        store(option);
+}
+
+void MainWindow::enterDocument()
+{
+    m_document->GetInitCtrl()->SetPreference(storedPreferences().model);
+    m_document->GetInitCtrl()->SetAnalysisOption(storedAnalysisOption());
+    m_follower = std::make_unique<ModelFollower>([this](long long hint) {
+        m_status->showNotice(hint);
+        m_edits->showNotice(hint);
+    });
+    m_status->showDocument();
+    m_edits->showDocument();
+    m_files->showDocument();
+    showTitle();
+}
+
+void MainWindow::showTitle()
+{
+    const QString path = toQt(m_document->GetPathName());
+    setWindowFilePath(path);
+    setWindowTitle(path.isEmpty() ? QStringLiteral("Untitled - not in a file yet - ZEL")
+                                  : QFileInfo(path).fileName() + QStringLiteral(" - All changes saved - ZEL"));
+}
+
+// Menus and panes
 
 void MainWindow::addMenus()
 {
-    addCommandMenus(*menuBar(), m_hand);
+    QMenuBar& bar = *menuBar();
+    m_files = new FileActions(*this, *bar.addMenu(QStringLiteral("&File")));
+    m_edits = new EditActions(*this, *bar.addMenu(QStringLiteral("&Edit")));
+    addViewActions(*bar.addMenu(QStringLiteral("&View")));
+    addCommandMenus(bar, m_hand);
+    addWindowActions(*this, *bar.addMenu(QStringLiteral("&Window")));
+    addHelpActions(*this, *bar.addMenu(QStringLiteral("&Help")));
+}
+
+void MainWindow::addViewActions(QMenu& menu)
+{
+    for (const QDockWidget* dock : findChildren<QDockWidget*>())
+        menu.addAction(dock->toggleViewAction());
 }
 
 QPlainTextEdit* MainWindow::addPane(const QString& title)
@@ -64,11 +161,63 @@ void MainWindow::addHistory(const QString& line)
 
 void MainWindow::showBusy(const QString& text)
 {
-    statusBar()->showMessage(text);
+    if (text.isEmpty())
+        statusBar()->clearMessage();
+    else
+        statusBar()->showMessage(text);
 }
 
-void MainWindow::showPreferences(int /*page*/) {}
+void MainWindow::showStep(const QString& text)
+{
+    showBusy(text);
+    statusBar()->repaint();
+}
+
+void MainWindow::showPreferences(int page)
+{
+    QWidget* front = QApplication::activeWindow();
+    PreferencesDialog dialog(front != nullptr ? front : this, storedPreferences(), page);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const Preferences preferences = dialog.preferences();
+    store(preferences);
+    m_document->GetInitCtrl()->SetPreference(preferences.model);
+}
 
 void MainWindow::showModelingMode(int /*mode*/) {}
+
+// The window
+
+void MainWindow::restorePlace()
+{
+    restoreMainWindow(*this);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!m_files->mayLeave()) {
+        event->ignore();
+        return;
+    }
+    closeDialogs();
+    keepMainWindow(*this);
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!modelFileIn(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QString path = modelFileIn(*event->mimeData());
+    if (path.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // The program that it was dragged from waits until this returns: a question must not stand in its way.
+    QTimer::singleShot(0, this, [this, path] { m_files->open(path); });
+}
 
 }  // namespace zel::desktop

@@ -6,12 +6,17 @@
 
 #include <QMainWindow>
 
-#include <filesystem>
+#include <functional>
 #include <memory>
 
 class QPlainTextEdit;
 
 namespace zel::desktop {
+
+class EditActions;
+class FileActions;
+class ModelFollower;
+class StatusPanel;
 
 /// The main window: menus, the plan view of the open model in the middle, tree and panes around it, the status bar below.
 class MainWindow final : public QMainWindow {
@@ -21,10 +26,21 @@ public:
 
     [[nodiscard]] UserHand& hand() { return m_hand; }
     [[nodiscard]] DesktopUserInterface& services() { return m_services; }
+    [[nodiscard]] FileActions& files() { return *m_files; }
+    [[nodiscard]] EditActions& edits() { return *m_edits; }
+    [[nodiscard]] StatusPanel& status() { return *m_status; }
     /// The open model; there always is one, in memory if no file is open.
     [[nodiscard]] ModelDocument& document() { return *m_document; }
-    /// Shows another model in place of the open one, whose dialogs are closed.
+    /// Shows another model in place of the open one. No dialog of the former one is open any more when `make` is called; if it throws, the former
+    /// model stays.
+    void replaceDocument(const std::function<std::unique_ptr<ModelDocument>()>& make);
+    /// The same with a model that is there already, so that no dialog of the former one may be open.
     void setDocument(std::unique_ptr<ModelDocument> document);
+    /// Closes all forms; a row that is being edited is ended first.
+    void closeDialogs();
+
+    /// Takes the kept place of the window and of its docks.
+    void restorePlace();
 
     // For the services.
     void addOutput(const QString& line);
@@ -33,15 +49,32 @@ public:
     void showPreferences(int page);
     void showModelingMode(int mode);
 
+    /// Shows what a step is doing at once, without handling any event; an empty text ends it.
+    void showStep(const QString& text);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
 private:
     void addMenus();
+    void addViewActions(QMenu& menu);
     QPlainTextEdit* addPane(const QString& title);
+    /// What follows the open document lets go of it, and follows the new one.
+    void leaveDocument();
+    void enterDocument();
+    void showTitle();
 
     std::unique_ptr<ModelDocument> m_document;
+    std::unique_ptr<ModelFollower> m_follower;
     UserHand m_hand;
     DesktopUserInterface m_services;
     QPlainTextEdit* m_output = nullptr;
     QPlainTextEdit* m_history = nullptr;
+    StatusPanel* m_status = nullptr;
+    FileActions* m_files = nullptr;
+    EditActions* m_edits = nullptr;
 };
 
 }  // namespace zel::desktop

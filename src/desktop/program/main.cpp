@@ -1,7 +1,8 @@
 #include "command/command.h"
-#include "desktop/forms/text.h"
+#include "desktop/host/file_actions.h"
 #include "desktop/host/main_window.h"
 #include "desktop/host/screen_picture.h"
+#include "desktop/host/settings.h"
 #include "journal/journal_player.h"
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 
 #include <fstream>
 #include <iostream>
-#include <sstream>
 
 namespace {
 
@@ -29,7 +29,8 @@ Options readOptions(const QApplication& application)
     parser.setApplicationDescription(QStringLiteral("Modelling, loads and load combinations of slabs and mats."));
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("MODEL.qvx"), QStringLiteral("The model to open."), QStringLiteral("[MODEL.qvx]"));
-    const QCommandLineOption journal(QStringLiteral("journal"), QStringLiteral("Play this journal in the window."), QStringLiteral("FILE"));
+    const QCommandLineOption journal(QStringLiteral("journal"), QStringLiteral("Play this journal in the window; the replies go to standard output."),
+                                     QStringLiteral("FILE"));
     const QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Take a picture, after the journal if there is one, and end."),
                                         QStringLiteral("FILE.png"));
     const QCommandLineOption front(QStringLiteral("front"), QStringLiteral("The picture shows the form in front alone."));
@@ -55,6 +56,19 @@ void settle()
     std::_Exit(saved ? 0 : 2);
 }
 
+/// Opens the model where nobody can be asked.
+bool open(MainWindow& window, const Options& options)
+{
+    try {
+        if (!options.model.isEmpty())
+            window.replaceDocument([&] { return zel::ModelDocument::open(options.model.toStdString()); });
+        return true;
+    } catch (const zel::FileRefusal& refusal) {
+        std::cerr << "zel-desktop: " << refusal.what() << '\n';
+        return false;
+    }
+}
+
 int play(MainWindow& window, const Options& options)
 {
     std::ifstream script(options.journal.toStdString());
@@ -62,11 +76,10 @@ int play(MainWindow& window, const Options& options)
         std::cerr << "zel-desktop: the journal \"" << options.journal.toStdString() << "\" can't be read. Check its name.\n";
         return 2;
     }
-    std::ostringstream transcript;
     zel::JournalOptions playing;
     playing.watching = &window.services();
     playing.pause = [] { QCoreApplication::processEvents(); };
-    zel::JournalPlayer player(window.document(), script, transcript, playing);
+    zel::JournalPlayer player(window.document(), script, std::cout, playing);
     const int status = player.play();
     return status;
 }
@@ -82,10 +95,18 @@ int main(int argc, char** argv)
     Init_ZEL_cmddll();
     const Options options = readOptions(application);
 
+    const bool isForSomebody = options.journal.isEmpty() && options.screenshot.isEmpty();
+    if (isForSomebody)
+        zel::desktop::applyFontSize(zel::desktop::storedPreferences().fontSize);
+    else
+        zel::desktop::useNoSettings();  // pictures look the same for everybody
     MainWindow window;
-    if (!options.model.isEmpty())
-        window.setDocument(zel::ModelDocument::open(options.model.toStdString()));
+    window.restorePlace();
+    if (!isForSomebody && !open(window, options))
+        return 2;
     window.show();
+    if (isForSomebody && !options.model.isEmpty())
+        QTimer::singleShot(0, &window, [&] { window.files().open(options.model); });
     if (!options.screenshot.isEmpty() && options.journal.isEmpty())
         QTimer::singleShot(0, &window, [&] { endWithPicture(window, options); });
     if (!options.journal.isEmpty()) {

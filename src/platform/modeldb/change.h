@@ -5,7 +5,9 @@
 #include "contract/text.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -53,6 +55,37 @@ inline ChangeRecord inverse(const ChangeRecord& change)
     if (change.units)
         result.units.emplace(change.units->second, change.units->first);
     return result;
+}
+
+/// What a change of many batches comes to, for listeners: each record once, as it was before the first and is after the last of them.
+inline ChangeRecord netOf(const ChangeRecord& change)
+{
+    using RecordPlace = std::tuple<Table, int, Key>;
+    std::map<RecordPlace, std::size_t> known;
+    std::vector<std::pair<RecordPlace, Step>> steps;  // in the order in which they were touched first
+    const auto stepAt = [&](const RecordPlace& place, const RecordPtr& before) -> Step& {
+        const auto [found, isNew] = known.emplace(place, steps.size());
+        const auto& [table, kind, key] = place;
+        if (isNew)
+            steps.emplace_back(place, Step{key, key, kind, before, before});
+        return steps[found->second].second;
+    };
+    for (const Batch& batch : change.batches) {
+        for (const Step& step : batch.steps) {
+            if (step.before)
+                stepAt({batch.table, step.kind, step.oldKey}, step.before).after = nullptr;
+        }
+        for (const Step& step : batch.steps) {
+            if (step.after)
+                stepAt({batch.table, step.kind, step.newKey}, nullptr).after = step.after;
+        }
+    }
+    ChangeRecord net{change.name, {}, {}};
+    for (auto& [place, step] : steps) {
+        if (step.before != step.after)
+            net.batches.push_back({std::get<Table>(place), {std::move(step)}});
+    }
+    return net;
 }
 
 /// What a table hands a checked batch to: the document, which writes it, applies it and tells the listeners.

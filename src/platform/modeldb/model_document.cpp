@@ -6,6 +6,7 @@
 #include "platform/modeldb/refusals.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_set>
 #include <utility>
 
@@ -305,6 +306,30 @@ int ModelDocument::Undo()
 int ModelDocument::Redo()
 {
     return replay(m_redo, m_undo, Hint::redo);
+}
+
+int ModelDocument::undoAll()
+{
+    if (m_undo.empty() || m_depth > 0)
+        return 0;
+    ChangeRecord all;
+    for (auto change = m_undo.rbegin(); change != m_undo.rend(); ++change) {
+        ChangeRecord back = inverse(*change);
+        std::move(back.batches.begin(), back.batches.end(), std::back_inserter(all.batches));
+        if (back.units)
+            all.units.emplace(m_storedUnits, back.units->second);
+    }
+    if (!performAll(all))
+        return 0;
+    for (auto change = m_undo.rbegin(); change != m_undo.rend(); ++change)
+        m_redo.push_back(inverse(*change));
+    m_undo.clear();
+    if (all.units)
+        m_units.moveTo(m_storedUnits);
+    tell(netOf(all), Hint::undo);
+    if (all.units)
+        notify(nullptr, Hint::units, nullptr);
+    return 1;
 }
 
 /// Makes a change that is known to be possible: one taken back or made again, or a change of units.

@@ -63,6 +63,13 @@ public:
     int Redo() override;
     [[nodiscard]] CString undoName() const override { return m_undo.empty() ? CString() : m_undo.back().name; }
     [[nodiscard]] CString redoName() const override { return m_redo.empty() ? CString() : m_redo.back().name; }
+    /// How many changes can be taken back, and made again.
+    [[nodiscard]] std::size_t undoCount() const { return m_undo.size(); }
+    [[nodiscard]] std::size_t redoCount() const { return m_redo.size(); }
+    /// Takes back all changes since the model was opened, in one transaction: after a crash either all or none of them are taken back. Listeners
+    /// get one notice of what differs, and hint 4 if the units do. Redo makes the changes again one by one. Returns 0 when there is none or the
+    /// file refused it.
+    int undoAll();
     void beginChange(const CString& name, NoticeTime notices = NoticeTime::atEnd) override;
     int endChange(int keep) override;
 

@@ -1,0 +1,87 @@
+#include "desktop/host/model_errors.h"
+
+#include "desktop/forms/text.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace zel::desktop {
+
+namespace {
+
+using Reason = FileRefusal::Reason;
+
+QString headingOf(Reason reason)
+{
+    switch (reason) {
+    case Reason::missing:
+        return QStringLiteral("The model is not there.");
+    case Reason::exists:
+        return QStringLiteral("A file of that name is there already.");
+    case Reason::notAModel:
+        return QStringLiteral("This is not a model file.");
+    case Reason::newer:
+        return QStringLiteral("The model was made by a newer version.");
+    case Reason::damaged:
+        return QStringLiteral("The model file is damaged.");
+    case Reason::locked:
+        return QStringLiteral("The model is open elsewhere.");
+    case Reason::readOnly:
+        return QStringLiteral("The model can't be changed.");
+    case Reason::failed:
+        break;
+    }
+    return QStringLiteral("The model file can't be used.");
+}
+
+void setUp(QMessageBox& box, const QString& heading, const QString& reason)
+{
+    box.setIcon(QMessageBox::Warning);
+    box.setWindowTitle(QApplication::applicationDisplayName());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(heading);
+    box.setInformativeText(reason);
+}
+
+}  // namespace
+
+WayOut tellRefusal(QWidget* parent, const FileRefusal& refusal, bool isRecent)
+{
+    QMessageBox box(parent);
+    setUp(box, headingOf(refusal.reason()), toQt(refusal.what()));
+    const Reason reason = refusal.reason();
+    QPushButton* retry = nullptr;
+    QPushButton* copy = nullptr;
+    QPushButton* forget = nullptr;
+    if (reason == Reason::locked)
+        retry = box.addButton(QStringLiteral("&Try Again"), QMessageBox::AcceptRole);
+    if (reason == Reason::readOnly)
+        copy = box.addButton(QStringLiteral("Open a &Copy..."), QMessageBox::AcceptRole);
+    if (reason == Reason::missing && isRecent)
+        forget = box.addButton(QStringLiteral("&Remove from Recent"), QMessageBox::AcceptRole);
+    QPushButton* another = box.addButton(QStringLiteral("Open &Another..."), QMessageBox::ActionRole);
+    QPushButton* none = box.addButton(QMessageBox::Cancel);
+    QPushButton* best = retry != nullptr ? retry : copy != nullptr ? copy : forget != nullptr ? forget : another;
+    box.setDefaultButton(best);
+    box.setEscapeButton(none);
+    box.exec();
+
+    const QAbstractButton* clicked = box.clickedButton();
+    if (clicked == nullptr || clicked == none)
+        return WayOut::none;
+    if (clicked == retry)
+        return WayOut::retry;
+    if (clicked == copy)
+        return WayOut::openCopy;
+    return clicked == forget ? WayOut::forget : WayOut::openAnother;
+}
+
+void tellFault(QWidget* parent, const QString& heading, const QString& reason)
+{
+    QMessageBox box(parent);
+    setUp(box, heading, reason);
+    box.exec();
+}
+
+}  // namespace zel::desktop
