@@ -2,6 +2,7 @@
 
 #include "desktop/forms/text.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -11,7 +12,17 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zel::desktop {
+
+namespace {
+
+// Of a combo box: it is as wide as its entries, so long as they are not uncommonly long.
+constexpr int fewestCharacters = 14;
+constexpr int mostCharacters = 30;
+
+}  // namespace
 
 ButtonView::ButtonView(CButton& button, FormContext& context, QWidget& parent) : ViewOf(button, context), m_button(new QPushButton(&parent))
 {
@@ -34,9 +45,9 @@ void ButtonView::setOwnText(const QString& text)
     m_button->setText(text);
 }
 
-void ButtonView::refresh()
+void ButtonView::showAsDefault(bool isDefault)
 {
-    m_button->setDefault(control().isDefault());
+    m_button->setDefault(isDefault);
 }
 
 CheckView::CheckView(CCheckBox& check, FormContext& context, QWidget& parent) : ViewOf(check, context), m_check(new QCheckBox(&parent))
@@ -98,7 +109,8 @@ SpinView::SpinView(CSpinButtonCtrl& spin, FormContext& context, QWidget& parent)
         arrow->setArrowType(delta > 0 ? Qt::UpArrow : Qt::DownArrow);
         arrow->setAutoRepeat(true);
         arrow->setFocusPolicy(Qt::NoFocus);
-        arrow->setFixedSize(arrow->fontMetrics().height(), arrow->fontMetrics().height() * 3 / 4);
+        arrow->setMinimumSize(arrow->fontMetrics().height(), 0);
+        arrow->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
         arrow->setAccessibleName(delta > 0 ? QStringLiteral("Up") : QStringLiteral("Down"));
         layout->addWidget(arrow);
         QObject::connect(arrow, &QToolButton::clicked, m_box, [this, delta] {
@@ -113,8 +125,8 @@ ComboView::ComboView(CComboBox& combo, FormContext& context, QWidget& parent) : 
 {
     m_combo->setEditable(combo.isEditable());
     m_combo->setInsertPolicy(QComboBox::NoInsert);
-    m_combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    m_combo->setMinimumContentsLength(12);
+    m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_combo->setMinimumContentsLength(fewestCharacters);
     QObject::connect(m_combo, &QComboBox::activated, m_combo, [this](int index) {
         if (isInput())
             take(hand().choose(control(), index));
@@ -144,11 +156,22 @@ void ComboView::refresh()
     if (!same) {
         m_combo->clear();
         m_combo->addItems(texts);
+        adjustWidth();
     }
     const int selected = control().GetCurSel();
     m_combo->setCurrentIndex(selected < m_combo->count() ? selected : -1);
+    m_combo->setToolTip(m_combo->currentText().size() > mostCharacters ? m_combo->currentText() : QString());
     if (m_combo->isEditable())
         m_combo->setEditText(toQt(control().GetWindowText()));
+}
+
+/// The list that drops down shows its entries whole, however wide the box is.
+void ComboView::adjustWidth()
+{
+    const int widest = m_combo->view()->sizeHintForColumn(0);
+    const int character = m_combo->fontMetrics().horizontalAdvance(QLatin1Char('X'));
+    m_combo->setMinimumContentsLength(std::clamp(widest / character + 1, fewestCharacters, mostCharacters));
+    m_combo->view()->setMinimumWidth(widest);
 }
 
 TabsView::TabsView(CDlgTabCtrl& tabs, FormContext& context, QWidget& parent) : ViewOf(tabs, context), m_bar(new QTabBar(&parent))

@@ -21,9 +21,10 @@ public:
     QWidget& widget() override;
     bool hasLabelBeside() const override { return false; }
     void setOwnText(const QString& text) override;
+    void showAsDefault(bool isDefault) override;
 
 private:
-    void refresh() override;
+    void refresh() override {}
 
     QPushButton* m_button;
 };
@@ -79,6 +80,7 @@ public:
 
 private:
     void refresh() override;
+    void adjustWidth();
 
     QComboBox* m_combo;
 };

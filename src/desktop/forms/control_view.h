@@ -49,6 +49,8 @@ public:
     [[nodiscard]] virtual bool isTall() const { return false; }
     /// Sets the text with its mnemonic on a view that bears its label itself.
     virtual void setOwnText(const QString& /*text*/) {}
+    /// Marks the button that Enter presses.
+    virtual void showAsDefault(bool /*isDefault*/) {}
     /// Takes over the control's state.
     void show();
     /// Shows why the control refused something that the user entered.

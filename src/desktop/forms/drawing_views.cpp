@@ -117,6 +117,10 @@ protected:
         if (!m_view.isAttached())
             return;
         QPainter painter(this);
+        // The colours of the shapes are the dialog's and meant for paper, in a dark theme too.
+        painter.fillRect(rect(), Qt::white);
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
         painter.setRenderHint(QPainter::Antialiasing);
         for (const Shape& shape : m_view.control().shapes()) {
             painter.setPen(colourOf(shape.pen));

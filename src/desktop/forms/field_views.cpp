@@ -6,12 +6,15 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include <algorithm>
+
 namespace zel::desktop {
 
 namespace {
 
 constexpr int numberCharacters = 12;
 constexpr int textCharacters = 22;
+constexpr int unbrokenCharacters = 64;  ///< of a text that the program sets; a longer one takes several lines
 
 int widthOf(const QWidget& widget, int characters)
 {
@@ -55,13 +58,33 @@ void EditView::refresh()
         if (m_lines->toPlainText() != text)
             m_lines->setPlainText(text);
         m_lines->setReadOnly(control().isReadOnly());
+    } else {
+        if (m_line->text() != text)
+            m_line->setText(text);
+        m_line->setReadOnly(control().isReadOnly());
+    }
+    if (const auto [start, end] = control().GetSel(); end > start)
+        select(placeOf(start), placeOf(end));
+}
+
+/// The place in the widget's text of a place in the control's, which counts bytes.
+int EditView::placeOf(int byte) const
+{
+    const CString& text = control().GetWindowText();
+    const auto bytes = std::clamp<std::size_t>(static_cast<std::size_t>(std::max(byte, 0)), 0, text.size());
+    return static_cast<int>(QString::fromUtf8(text.data(), static_cast<qsizetype>(bytes)).size());
+}
+
+void EditView::select(int start, int end)
+{
+    if (m_line != nullptr) {
+        m_line->setSelection(start, end - start);
         return;
     }
-    if (m_line->text() != text)
-        m_line->setText(text);
-    m_line->setReadOnly(control().isReadOnly());
-    if (const auto [start, end] = control().GetSel(); end > start)
-        m_line->setSelection(start, end - start);
+    QTextCursor cursor = m_lines->textCursor();
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    m_lines->setTextCursor(cursor);
 }
 
 StaticView::StaticView(CStatic& text, FormContext& context, QWidget& parent) : ViewOf(text, context), m_label(new QLabel(&parent))
@@ -76,7 +99,11 @@ QWidget& StaticView::widget()
 
 void StaticView::refresh()
 {
-    m_label->setText(drawnLabel(control().GetWindowText()));
+    const QString text = drawnLabel(control().GetWindowText());
+    const bool breaks = text.size() > unbrokenCharacters;
+    m_label->setText(text);
+    m_label->setWordWrap(breaks);
+    m_label->setMinimumWidth(breaks ? widthOf(*m_label, unbrokenCharacters) : 0);
 }
 
 }  // namespace zel::desktop

@@ -19,6 +19,8 @@ public:
 private:
     void refresh() override;
     void typed(const QString& text);
+    [[nodiscard]] int placeOf(int byte) const;
+    void select(int start, int end);
 
     QLineEdit* m_line = nullptr;
     QPlainTextEdit* m_lines = nullptr;  ///< in place of m_line, of a field of several lines

@@ -1,27 +1,67 @@
 #include "desktop/forms/form_window.h"
 
 #include "contract/forms/buttons.h"
+#include "contract/forms/find_control.h"
 #include "contract/forms/open_dialogs.h"
 #include "contract/forms/tabs.h"
+#include "desktop/forms/accessible_names.h"
 #include "desktop/forms/mnemonics.h"
 #include "desktop/forms/text.h"
 
 #include <QCloseEvent>
-#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLayout>
+#include <QScreen>
 #include <QStackedWidget>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 
 namespace zel::desktop {
+
+namespace {
+
+constexpr std::chrono::milliseconds idlePause{30};
+
+/// The button that Enter presses: the dialog's choice, else its OK.
+const Control* defaultButtonOf(const CDialog& dialog, const std::vector<Control*>& controls)
+{
+    if (dialog.defaultButton() != nullptr)
+        return dialog.defaultButton();
+    const auto ok = std::find_if(controls.begin(), controls.end(), [&](const Control* each) {
+        return each->kind() == Kind::button && &each->dialog() == &dialog && normalisedLabel(each->label()) == "OK";
+    });
+    return ok != controls.end() ? *ok : nullptr;
+}
+
+/// Enter and Escape press these; a letter would be taken from a field.
+bool needsNoMnemonic(const Control& control)
+{
+    return control.kind() == Kind::button && (control.label() == "OK" || control.label() == "Cancel");
+}
+
+/// Whether the page that a control stands on is the chosen one.
+bool isOnShownPage(const Control& control)
+{
+    for (const CDialog* form = &control.dialog(); form->container() != nullptr; form = &form->container()->dialog()) {
+        for (const Control::Nested& entry : form->container()->nested()) {
+            if (entry.dialog == form && !entry.shown)
+                return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
 
 FormWindow::FormWindow(CDialog& dialog, UserHand& hand, QWidget* parent) : QDialog(parent), m_dialog(&dialog), m_context{hand}
 {
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     m_timer.setSingleShot(true);
     QObject::connect(&m_timer, &QTimer::timeout, this, [this] { showChanges(); });
+    auto* sheets = new QVBoxLayout(this);
+    sheets->setContentsMargins(0, 0, 0, 0);
     dialog.observe(*this);
     build();
 }
@@ -42,7 +82,16 @@ void FormWindow::letGo()
     for (const FormParts::Part& part : m_parts.parts)
         part.view->detach();
     hide();
-    deleteLater();
+    deleteWhenIdle();
+}
+
+/// A widget whose event is still being handled must stay, with its view.
+void FormWindow::deleteWhenIdle()
+{
+    if (userActionUnderWay())
+        QTimer::singleShot(idlePause, this, [this] { deleteWhenIdle(); });
+    else
+        deleteLater();
 }
 
 ControlView* FormWindow::viewOf(const Control& control) const
@@ -87,16 +136,23 @@ void FormWindow::showChanges()
     m_timer.stop();
     if (m_dialog == nullptr)
         return;
+    if (!m_former.empty() && !userActionUnderWay()) {
+        for (const Former& former : m_former)
+            delete former.sheet;
+        m_former.clear();
+    }
     const std::vector<const Control*> changed = std::exchange(m_changed, {});
-    if (std::exchange(m_formChanged, false) && m_dialog->controls() != m_controls) {
-        drop();
-        build();
+    const bool otherControls = std::exchange(m_formChanged, false) && m_dialog->controls() != m_controls;
+    if (otherControls || std::exchange(m_fontChanged, false)) {
+        rebuild();
         return;
     }
     for (const FormParts::Part& part : m_parts.parts) {
         if (std::find(changed.begin(), changed.end(), part.view->control()) != changed.end())
             part.view->show();
     }
+    if (labelsChanged())
+        nameParts();
     showState();
     showFocus();
 }
@@ -106,11 +162,15 @@ void FormWindow::showChanges()
 void FormWindow::build()
 {
     m_controls = m_dialog->controls();
-    m_parts = layOutForm(*m_dialog, m_context, *this);
+    m_sheet = new QWidget(this);
+    layout()->addWidget(m_sheet);
+    {
+        const Refreshing guard(m_context);
+        m_parts = layOutForm(*m_dialog, m_context, *m_sheet);
+    }
     nameParts();
     QWidget* former = nullptr;
     for (const FormParts::Part& part : m_parts.parts) {
-        part.view->show();
         if (QWidget* widget = part.view->focusWidget()) {
             widget->installEventFilter(this);
             if (former != nullptr)
@@ -118,9 +178,11 @@ void FormWindow::build()
             former = widget;
         }
     }
+    if (isVisible())
+        m_sheet->show();
     showState();
+    focusFirst();
     showFocus();
-    adjustSize();
 }
 
 void FormWindow::drop()
@@ -128,71 +190,114 @@ void FormWindow::drop()
     for (const FormParts::Part& part : m_parts.parts)
         part.view->detach();
     const Refreshing guard(m_context);
-    qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
-    delete layout();
-    m_parts = {};
+    m_sheet->hide();
+    layout()->removeWidget(m_sheet);
+    m_former.push_back({std::exchange(m_sheet, nullptr), std::exchange(m_parts, {})});
+}
+
+void FormWindow::rebuild()
+{
+    drop();
+    build();
+    m_timer.start(idlePause);  // the former widgets go when nothing happens in them any more
+}
+
+bool FormWindow::labelsChanged()
+{
+    std::vector<CString> labels;
+    for (const FormParts::Part& part : m_parts.parts)
+        labels.push_back(part.view->control() != nullptr ? part.view->control()->label() : CString());
+    return std::exchange(m_labels, labels) != labels;
 }
 
 void FormWindow::nameParts()
 {
+    (void)labelsChanged();
     std::vector<QString> texts;
-    for (const FormParts::Part& part : m_parts.parts)
-        texts.push_back(part.label != nullptr || !part.view->hasLabelBeside() ? drawnLabel(part.view->control()->label()) : QString());
+    std::vector<Control*> controls;
+    for (const FormParts::Part& part : m_parts.parts) {
+        const Control& control = *part.view->control();
+        const bool bears = part.label != nullptr || !part.view->hasLabelBeside();
+        texts.push_back(bears && !needsNoMnemonic(control) ? drawnLabel(control.label()) : QString());
+        controls.push_back(const_cast<Control*>(&control));
+    }
     const std::vector<QString> marked = withMnemonics(texts);
+    const std::vector<QString> names = accessibleNames(*m_dialog, controls);
     for (std::size_t i = 0; i < marked.size(); ++i) {
         const FormParts::Part& part = m_parts.parts[i];
-        const Control& control = *part.view->control();
+        const QString text = needsNoMnemonic(*controls[i]) ? drawnLabel(controls[i]->label()) : marked[i];
         if (part.label != nullptr)
-            part.label->setText(marked[i]);
+            part.label->setText(text);
         else
-            part.view->setOwnText(marked[i]);
-        QString name = spokenLabel(control.label());
-        if (name.isEmpty() && control.group() != nullptr)
-            name = spokenLabel(control.group()->GetWindowText());
-        if (name.isEmpty())
-            name = toQt(m_dialog->GetWindowText());
-        part.view->widget().setAccessibleName(name);
-        part.view->widget().setObjectName(toQt(control.id()));
+            part.view->setOwnText(text);
+        part.view->widget().setAccessibleName(names[i]);
+        part.view->widget().setObjectName(toQt(controls[i]->id()));
     }
+}
+
+void FormWindow::showPart(const FormParts::Part& part)
+{
+    const Control* control = part.view->control();
+    if (control == nullptr)
+        return;
+    // The pages behind the chosen one keep their widgets, so that the form keeps its size when another is chosen.
+    const bool visible = isOnShownPage(*control) ? control->IsWindowVisible() : control->CWnd::IsWindowVisible();
+    const bool enabled = control->IsWindowEnabled();
+    QWidget& widget = part.view->widget();
+    widget.setVisible(visible);
+    widget.setEnabled(enabled);
+    if (part.label != nullptr) {
+        part.label->setVisible(visible);
+        part.label->setEnabled(enabled);
+    }
+    part.view->showAsDefault(control == defaultButtonOf(*m_dialog, m_controls));
 }
 
 /// Title, and what is enabled and visible.
 void FormWindow::showState()
 {
-    const Refreshing guard(m_context);
-    setWindowTitle(toQt(m_dialog->GetWindowText()));
-    for (const FormParts::Part& part : m_parts.parts) {
-        const Control* control = part.view->control();
-        if (control == nullptr)
-            continue;
-        const bool visible = control->IsWindowVisible();
-        const bool enabled = control->IsWindowEnabled();
-        part.view->widget().setVisible(visible);
-        part.view->widget().setEnabled(enabled);
-        if (part.label != nullptr) {
-            part.label->setVisible(visible);
-            part.label->setEnabled(enabled);
-        }
+    {
+        const Refreshing guard(m_context);
+        setWindowTitle(toQt(m_dialog->GetWindowText()));
+        for (const FormParts::Part& part : m_parts.parts)
+            showPart(part);
+        for (const FormParts::Stack& stack : m_parts.stacks)
+            stack.pages->setCurrentIndex(dynamic_cast<CDlgTabCtrl&>(*stack.tabs).GetCurSel());
+        for (const std::unique_ptr<FormBody>& body : m_parts.bodies)
+            body->follow();
     }
-    for (const FormParts::Frame& frame : m_parts.frames) {
-        const bool visible = std::any_of(frame.controls.begin(), frame.controls.end(), [](const Control* each) { return each->IsWindowVisible(); });
-        frame.box->setVisible(visible);
-        frame.box->setTitle(drawnLabel(frame.group->GetWindowText()));
-    }
-    for (const FormParts::Stack& stack : m_parts.stacks)
-        stack.pages->setCurrentIndex(dynamic_cast<CDlgTabCtrl&>(*stack.tabs).GetCurSel());
-    fitHeight();
+    fit();
 }
 
-/// A form without lists is as high as its fields: it follows when some of them come or go.
-void FormWindow::fitHeight()
+/// The window follows when parts of the form come or go; what the user has made it larger or smaller by stays, except for the height of a form
+/// in which nothing makes use of it.
+void FormWindow::fit()
 {
-    if (m_parts.isTall || layout() == nullptr || !isVisible())
-        return;
     layout()->activate();
     const QSize wanted = sizeHint();
-    if (height() != wanted.height())
-        resize(std::max(width(), wanted.width()), wanted.height());
+    if (wanted == m_wanted)
+        return;
+    QSize size = m_wanted.isValid() ? this->size() + wanted - m_wanted : wanted;
+    if (!m_parts.bodies.back()->grows())
+        size.setHeight(wanted.height());
+    m_wanted = wanted;
+    const QSize room = screen() != nullptr ? screen()->availableSize() : wanted;
+    resize(size.expandedTo(minimumSizeHint()).boundedTo(room));
+}
+
+/// A form opens with the focus on its first field, unless its dialog has set it.
+void FormWindow::focusFirst()
+{
+    if (m_dialog->GetFocus() != nullptr)
+        return;
+    for (const FormParts::Part& part : m_parts.parts) {
+        const Control* control = part.view->control();
+        if (control != nullptr && part.view->focusWidget() != nullptr && control->kind() != Kind::tabs && control->IsWindowVisible() &&
+            control->IsWindowEnabled()) {
+            const_cast<Control*>(control)->SetFocus();
+            return;
+        }
+    }
 }
 
 void FormWindow::showFocus()
@@ -202,8 +307,11 @@ void FormWindow::showFocus()
     QWidget* widget = view != nullptr ? view->focusWidget() : nullptr;
     if (widget == nullptr || widget->hasFocus() || widget->isAncestorOf(QWidget::focusWidget()))
         return;
-    const Refreshing guard(m_context);
-    widget->setFocus(Qt::OtherFocusReason);
+    {
+        const Refreshing guard(m_context);
+        widget->setFocus(Qt::TabFocusReason);
+    }
+    view->show();  // with the part of the text that the dialog has selected
 }
 
 // What the user does
@@ -225,6 +333,16 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event)
             (void)m_context.hand.focus(*control);
     }
     return QDialog::eventFilter(watched, event);
+}
+
+/// Tab is the controller's, which knows what can be used; back goes by the order of the widgets, which is the same.
+bool FormWindow::focusNextPrevChild(bool next)
+{
+    if (!next || m_dialog == nullptr)
+        return QDialog::focusNextPrevChild(next);
+    (void)m_context.hand.key(*m_dialog, UserKey::tab);
+    showChanges();
+    return true;
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event)
@@ -256,6 +374,10 @@ void FormWindow::reject()
 void FormWindow::changeEvent(QEvent* event)
 {
     QDialog::changeEvent(event);
+    if ((event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) && m_dialog != nullptr && !m_fontChanged) {
+        m_fontChanged = true;
+        m_timer.start(0);
+    }
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_dialog != nullptr && activeDialog() != m_dialog)
         (void)m_context.hand.activate(*m_dialog);
 }

@@ -33,6 +33,7 @@ protected:
     void reject() override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     // IFormObserver
@@ -41,19 +42,34 @@ private:
 
     void build();
     void drop();
+    void rebuild();
+    void deleteWhenIdle();
     void detachMissing();
     void nameParts();
+    [[nodiscard]] bool labelsChanged();
     void showState();
-    void fitHeight();
+    void showPart(const FormParts::Part& part);
+    void fit();
+    void focusFirst();
     void showFocus();
     [[nodiscard]] Control* controlOf(const QObject* widget) const;
 
     CDialog* m_dialog;
     FormContext m_context;
     std::vector<Control*> m_controls;  ///< as they were when the form was built
+    QWidget* m_sheet = nullptr;        ///< holds all widgets of the form
     FormParts m_parts;
+    std::vector<CString> m_labels;  ///< of the parts, as they were named last
+    /// What the form was built of before: its widgets may be handling the event that changed it.
+    struct Former {
+        QWidget* sheet;
+        FormParts parts;
+    };
+    std::vector<Former> m_former;
     std::vector<const Control*> m_changed;
     bool m_formChanged = false;
+    bool m_fontChanged = false;
+    QSize m_wanted;  ///< size that the form asked for when it was fitted last
     QTimer m_timer;
 };
 

@@ -65,6 +65,11 @@ CDialog* activeDialog()
     return open.empty() ? nullptr : open.front();
 }
 
+bool userActionUnderWay()
+{
+    return WindowList::instance().actionUnderWay();
+}
+
 void deleteClosedDialogs()
 {
     WindowList::instance().deleteClosed();

@@ -24,6 +24,7 @@ public:
 
     void actionBegins() { ++m_actions; }
     void actionEnds();
+    [[nodiscard]] bool actionUnderWay() const { return m_actions > 0; }
 
 private:
     std::vector<CDialog*> m_open;
