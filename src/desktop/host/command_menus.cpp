@@ -1,16 +1,12 @@
 #include "desktop/host/command_menus.h"
 
-#include "command/dialog_table.h"
-#include "command/exported_dialogs.h"
-#include "journal/user_hand.h"
+#include "desktop/views/dialog_opening.h"
 
 #include <QAction>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 
-#include <algorithm>
-#include <optional>
 #include <string_view>
 
 namespace zel::desktop {
@@ -79,29 +75,9 @@ const Entry entries[] = {
 };
 // clang-format on
 
-const ModelessDialog* modelessOf(std::string_view id)
+DialogOpening openingOf(const Entry& entry)
 {
-    const auto* row = std::ranges::find(modelessDialogs, id, &ModelessDialog::name);
-    return row != modelessDialogs.end() ? row : nullptr;
-}
-
-bool opensSomething(const Entry& entry)
-{
-    if (const ModelessDialog* row = modelessOf(entry.id))
-        return hasDialogClass(row->dialogClass);
-    if (const ModalCommand* command = findModalCommand(entry.number))
-        return hasDialogClass(command->dialogClass);
-    return findExportedDialog(entry.dialogClass) != nullptr;
-}
-
-void run(const Entry& entry, UserHand& hand)
-{
-    if (const ModelessDialog* row = modelessOf(entry.id))
-        hand.modeless(*row->id);
-    else if (entry.number != 0)
-        hand.modal(entry.number);
-    else
-        hand.open(entry.dialogClass);
+    return {entry.id, entry.number, entry.dialogClass};
 }
 
 }  // namespace
@@ -110,14 +86,14 @@ void addCommandMenus(QMenuBar& bar, UserHand& hand)
 {
     QMenu* menu = nullptr;
     for (const Entry& entry : entries) {
-        if (!opensSomething(entry))
+        if (!openingOf(entry).isThere())
             continue;
         const QString title = QString::fromLatin1(entry.menu);
         if (menu == nullptr || menu->title() != title)
             menu = bar.addMenu(title);
         QAction* action = menu->addAction(QString::fromLatin1(entry.text));
         action->setShortcut(QKeySequence(QString::fromLatin1(entry.key)));
-        QObject::connect(action, &QAction::triggered, action, [&hand, &entry] { run(entry, hand); });
+        QObject::connect(action, &QAction::triggered, action, [&hand, &entry] { openingOf(entry).run(hand); });
     }
 }
 

@@ -11,17 +11,17 @@
 #include "desktop/host/status_panel.h"
 #include "desktop/host/window_actions.h"
 #include "desktop/host/window_places.h"
+#include "desktop/views/line_pane.h"
+#include "desktop/views/model_views.h"
 #include "journal/dialog_commands.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -44,8 +44,7 @@ QString modelFileIn(const QMimeData& data)
 MainWindow::MainWindow() : m_services(*this, m_hand)
 {
     m_document = ModelDocument::inMemory(storedPreferences().units);
-    m_output = addPane(QStringLiteral("Output"));
-    m_history = addPane(QStringLiteral("History"));
+    m_views = std::make_unique<ModelViews>(*this, m_hand);
     m_status = new StatusPanel(*this);
     addMenus();
     enterDocument();
@@ -88,6 +87,7 @@ void MainWindow::closeDialogs()
 void MainWindow::leaveDocument()
 {
     m_follower.reset();
+    m_views->setDocument(nullptr);
     T_ANALOPTION option;
     m_document->GetInitCtrl()->GetAnalysisOption(option);
     if (option != storedAnalysisOption())
@@ -101,7 +101,9 @@ void MainWindow::enterDocument()
     m_follower = std::make_unique<ModelFollower>([this](long long hint) {
         m_status->showNotice(hint);
         m_edits->showNotice(hint);
+        m_views->showNotice(hint);
     });
+    m_views->setDocument(m_document.get());
     m_status->showDocument();
     m_edits->showDocument();
     m_files->showDocument();
@@ -123,40 +125,20 @@ void MainWindow::addMenus()
     QMenuBar& bar = *menuBar();
     m_files = new FileActions(*this, *bar.addMenu(QStringLiteral("&File")));
     m_edits = new EditActions(*this, *bar.addMenu(QStringLiteral("&Edit")));
-    addViewActions(*bar.addMenu(QStringLiteral("&View")));
+    m_views->addActions(*bar.addMenu(QStringLiteral("&View")));
     addCommandMenus(bar, m_hand);
     addWindowActions(*this, *bar.addMenu(QStringLiteral("&Window")));
     addHelpActions(*this, *bar.addMenu(QStringLiteral("&Help")));
 }
 
-void MainWindow::addViewActions(QMenu& menu)
-{
-    for (const QDockWidget* dock : findChildren<QDockWidget*>())
-        menu.addAction(dock->toggleViewAction());
-}
-
-QPlainTextEdit* MainWindow::addPane(const QString& title)
-{
-    constexpr int mostLines = 10'000;
-    auto* dock = new QDockWidget(title, this);
-    dock->setObjectName(title);
-    auto* lines = new QPlainTextEdit(dock);
-    lines->setReadOnly(true);
-    lines->setMaximumBlockCount(mostLines);
-    lines->setAccessibleName(title);
-    dock->setWidget(lines);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
-    return lines;
-}
-
 void MainWindow::addOutput(const QString& line)
 {
-    m_output->appendPlainText(line);
+    m_views->output().add(line);
 }
 
 void MainWindow::addHistory(const QString& line)
 {
-    m_history->appendPlainText(line);
+    m_views->history().add(line);
 }
 
 void MainWindow::showBusy(const QString& text)

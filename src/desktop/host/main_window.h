@@ -9,13 +9,12 @@
 #include <functional>
 #include <memory>
 
-class QPlainTextEdit;
-
 namespace zel::desktop {
 
 class EditActions;
 class FileActions;
 class ModelFollower;
+class ModelViews;
 class StatusPanel;
 
 /// The main window: menus, the plan view of the open model in the middle, tree and panes around it, the status bar below.
@@ -29,6 +28,7 @@ public:
     [[nodiscard]] FileActions& files() { return *m_files; }
     [[nodiscard]] EditActions& edits() { return *m_edits; }
     [[nodiscard]] StatusPanel& status() { return *m_status; }
+    [[nodiscard]] ModelViews& views() { return *m_views; }
     /// The open model; there always is one, in memory if no file is open.
     [[nodiscard]] ModelDocument& document() { return *m_document; }
     /// Shows another model in place of the open one. No dialog of the former one is open any more when `make` is called; if it throws, the former
@@ -59,8 +59,6 @@ protected:
 
 private:
     void addMenus();
-    void addViewActions(QMenu& menu);
-    QPlainTextEdit* addPane(const QString& title);
     /// What follows the open document lets go of it, and follows the new one.
     void leaveDocument();
     void enterDocument();
@@ -70,8 +68,7 @@ private:
     std::unique_ptr<ModelFollower> m_follower;
     UserHand m_hand;
     DesktopUserInterface m_services;
-    QPlainTextEdit* m_output = nullptr;
-    QPlainTextEdit* m_history = nullptr;
+    std::unique_ptr<ModelViews> m_views;
     StatusPanel* m_status = nullptr;
     FileActions* m_files = nullptr;
     EditActions* m_edits = nullptr;
