@@ -44,7 +44,7 @@ int playJournal(const PlayJournal& job)
     JournalPlayer player(*document, script.stream(), transcript ? *transcript : std::cout, {job.runHostCommands, job.strict});
     const JournalPlayer::Status status = player.play();
     closeAllDialogs();
-    return status;
+    return static_cast<int>(status);
 }
 
 }  // namespace zel::cli

@@ -10,6 +10,7 @@ public:
 
     /// The host has left the post-processing mode (the modelling mode) for the other one.
     void leave(bool post) { m_post = !post; }
+    [[nodiscard]] bool isPost() const { return m_post; }
 
 private:
     bool m_post = false;

@@ -4,8 +4,8 @@
 #include "contract/forms/open_dialogs.h"
 #include "journal/dialog_commands.h"
 #include "journal/form_json.h"
+#include "journal/journal_events.h"
 #include "journal/model_commands.h"
-#include "journal/notice_json.h"
 #include "journal/open_commands.h"
 #include "platform/os/machine.h"
 #include "platform/text/nearest.h"
@@ -104,6 +104,7 @@ JournalPlayer::JournalPlayer(CDBDoc& document, std::istream& script, std::ostrea
       m_script(script),
       m_transcript(transcript),
       m_options(std::move(options)),
+      m_host(m_options.host != nullptr ? *m_options.host : m_ownHost),
       m_former(setUserInterface(this)),
       m_formerView(m_options.watching != nullptr ? I_ZELModelBase::GetCurMySelfST() : I_ZELModelBase::setCurrent(&m_view))
 {
@@ -120,9 +121,7 @@ JournalPlayer::Status JournalPlayer::play()
     playUntil([] { return false; });
     if (m_broken)
         throw std::runtime_error("the transcript can't be written");
-    if (m_failed)
-        return commandFailed;
-    return m_cancelled ? endedInModalDialog : done;
+    return status();
 }
 
 void JournalPlayer::playUntil(const std::function<bool()>& over)
@@ -132,7 +131,7 @@ void JournalPlayer::playUntil(const std::function<bool()>& over)
         if (m_options.pause)
             m_options.pause();
         if (m_stopped || !m_script.next()) {
-            m_stopped = true;
+            endScript();
             return;
         }
         m_reply.emplace();
@@ -149,12 +148,33 @@ void JournalPlayer::writeReply()
 {
     if (!m_reply)
         return;
-    m_transcript << m_reply->text() << '\n' << std::flush;
-    m_reply.reset();
+    const JournalReply reply = *std::exchange(m_reply, std::nullopt);
+    m_transcript << reply.text() << '\n' << std::flush;
     if (!m_transcript) {
         m_broken = true;
         m_stopped = true;
     }
+    if (m_options.replied)
+        m_options.replied(reply);
+}
+
+void JournalPlayer::endScript()
+{
+    m_stopped = true;
+    if (std::exchange(m_ended, true))
+        return;
+    const CDialog* front = activeDialog();
+    m_cancelled = front != nullptr && front->isModal();
+    m_left = m_options.watching != nullptr && m_options.ended && m_options.ended(status());
+    if (m_left)
+        setUserInterface(m_options.watching);  // from here on a person answers
+}
+
+JournalPlayer::Status JournalPlayer::status() const
+{
+    if (m_failed)
+        return commandFailed;
+    return m_cancelled ? endedInModalDialog : done;
 }
 
 void JournalPlayer::carryOut(const std::string& line)
@@ -186,7 +206,7 @@ std::optional<Json> JournalPlayer::perform(const JournalCommand& command)
     const std::string& name = command.name();
     if (name == "modal") {
         const int value = runModalDialog(m_document, command);
-        event({{"event", "returned"}, {"call", "modal"}, {"value", value}});
+        event(returnedEvent(value));
         return {};
     }
     if (name == "modeless")
@@ -302,7 +322,7 @@ int JournalPlayer::messageBox(const CString& text, unsigned type)
             answer = m_answers.front() == "no" || m_answers.front() == "cancel" ? "no" : "yes";
         m_answers.pop_front();
     }
-    event({{"event", "message"}, {"text", text}, {"buttons", question ? "yesno" : "ok"}, {"answer", answer}});
+    event(messageEvent(text, question, answer));
     if (!question)
         return IDOK;
     return answer == "no" ? IDNO : IDYES;
@@ -315,7 +335,7 @@ bool JournalPlayer::openFile(const CString& filter, CString& path)
         chosen = m_files.front();
         m_files.pop_front();
     }
-    event({{"event", "file"}, {"filter", filter}, {"path", chosen ? Json(*chosen) : Json()}});
+    event(fileEvent(filter, chosen));
     if (chosen)
         path = *chosen;
     return chosen.has_value();
@@ -326,8 +346,7 @@ void JournalPlayer::runModal(CDialog& dialog)
     playUntil([&dialog] { return dialog.hasEnded(); });
     if (dialog.hasEnded())
         return;
-    m_cancelled = true;
-    if (m_options.watching != nullptr) {
+    if (m_left) {
         m_options.watching->runModal(dialog);
         return;
     }
@@ -338,42 +357,37 @@ void JournalPlayer::runModal(CDialog& dialog)
 
 void JournalPlayer::dialogOpened(CDialog& dialog)
 {
-    event({{"event", "opened"},
-           {"dialog", dialog.ClassName()},
-           {"template", dialog.templateId()},
-           {"title", dialog.GetWindowText()},
-           {"modal", dialog.isModal()}});
+    event(openedEvent(dialog));
     show(&IUserInterface::dialogOpened, dialog);
 }
 
 void JournalPlayer::dialogActivated(CDialog& dialog)
 {
-    event({{"event", "activated"}, {"dialog", dialog.ClassName()}});
+    event(activatedEvent(dialog));
     show(&IUserInterface::dialogActivated, dialog);
 }
 
 void JournalPlayer::dialogClosed(CDialog& dialog)
 {
-    const std::optional<int> code = dialog.isModal() ? dialog.endCode() : std::nullopt;
-    event({{"event", "closed"}, {"dialog", dialog.ClassName()}, {"result", code ? Json(*code) : Json()}});
+    event(closedEvent(dialog));
     show(&IUserInterface::dialogClosed, dialog);
 }
 
 void JournalPlayer::sendCommand(unsigned number)
 {
-    event({{"event", "command"}, {"number", number}, {"how", "sent"}});
+    event(hostCommandEvent(number, false));
     runHostCommand(number);
 }
 
 void JournalPlayer::postCommand(unsigned number)
 {
-    event({{"event", "command"}, {"number", number}, {"how", "posted"}});
+    event(hostCommandEvent(number, true));
     m_posted.push_back(number);
 }
 
-void JournalPlayer::showPreferences(int page)
+void JournalPlayer::showPreferences(int /*page*/)
 {
-    show(&IUserInterface::showPreferences, page);
+    // They are the host's own: no script could close them again.
 }
 
 void JournalPlayer::busy(const CString& text)
@@ -383,19 +397,19 @@ void JournalPlayer::busy(const CString& text)
 
 void JournalPlayer::output(const CString& line)
 {
-    event({{"event", "output"}, {"text", line}});
+    event(outputEvent(line));
     show(&IUserInterface::output, line);
 }
 
 void JournalPlayer::history(const CString& line)
 {
-    event({{"event", "history"}, {"text", line}});
+    event(historyEvent(line));
     show(&IUserInterface::history, line);
 }
 
 bool JournalPlayer::startProcess(const CString& commandLine)
 {
-    event({{"event", "process"}, {"commandLine", commandLine}});
+    event(processEvent(commandLine));
     return true;  // a script starts no outside program: nobody sits before its window
 }
 
@@ -416,13 +430,13 @@ std::uint64_t JournalPlayer::physicalMemory() const
 
 void JournalPlayer::gridWarning(Control& grid, const CString& text)
 {
-    event({{"event", "warning"}, {"grid", grid.id()}, {"text", text}});
+    event(warningEvent(grid, text));
     show(&IUserInterface::gridWarning, grid, text);
 }
 
 void JournalPlayer::modelingMode(int mode)
 {
-    event({{"event", "mode"}, {"value", mode}});
+    event(modeEvent(mode));
     show(&IUserInterface::modelingMode, mode);
 }
 
@@ -430,8 +444,8 @@ void JournalPlayer::modelingMode(int mode)
 
 void JournalPlayer::OnUpdate(CView* /*sender*/, long long hint, CObject* /*object*/)
 {
-    const Json changes = Hint::isData(hint) ? changesToJson(*m_document.GetViewBuff()) : Json::array();
-    event({{"event", "notice"}, {"hint", hint}, {"changes", changes}});
+    if (m_reply)
+        event(noticeEvent(m_document, hint));
 }
 
 }  // namespace zel

@@ -18,14 +18,24 @@
 
 namespace zel {
 
+/// How a journal went: the exit status of a program that plays it.
+enum class JournalStatus { done = 0, endedInModalDialog = 1, commandFailed = 2 };
+
 struct JournalOptions {
     bool runHostCommands = true;  ///< false: a command for the host is only told as an event
     bool strict = false;          ///< stop at the first command that can't be carried out
-    /// A user interface that shows what happens while the journal plays, and to which an open modal dialog is left at the end of the script.
-    /// Questions are answered by the script all the same. Null: nobody watches, and such a dialog is cancelled.
+    /// A user interface that shows what happens while the journal plays, and to which a modal dialog may be left at the end of the script.
+    /// Questions are answered by the script all the same. Null: nobody watches.
     IUserInterface* watching = nullptr;
+    /// The host of who watches, whose mode the journal changes and obeys; null: the player has one of its own.
+    HostCommands* host = nullptr;
     /// Called before each command and at the end of the script: time to show what has changed.
     std::function<void()> pause{};
+    /// Called with each reply.
+    std::function<void(const JournalReply&)> replied{};
+    /// Called once at the end of the script, inside the modal dialogs that are open there. Where it returns true they are left to who watches;
+    /// else they are cancelled.
+    std::function<bool(JournalStatus)> ended{};
 };
 
 /// Plays a journal on the current document: reads commands from a script, does at the forms what they say, and writes one
@@ -38,16 +48,21 @@ public:
     JournalPlayer(CDBDoc& document, std::istream& script, std::ostream& transcript, JournalOptions options = {});
     ~JournalPlayer() override;
 
-    enum Status { done = 0, endedInModalDialog = 1, commandFailed = 2 };
+    using Status = JournalStatus;
+    using enum JournalStatus;
 
     /// Plays to the end of the script.
     /// @throws std::runtime_error  when the transcript can't be written
     Status play();
+    /// Ends the script at the command that is being carried out.
+    void stop() { m_stopped = true; }
 
 private:
     // The loop.
     void playUntil(const std::function<bool()>& over);
     void writeReply();
+    void endScript();
+    [[nodiscard]] Status status() const;
     void carryOut(const std::string& line);
     std::optional<Json> perform(const JournalCommand& command);
     void runPostedCommands();
@@ -92,7 +107,8 @@ private:
     JournalScript m_script;
     std::ostream& m_transcript;
     JournalOptions m_options;
-    HostCommands m_host;
+    HostCommands m_ownHost;
+    HostCommands& m_host;
     IUserInterface* m_former;
     HeadlessModelView m_view;
     I_ZELModelBase* m_formerView;
@@ -102,9 +118,11 @@ private:
     std::deque<std::optional<std::string>> m_files;
     std::deque<unsigned> m_posted;
     bool m_stopped = false;
+    bool m_ended = false;  ///< the end of the script was told
+    bool m_left = false;   ///< ... and what is open is left to who watches
     bool m_failed = false;
-    bool m_cancelled = false;
-    bool m_broken = false;  ///< the transcript can't be written
+    bool m_cancelled = false;  ///< a modal dialog was open there
+    bool m_broken = false;     ///< the transcript can't be written
 };
 
 }  // namespace zel

@@ -301,4 +301,14 @@ T_SELECTION selectionFromJson(const Json& json)
     return selection;
 }
 
+Json selectionToJson(const T_SELECTION& selection)
+{
+    Json json = Json::object();
+    for (const ObjectKind& kind : objectKinds) {
+        if (!(selection.*kind.keys).empty())
+            json[std::string(kind.name)] = selection.*kind.keys;
+    }
+    return json;
+}
+
 }  // namespace zel

@@ -16,5 +16,7 @@ Json changeUnits(CDBDoc& document, const JournalCommand& command);
 /// The keys of `view`'s `select`.
 /// @throws JsonFault  for an unknown kind of object or a key that is none
 T_SELECTION selectionFromJson(const Json& json);
+/// The same way back; kinds of which nothing is selected are left out.
+Json selectionToJson(const T_SELECTION& selection);
 
 }  // namespace zel

@@ -113,8 +113,11 @@ Json openModelessDialog(const JournalCommand& command)
 
 void openDialogOfClass(const JournalCommand& command)
 {
-    const std::string& name = command.text("class");
-    const Key key = keyOfArgs(command);
+    openDialogOfClass(command.text("class"), keyOfArgs(command));
+}
+
+void openDialogOfClass(const std::string& name, Key key)
+{
     const ModelessDialog* modeless = modelessOfClass(name);
     if (modeless != nullptr && key == 0 && CMD_DoModeless(*modeless->id, nullptr) != nullptr)
         return;

@@ -16,5 +16,7 @@ Json openModelessDialog(const JournalCommand& command);
 /// the key of an object.
 /// @throws JsonFault  for a class that hosts can't build
 void openDialogOfClass(const JournalCommand& command);
+/// The same for a class by name, with the key of an object or 0.
+void openDialogOfClass(const std::string& name, Key key);
 
 }  // namespace zel

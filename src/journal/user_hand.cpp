@@ -1,222 +1,580 @@
 #include "journal/user_hand.h"
 
 #include "command/command.h"
-#include "command/exported_dialogs.h"
+#include "command/dialog_table.h"
 #include "contract/forms/dialog.h"
+#include "contract/forms/open_dialogs.h"
 #include "contract/units.h"
+#include "journal/control_name.h"
 #include "journal/host_commands.h"
+#include "journal/journal_events.h"
+#include "journal/model_commands.h"
+#include "journal/open_commands.h"
+#include "journal/step_commands.h"
+
+#include <algorithm>
 
 namespace zel {
 
+namespace {
+
+/// Describes a step that is no command.
+Json nothing()
+{
+    return {};
+}
+
+/// Place of the current cell in the user's numbers.
+struct Cell {
+    int row = 0;
+    int column = -1;  ///< -1: no cell is current
+    bool operator==(const Cell&) const = default;
+};
+
+Cell currentCell(const CTBBrowserWnd& grid)
+{
+    int row = 0;
+    int column = 0;
+    return grid.GetCurrentCell(row, column) != 0 ? Cell{grid.toUserRow(row), column - 1} : Cell{};
+}
+
+/// Place of the open cell.
+Cell openCellOf(const CTBBrowserWnd& grid)
+{
+    int column = 0;
+    const bool open = grid.GetOpenCell() >= 0 && grid.GetColumnNoFor(grid.GetOpenCell(), column) != 0;
+    return open ? Cell{grid.toUserRow(grid.GetEditRow()), column - 1} : Cell{};
+}
+
+bool isFrozen(const CTBBrowserWnd& grid, int column)
+{
+    const int index = grid.GetColIndex(column + 1);
+    return index >= 0 && grid.GetColInfo(index).frozen;
+}
+
+}  // namespace
+
 UserHand::UserHand() = default;
 UserHand::~UserHand() = default;
+
+void UserHand::setRecorder(JournalRecorder* recorder)
+{
+    finish();
+    m_recorder = recorder;
+}
+
+void UserHand::setLocked(bool locked)
+{
+    finish();
+    m_locked = locked;
+}
+
+// Steps
+
+Taken UserHand::locked() const
+{
+    return {m_locked ? "a journal is being played" : CString()};
+}
+
+template <class Describe> JournalRecorder::Ticket UserHand::begin(Describe describe)
+{
+    return m_recorder != nullptr ? m_recorder->begin(describe()) : 0;
+}
+
+template <class Describe> bool UserHand::replace(JournalRecorder::Ticket ticket, Describe describe)
+{
+    return m_recorder != nullptr && m_recorder->isHeld(ticket) && m_recorder->replace(ticket, describe());
+}
+
+void UserHand::takeBack(JournalRecorder::Ticket ticket)
+{
+    if (m_recorder != nullptr)
+        m_recorder->takeBack(ticket);
+}
+
+template <class Describe, class Act> Taken UserHand::step(Describe describe, Act act)
+{
+    if (Taken free = locked(); !free)
+        return free;
+    const UserAction action;  // what is left may close the form
+    finish();
+    const JournalRecorder::Ticket ticket = begin(describe);
+    Taken taken = act(ticket);
+    if (!taken)
+        takeBack(ticket);
+    return taken;
+}
+
+template <class Act> Taken UserHand::unrecorded(const std::string& what, Act act)
+{
+    if (Taken free = locked(); !free)
+        return free;
+    const UserAction action;
+    finish();
+    const JournalRecorder::Ticket ticket = begin(nothing);
+    Taken taken = act();
+    takeBack(ticket);
+    if (taken && m_recorder != nullptr)
+        m_recorder->note(what);
+    return taken;
+}
+
+template <class Describe, class Act> Taken UserHand::stepThatMayClose(const CDialog& form, Describe describe, Act act)
+{
+    if (!isTypedInto(form))
+        return step(describe, act);
+    const UserAction action;
+    Typing typing = std::exchange(m_typing, {});
+    auto* field = dynamic_cast<CEdit*>(typing.control);
+    if (field == nullptr)
+        forgetCell(typing);
+    const JournalRecorder::Ticket ticket = m_recorder != nullptr ? m_recorder->beginBeside(describe()) : 0;
+    Taken taken = act(ticket);
+    if (!taken)
+        takeBack(ticket);
+    if (!isOpen(typing) || form.root().hasEnded())
+        takeBack(typing.ticket);
+    else if (field != nullptr)
+        (void)field->leave();
+    else if (openCellOf(static_cast<CTBBrowserWnd&>(*typing.control)).column >= 0)
+        m_typing = typing;
+    return taken;
+}
+
+template <class Act> Taken UserHand::moveFocus(const CDialog& form, Act act)
+{
+    if (Taken free = locked(); !free)
+        return free;
+    const UserAction action;
+    finish();
+    auto* grid = dynamic_cast<CTBBrowserWnd*>(form.GetFocus());
+    const bool edited = grid != nullptr && grid->IsEdit();
+    const Json leaving = edited && m_recorder != nullptr ? commandTo("leave_row", *grid) : Json();
+    const JournalRecorder::Ticket ticket = begin(nothing);
+    Taken taken = act();
+    if (edited && grid->IsWindow() && !grid->IsEdit()) {
+        (void)grid->leaveRow();  // tells the grid which row is current now, as the command does
+        replace(ticket, [&leaving] { return leaving; });
+    }
+    return taken;
+}
+
+template <class Describe, class Act> Taken UserHand::giveUp(Describe describe, Act act)
+{
+    const UserAction action;
+    Typing typing = std::exchange(m_typing, {});
+    forgetCell(typing);
+    return typing.opened ? act(0) : step(describe, act);
+}
+
+bool UserHand::isOpen(const Typing& typing) const
+{
+    const std::vector<CDialog*>& open = openDialogs();
+    if (typing.control == nullptr || std::ranges::find(open, typing.form) == open.end())
+        return false;
+    const std::vector<Control*> controls = typing.form->controls();
+    return std::ranges::find(controls, typing.control) != controls.end();
+}
+
+bool UserHand::isTypedInto(const CDialog& dialog) const
+{
+    return m_typing.form == &dialog.root() && isOpen(m_typing);
+}
+
+void UserHand::finish()
+{
+    const Typing typing = std::exchange(m_typing, {});
+    if (!isOpen(typing))
+        return;
+    const UserAction action;
+    if (auto* field = dynamic_cast<CEdit*>(typing.control))
+        (void)field->leave();
+    else
+        (void)leaveCellOf(typing);
+}
+
+Taken UserHand::leaveCellOf(const Typing& typing)
+{
+    auto& grid = static_cast<CTBBrowserWnd&>(*typing.control);
+    if (!typing.typed && (!typing.moved || isFrozen(grid, typing.column)))
+        takeBack(typing.ticket);
+    return grid.leaveCell();
+}
+
+void UserHand::forgetCell(Typing& typing)
+{
+    const auto& grid = static_cast<const CTBBrowserWnd&>(*typing.control);
+    const bool clicked = typing.opened && typing.moved && !isFrozen(grid, typing.column);
+    if (!clicked || !replace(typing.ticket, [&] { return commandAt("current", grid, typing.row, typing.column); }))
+        takeBack(typing.ticket);
+    typing.ticket = 0;
+    typing.typed = false;
+    typing.moved = false;
+}
 
 // Menus
 
 CDialog* UserHand::modeless(unsigned id)
 {
-    return CMD_DoModeless(id, nullptr);
+    const auto* row = std::ranges::find_if(modelessDialogs, [id](const ModelessDialog& each) { return *each.id == id; });
+    CDialog* opened = nullptr;
+    if (row == modelessDialogs.end())
+        return opened;
+    (void)step([&] { return with(commandNamed("modeless"), "id", std::string(row->name)); },
+               [&](JournalRecorder::Ticket ticket) {
+                   opened = CMD_DoModeless(id, nullptr);
+                   if (m_recorder != nullptr)
+                       m_recorder->setResult(ticket, opened != nullptr ? Json(opened->ClassName()) : Json());
+                   return Taken{};
+               });
+    return opened;
 }
 
 int UserHand::modal(unsigned number)
 {
-    return CMD_DoModal(number, nullptr, 0);
+    int code = 0;
+    (void)step([&] { return with(commandNamed("modal"), "number", number); },
+               [&](JournalRecorder::Ticket) {
+                   code = CMD_DoModal(number, nullptr, 0);
+                   if (m_recorder != nullptr)
+                       m_recorder->event(returnedEvent(code));
+                   return Taken{};
+               });
+    return code;
 }
 
 bool UserHand::open(std::string_view className)
 {
-    const ExportedDialog* found = findExportedDialog(className);
-    if (found == nullptr)
-        return false;
-    found->make()->DoModal();
-    return true;
+    const std::string name(className);
+    return step([&] { return with(commandNamed("open"), "class", name); },
+                [&](JournalRecorder::Ticket) -> Taken {
+                    try {
+                        openDialogOfClass(name, 0);
+                    } catch (const JsonFault& fault) {
+                        return {fault.what()};
+                    }
+                    return {};
+                })
+        .ok();
+}
+
+template <class Describe, class Change> int UserHand::change(Describe describe, Change change)
+{
+    int done = 0;
+    (void)step(describe, [&](JournalRecorder::Ticket ticket) {
+        done = change();
+        if (m_recorder != nullptr)
+            m_recorder->setResult(ticket, done);
+        return Taken{};
+    });
+    return done;
 }
 
 int UserHand::undo(CDBDoc& document)
 {
-    return document.Undo();
+    return change([] { return commandNamed("undo"); }, [&] { return document.Undo(); });
 }
 
 int UserHand::redo(CDBDoc& document)
 {
-    return document.Redo();
+    return change([] { return commandNamed("redo"); }, [&] { return document.Redo(); });
 }
 
 int UserHand::units(CDBDoc& document, const T_UNIT_INDEX& index)
 {
-    return document.GetUnitCtrl()->SetUnitIndexCurrent(index, 1);
+    return change([&] { return with(with(commandNamed("units"), "length", lengthUnitName(index.length)), "force", forceUnitName(index.force)); },
+                  [&] { return document.GetUnitCtrl()->SetUnitIndexCurrent(index, 1); });
 }
 
 void UserHand::select(CDBDoc& document, const T_SELECTION& selection)
 {
-    document.GetViewCtrl()->select(selection, true);
+    (void)step([&] { return with(commandNamed("view"), "select", selectionToJson(selection)); },
+               [&](JournalRecorder::Ticket) {
+                   document.GetViewCtrl()->select(selection, true);
+                   return Taken{};
+               });
 }
 
 void UserHand::mode(CDBDoc& document, HostCommands& commands, bool post)
 {
-    commands.leave(!post);
-    document.notify(nullptr, post ? Hint::leaveModel : Hint::leavePost, nullptr);
+    (void)step([&] { return with(commandNamed("view"), "mode", post ? "model" : "post"); },  // the mode that is left
+               [&](JournalRecorder::Ticket) {
+                   commands.leave(!post);
+                   document.notify(nullptr, post ? Hint::leaveModel : Hint::leavePost, nullptr);
+                   return Taken{};
+               });
 }
 
 // Dialogs
 
 Taken UserHand::activate(CDialog& dialog)
 {
-    return dialog.userActivate();
+    if (activeDialog() == &dialog.root())
+        return dialog.reach();
+    return step([&] { return commandTo("activate", dialog); }, [&](JournalRecorder::Ticket) { return dialog.userActivate(); });
 }
 
 Taken UserHand::close(CDialog& dialog)
 {
-    return dialog.userClose();
+    if (Taken free = locked(); !free)
+        return free;
+    return stepThatMayClose(
+        dialog, [&] { return commandTo("close", dialog); }, [&](JournalRecorder::Ticket) { return dialog.userClose(); });
 }
 
 Taken UserHand::key(CDialog& dialog, UserKey key)
 {
-    return dialog.userKey(key);
+    if (Taken free = locked(); !free)
+        return free;
+    const bool typed = isTypedInto(dialog);
+    if (auto* grid = typed ? dynamic_cast<CTBBrowserWnd*>(m_typing.control) : nullptr)
+        return this->key(*grid, key);
+    Control* focused = typed ? m_typing.control : dialog.GetFocus();
+    if (focused != nullptr && !(focused->IsWindowVisible() && focused->IsWindowEnabled()))
+        focused = nullptr;
+    const auto describe = [&] { return keyCommand(dialog, focused, key); };
+    const auto act = [&](JournalRecorder::Ticket) { return focused != nullptr ? focused->key(key) : dialog.userKey(key); };
+    return key == UserKey::escape ? stepThatMayClose(dialog, describe, act) : step(describe, act);
 }
 
 // Controls
 
 Taken UserHand::focus(Control& control)
 {
-    return control.focus();
+    if (control.HasFocus() && (m_typing.control == &control || m_typing.control == nullptr))
+        return locked();
+    return moveFocus(control.dialog(), [&] { return control.focus(); });
 }
 
 Taken UserHand::leave(Control& control)
 {
-    return control.leave();
+    return moveFocus(control.dialog(), [&] { return control.leave(); });
 }
 
 Taken UserHand::type(CEdit& field, const CString& text)
 {
-    return field.type(text);
+    if (Taken free = locked(); !free)
+        return free;
+    const UserAction action;
+    if (m_typing.control != &field)
+        finish();
+    if (!field.HasFocus()) {
+        if (Taken focused = focus(field); !focused)
+            return focused;
+    }
+    const auto setTo = [&field](const CString& value) { return [&field, value] { return with(commandTo("set", field), "value", value); }; };
+    const Typing former = std::exchange(m_typing, {});  // commands may come while it is being typed
+    const bool goesOn = former.control == &field && replace(former.ticket, setTo(text));
+    Typing typing{&field, &field.dialog().root(), goesOn ? former.ticket : begin(setTo(text)), text};
+    Taken taken = field.type(text);
+    if (!taken) {
+        if (!goesOn)
+            takeBack(typing.ticket);
+        else
+            replace(former.ticket, setTo(former.text));
+        m_typing = former;
+    } else if (m_recorder != nullptr && !m_recorder->isHeld(typing.ticket)) {
+        (void)field.leave();  // as the command did that is written already
+    } else {
+        m_typing = typing;
+    }
+    return taken;
 }
 
 Taken UserHand::set(Control& control, const UserValue& value)
 {
-    return control.set(value);
+    return step([&] { return with(commandTo("set", control), "value", toJson(value)); }, [&](JournalRecorder::Ticket) { return control.set(value); });
 }
 
 Taken UserHand::press(Control& control)
 {
-    return control.press();
+    return step([&] { return commandTo("press", control); }, [&](JournalRecorder::Ticket) { return control.press(); });
 }
 
 Taken UserHand::choose(Control& control, int index)
 {
-    return control.choose(static_cast<double>(index));
+    return step([&] { return chooseCommand(control, index); }, [&](JournalRecorder::Ticket) { return control.choose(static_cast<double>(index)); });
 }
 
 Taken UserHand::select(Control& control, const std::vector<int>& rows)
 {
-    return control.select(rows);
+    return step([&] { return with(commandTo("select", control), "rows", rows); }, [&](JournalRecorder::Ticket) { return control.select(rows); });
 }
 
 Taken UserHand::doubleClick(Control& control, int row)
 {
-    return control.doubleClick(row);
+    return step([&] { return with(commandTo("double_click", control), "row", row); }, [&](JournalRecorder::Ticket) { return control.doubleClick(row); });
 }
 
 Taken UserHand::tick(Control& control, int row, bool on)
 {
-    return control.tick(row, on);
+    return step([&] { return with(with(commandTo("tick", control), "row", row), "value", on); },
+                [&](JournalRecorder::Ticket) { return control.tick(row, on); });
 }
 
 Taken UserHand::spin(Control& control, int delta)
 {
-    return control.spin(delta);
+    return step([&] { return with(commandTo("spin", control), "delta", delta); }, [&](JournalRecorder::Ticket) { return control.spin(delta); });
 }
 
 Taken UserHand::pick(Control& control, const std::vector<Key>& keys, bool closed)
 {
-    return control.pick(keys, closed);
+    return step([&] { return with(with(commandTo("pick", control), "keys", keys), "closed", closed); },
+                [&](JournalRecorder::Ticket) { return control.pick(keys, closed); });
 }
 
 // Grids
 
 Taken UserHand::clickCell(CTBBrowserWnd& grid, int row, int column)
 {
-    return grid.clickCell(row, column);
+    return step([&] { return commandAt("current", grid, row, column); }, [&](JournalRecorder::Ticket) { return grid.clickCell(row, column); });
 }
 
 Taken UserHand::openCell(CTBBrowserWnd& grid, int row, int column)
 {
-    return grid.openCell(row, column);
+    const Cell wanted{row, column};
+    if (m_typing.control == &grid && openCellOf(grid) == wanted)
+        return locked();
+    const UserAction action;
+    finish();
+    const Cell refused = openCellOf(grid);  // what is open still
+    const bool moved = currentCell(grid) != wanted || !grid.GetSelectedRows().empty();
+    JournalRecorder::Ticket ticket = 0;
+    Taken taken = step([&] { return commandAt("current", grid, row, column); },
+                       [&](JournalRecorder::Ticket given) {
+                           ticket = given;
+                           return grid.openCell(row, column);
+                       });
+    const Cell open = openCellOf(grid);
+    if (taken && open.column == column && (open.row == row || refused.column < 0))
+        m_typing = {&grid, &grid.dialog().root(), ticket, {}, row, column, false, refused != wanted, moved};
+    return taken;
 }
 
 Taken UserHand::typeText(CTBBrowserWnd& grid, const CString& text)
 {
-    return grid.typeText(text);
+    if (Taken free = locked(); !free)
+        return free;
+    const UserAction action;
+    if (m_typing.control != &grid)
+        finish();
+    if (Taken taken = grid.typeText(text); !taken)
+        return taken;
+    if (m_typing.control == nullptr) {
+        const Cell open = openCellOf(grid);
+        m_typing = {&grid, &grid.dialog().root(), 0, {}, open.row, open.column, true, false, false};
+    }
+    m_typing.text = text;
+    m_typing.typed = true;
+    const auto describe = [&] { return with(commandAt("cell", grid, m_typing.row, m_typing.column), "text", text); };
+    if (!replace(m_typing.ticket, describe))
+        m_typing.ticket = begin(describe);
+    return {};
 }
 
 Taken UserHand::leaveCell(CTBBrowserWnd& grid)
 {
-    return grid.leaveCell();
+    if (Taken free = locked(); !free)
+        return free;
+    const UserAction action;
+    if (m_typing.control == &grid)
+        return leaveCellOf(std::exchange(m_typing, {}));
+    const Cell open = openCellOf(grid);
+    if (open.column < 0)
+        return grid.leaveCell();
+    return step([&] { return with(commandAt("cell", grid, open.row, open.column), "text", grid.TextAt(grid.GetEditRow(), grid.GetOpenCell())); },
+                [&](JournalRecorder::Ticket) { return grid.leaveCell(); });
 }
 
 Taken UserHand::typeCell(CTBBrowserWnd& grid, int row, int column, const CString& text)
 {
-    return grid.typeCell(row, column, text);
+    return step([&] { return with(commandAt("cell", grid, row, column), "text", text); },
+                [&](JournalRecorder::Ticket) { return grid.typeCell(row, column, text); });
 }
 
 Taken UserHand::leaveRow(CTBBrowserWnd& grid)
 {
-    return grid.leaveRow();
+    return step([&] { return commandTo("leave_row", grid); }, [&](JournalRecorder::Ticket) { return grid.leaveRow(); });
 }
 
 Taken UserHand::escape(CTBBrowserWnd& grid)
 {
-    return grid.escape();
+    if (Taken free = locked(); !free)
+        return free;
+    const auto describe = [&] { return commandTo("escape", grid); };
+    const auto act = [&](JournalRecorder::Ticket) { return grid.escape(); };
+    return m_typing.control == &grid ? giveUp(describe, act) : step(describe, act);
 }
 
 Taken UserHand::key(CTBBrowserWnd& grid, UserKey key)
 {
-    return static_cast<Control&>(grid).key(key);
+    if (Taken free = locked(); !free)
+        return free;
+    const auto describe = [&] { return keyCommand(grid.dialog(), &grid, key); };
+    const auto act = [&](JournalRecorder::Ticket) { return static_cast<Control&>(grid).key(key); };
+    return key == UserKey::escape && m_typing.control == &grid ? giveUp(describe, act) : step(describe, act);
 }
 
 Taken UserHand::deleteRows(CTBBrowserWnd& grid, const std::vector<int>& rows)
 {
-    return grid.deleteRows(rows);
+    return step([&] { return with(commandTo("delete_rows", grid), "rows", rows); }, [&](JournalRecorder::Ticket) { return grid.deleteRows(rows); });
 }
 
 Taken UserHand::paste(CTBBrowserWndEx& grid, int row, int column, const CString& text)
 {
-    return grid.paste(row, column, text);
+    return step([&] { return with(commandAt("paste", grid, row, column), "text", text); },
+                [&](JournalRecorder::Ticket) { return grid.paste(row, column, text); });
 }
 
 Taken UserHand::dragRows(CTBBrowserWndEx& grid, const std::vector<int>& rows, int to)
 {
-    return grid.dragRows(rows, to);
+    return step([&] { return with(with(commandTo("drag_rows", grid), "rows", rows), "to", rowName(to)); },
+                [&](JournalRecorder::Ticket) { return grid.dragRows(rows, to); });
 }
 
 Taken UserHand::dropText(CTBBrowserWnd& grid, int row, int column, const CString& text)
 {
-    return grid.dropText(row, column, text);
+    return step([&] { return with(commandAt("drop", grid, row, column), "text", text); },
+                [&](JournalRecorder::Ticket) { return grid.dropText(row, column, text); });
 }
 
 Taken UserHand::dragColumns(CTBBrowserWndEx& grid, int first, int last, int to)
 {
-    return grid.dragColumns(first, last, to);
+    return unrecorded("Columns were moved. No command does that.", [&] { return grid.dragColumns(first, last, to); });
 }
 
 Taken UserHand::resizeColumn(CTBBrowserWnd& grid, int column, int width)
 {
-    return grid.resizeColumn(column, width);
+    return unrecorded("A column was made wider or narrower. No command does that.", [&] { return grid.resizeColumn(column, width); });
+}
+
+Taken UserHand::goToCell(CTBBrowserWnd& grid, int row, int column)
+{
+    return currentCell(grid) == Cell{row, column} ? locked() : clickCell(grid, row, column);
 }
 
 Taken UserHand::doubleClickCell(CTBBrowserWnd& grid, int row, int column)
 {
-    return grid.doubleClickCell(row, column);
+    if (Taken there = goToCell(grid, row, column); !there)
+        return there;
+    const auto act = [&](JournalRecorder::Ticket) { return grid.doubleClickCell(row, column); };
+    if (currentCell(grid) == Cell{row, column})  // the command double-clicks the row at the current cell
+        return step([&] { return with(commandTo("double_click", grid), "row", row); }, act);
+    return unrecorded("A cell was double-clicked. No command does that.", [&] { return act(0); });
 }
 
 Taken UserHand::rightDoubleClickCell(CTBBrowserWnd& grid, int row, int column)
 {
-    return grid.rightDoubleClickCell(row, column);
+    if (Taken there = goToCell(grid, row, column); !there)
+        return there;
+    return unrecorded("A cell was double-clicked with the right button. No command does that.", [&] { return grid.rightDoubleClickCell(row, column); });
 }
 
 Taken UserHand::pressCell(CTBBrowserWnd& grid, int row, int column)
 {
-    return grid.pressCell(row, column);
+    if (Taken there = goToCell(grid, row, column); !there)
+        return there;
+    return unrecorded("A button in a cell was pressed. No command does that.", [&] { return grid.pressCell(row, column); });
 }
 
 }  // namespace zel

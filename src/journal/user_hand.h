@@ -5,6 +5,7 @@
 #include "contract/forms/grid_browser_ex.h"
 #include "contract/records/unit_index.h"
 #include "contract/view_ctrl.h"
+#include "journal/journal_recorder.h"
 
 #include <string_view>
 #include <vector>
@@ -12,12 +13,14 @@
 namespace zel {
 
 class HostCommands;
-class JournalRecorder;
 
 /// What a person does in a window, step by step: at the forms, in the menus and in the model view. A window hands all input on
 /// through it; while a recorder listens, each step that is taken is written as the journal command that does the same.
 ///
 /// The steps on controls are those of the user's channel and return what it returns. Rows and columns count from 0.
+///
+/// A field or cell that is being typed into is left before the next step, as a journal's `set` and `cell` leave it. Escape and the closing
+/// of its dialog give it up instead.
 class UserHand {
 public:
     UserHand();
@@ -26,8 +29,15 @@ public:
     ~UserHand();
 
     /// Writes from now on to `recorder`, which outlives that; null stops.
-    void setRecorder(JournalRecorder* recorder) { m_recorder = recorder; }
+    void setRecorder(JournalRecorder* recorder);
     [[nodiscard]] JournalRecorder* recorder() const { return m_recorder; }
+
+    /// While it is locked every step is refused: a journal is being played, and no input must come between.
+    void setLocked(bool locked);
+    [[nodiscard]] bool isLocked() const { return m_locked; }
+
+    /// Leaves the field or cell that is being typed into.
+    void finish();
 
     // Menus.
 
@@ -91,7 +101,49 @@ public:
     Taken pressCell(CTBBrowserWnd& grid, int row, int column);
 
 private:
+    /// What is being typed into.
+    struct Typing {
+        Control* control = nullptr;  ///< an edit field or a grid; null for nothing
+        const CDialog* form = nullptr;
+        JournalRecorder::Ticket ticket = 0;
+        CString text{};
+        int row = 0;  ///< of a grid's cell
+        int column = 0;
+        bool typed = false;   ///< something was typed into the cell
+        bool opened = false;  ///< the cell was opened for it; else it had stayed open when it was refused
+        bool moved = false;   ///< opening it made it the current cell
+    };
+
+    /// One step: leaves what is typed into, records the command that `describe` makes, and takes it back if `act` is refused.
+    template <class Describe, class Act> Taken step(Describe describe, Act act);
+    /// A step that journals have no command for: a comment says so.
+    template <class Act> Taken unrecorded(const std::string& what, Act act);
+    /// A step that may close the form with what is being typed into it, which then goes unwritten.
+    template <class Describe, class Act> Taken stepThatMayClose(const CDialog& form, Describe describe, Act act);
+    /// Moves the focus, which is no command; but a row of a grid that is written by it is.
+    template <class Act> Taken moveFocus(const CDialog& form, Act act);
+    /// Gives the open cell up.
+    template <class Describe, class Act> Taken giveUp(Describe describe, Act act);
+
+    /// A step whose result is that of `change`.
+    template <class Describe, class Change> int change(Describe describe, Change change);
+
+    template <class Describe> JournalRecorder::Ticket begin(Describe describe);
+    template <class Describe> bool replace(JournalRecorder::Ticket ticket, Describe describe);
+    void takeBack(JournalRecorder::Ticket ticket);
+
+    [[nodiscard]] Taken locked() const;
+    [[nodiscard]] bool isOpen(const Typing& typing) const;
+    [[nodiscard]] bool isTypedInto(const CDialog& dialog) const;
+    Taken leaveCellOf(const Typing& typing);
+    /// Clicks into a cell unless it is the current one.
+    Taken goToCell(CTBBrowserWnd& grid, int row, int column);
+    /// What is held for a cell that is given up becomes a mere click, or nothing.
+    void forgetCell(Typing& typing);
+
     JournalRecorder* m_recorder = nullptr;
+    Typing m_typing;
+    bool m_locked = false;
 };
 
 }  // namespace zel
