@@ -83,7 +83,9 @@ int DesktopUserInterface::messageBox(const CString& text, unsigned type)
     box.setIcon(question ? QMessageBox::Question : QMessageBox::Warning);
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
     box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
+    ++m_asking;
     const int answer = box.exec();
+    --m_asking;
     if (!question)
         return IDOK;
     return answer == QMessageBox::Yes ? IDYES : IDNO;
@@ -119,6 +121,7 @@ bool DesktopUserInterface::openFile(const CString& filter, CString& path)
 
 void DesktopUserInterface::runModal(CDialog& dialog)
 {
+    m_running.push_back(&dialog);
     QEventLoop loop;
     const auto endIfOver = [&] {
         if (dialog.hasEnded())
@@ -129,6 +132,9 @@ void DesktopUserInterface::runModal(CDialog& dialog)
     while (!dialog.hasEnded())
         loop.exec();
     QObject::disconnect(idle);
+    m_running.pop_back();
+    if (!m_posted.empty())
+        QTimer::singleShot(0, &m_window, [this] { runPosted(); });
 }
 
 void DesktopUserInterface::dialogOpened(CDialog& dialog)
@@ -179,13 +185,22 @@ void DesktopUserInterface::sendCommand(unsigned number)
 
 void DesktopUserInterface::postCommand(unsigned number)
 {
-    // While a long step has the windows painted, its action is not over yet.
-    QTimer::singleShot(m_step.isPainting() ? repostInterval : 0, &m_window, [this, number] {
-        if (m_step.isPainting())
-            postCommand(number);
-        else
-            m_commands.run(number);
-    });
+    m_posted.push_back(number);
+    QTimer::singleShot(0, &m_window, [this] { runPosted(); });
+}
+
+void DesktopUserInterface::runPosted()
+{
+    while (!m_posted.empty()) {
+        const bool opensOn = !m_running.empty() && m_running.back()->hasEnded();
+        if (m_step.isPainting() || m_asking > 0 || opensOn) {
+            QTimer::singleShot(repostInterval, &m_window, [this] { runPosted(); });
+            return;
+        }
+        const unsigned number = m_posted.front();
+        m_posted.pop_front();
+        m_commands.run(number);
+    }
 }
 
 void DesktopUserInterface::showPreferences(int page)

@@ -7,6 +7,7 @@
 
 #include <QPointer>
 
+#include <deque>
 #include <functional>
 #include <map>
 
@@ -55,6 +56,9 @@ public:
 private:
     /// The window that a new one stands over: the innermost modal form, else the main window.
     [[nodiscard]] QWidget* parentForNew() const;
+    /// Carries out what was posted, once the action that posted it is over: not while it shows a box or paints, nor while the opener of a modal
+    /// dialog that has ended is still to go on.
+    void runPosted();
 
     MainWindow& m_window;
     UserHand& m_hand;
@@ -62,6 +66,9 @@ private:
     IUserInterface* m_former;
     std::map<const CDialog*, FormWindow*> m_forms;
     LongStep m_step;
+    std::deque<unsigned> m_posted;
+    std::vector<const CDialog*> m_running;  ///< the modal dialogs, the innermost one last
+    int m_asking = 0;                       ///< boxes that wait for an answer
 };
 
 /// The pairs of text and pattern of a file question, in the form that file dialogs take: "a|*.x|b|*.*||" is "a (*.x);;b (*.*)".

@@ -5,6 +5,7 @@
 #include "desktop/host/edit_actions.h"
 #include "desktop/host/file_actions.h"
 #include "desktop/host/help_actions.h"
+#include "desktop/host/journal_actions.h"
 #include "desktop/host/model_follower.h"
 #include "desktop/host/preferences_dialog.h"
 #include "desktop/host/settings.h"
@@ -81,6 +82,8 @@ void MainWindow::setDocument(std::unique_ptr<ModelDocument> document)
 
 void MainWindow::closeDialogs()
 {
+    m_journals->stopRecording(QStringLiteral("The recording has ended, because the open model was left or reverted."));
+    m_hand.finish();
     closeAllDialogs();
 }
 
@@ -127,6 +130,7 @@ void MainWindow::addMenus()
     m_edits = new EditActions(*this, *bar.addMenu(QStringLiteral("&Edit")));
     m_views->addActions(*bar.addMenu(QStringLiteral("&View")));
     addCommandMenus(bar, m_hand);
+    m_journals = new JournalActions(*this, *bar.addMenu(QStringLiteral("&Tools")));
     addWindowActions(*this, *bar.addMenu(QStringLiteral("&Window")));
     addHelpActions(*this, *bar.addMenu(QStringLiteral("&Help")));
 }

@@ -13,6 +13,7 @@ namespace zel::desktop {
 
 class EditActions;
 class FileActions;
+class JournalActions;
 class ModelFollower;
 class ModelViews;
 class StatusPanel;
@@ -27,6 +28,7 @@ public:
     [[nodiscard]] DesktopUserInterface& services() { return m_services; }
     [[nodiscard]] FileActions& files() { return *m_files; }
     [[nodiscard]] EditActions& edits() { return *m_edits; }
+    [[nodiscard]] JournalActions& journals() { return *m_journals; }
     [[nodiscard]] StatusPanel& status() { return *m_status; }
     [[nodiscard]] ModelViews& views() { return *m_views; }
     /// The open model; there always is one, in memory if no file is open.
@@ -72,6 +74,7 @@ private:
     StatusPanel* m_status = nullptr;
     FileActions* m_files = nullptr;
     EditActions* m_edits = nullptr;
+    JournalActions* m_journals = nullptr;
 };
 
 }  // namespace zel::desktop
