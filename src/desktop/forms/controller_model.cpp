@@ -24,8 +24,6 @@ void ControllerModel::follow(int rows, int columns)
         Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, m_columns - 1));
     if (m_columns > 0)
         Q_EMIT headerDataChanged(Qt::Horizontal, 0, m_columns - 1);
-    if (m_rows > 0)
-        Q_EMIT headerDataChanged(Qt::Vertical, 0, m_rows - 1);
 }
 
 void ControllerModel::letGo()

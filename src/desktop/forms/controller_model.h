@@ -13,7 +13,8 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : m_rows; }
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : m_columns; }
 
-    /// Takes these numbers over and has everything that is seen painted again.
+    /// Takes these numbers over and has all cells and column headers that are seen painted again. What it costs does not depend on the number
+    /// of rows unless that number changes; headers of rows are left to the view.
     void follow(int rows, int columns);
     /// Shows nothing from now on: the controller is gone.
     void letGo();

@@ -2,7 +2,20 @@
 
 #include "desktop/forms/text.h"
 
+#include <QBrush>
+
 namespace zel::desktop {
+
+namespace {
+
+constexpr int brightGrey = 127;  ///< backgrounds above it bear black text
+
+QColor colourOf(const Colour& colour)
+{
+    return {colour.red, colour.green, colour.blue};
+}
+
+}  // namespace
 
 void GridModel::follow()
 {
@@ -16,23 +29,66 @@ void GridModel::detach()
     letGo();
 }
 
-int GridModel::userRow(int row) const
+bool GridModel::has(const QModelIndex& index) const
 {
-    return m_grid->toUserRow(row + 1);
+    return m_grid != nullptr && index.isValid() && index.row() < m_grid->GetRowCount() && index.column() < m_grid->GetColCount();
 }
 
-int GridModel::viewRow(int userRow) const
+bool GridModel::isEditable(const QModelIndex& index) const
 {
-    return m_grid->toRow(userRow) - 1;
+    return !m_grid->IsModeDisplayOnly() && m_grid->IsCellEditable(index.row() + 1, columnIndex(index.column()));
+}
+
+std::vector<CString> GridModel::choices(const QModelIndex& index) const
+{
+    return m_grid->GetCellChoices(index.row() + 1, columnIndex(index.column()));
+}
+
+QVariant GridModel::shown(const QModelIndex& index) const
+{
+    return toQt(m_grid->shownText(userRow(index.row()), index.column()));
+}
+
+/// Of the cell's own style. A cell of which only the background is given keeps its text legible in a dark theme.
+QVariant GridModel::colour(const QModelIndex& index, bool background) const
+{
+    const GridCellStyle style = m_grid->GetCellStyle(index.row() + 1, columnIndex(index.column()));
+    if (background)
+        return style.background ? QVariant(QBrush(colourOf(*style.background))) : QVariant();
+    if (style.foreground)
+        return QBrush(colourOf(*style.foreground));
+    if (style.background)
+        return QBrush(qGray(colourOf(*style.background).rgb()) > brightGrey ? Qt::black : Qt::white);
+    return {};
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const
 {
-    if (m_grid == nullptr || !index.isValid() || index.row() >= m_grid->GetRowCount() || index.column() >= m_grid->GetColCount())
+    if (!has(index))
         return {};
-    if (role == Qt::DisplayRole)
-        return toQt(m_grid->shownText(userRow(index.row()), index.column()));
-    return {};
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+        return kind(index) == GridKind::check ? QVariant() : shown(index);
+    case Qt::EditRole:
+        return toQt(m_grid->GetValueRowCol(index.row() + 1, index.column() + 1));
+    case Qt::CheckStateRole: {
+        if (kind(index) != GridKind::check)
+            return {};
+        const QString text = shown(index).toString();
+        return text.isEmpty() ? QVariant() : QVariant(text == QLatin1String("1") ? Qt::Checked : Qt::Unchecked);
+    }
+    case Qt::TextAlignmentRole: {
+        const GridAlign align = m_grid->GetColInfo(columnIndex(index.column())).align;
+        const Qt::Alignment sideways = align == GridAlign::left ? Qt::AlignLeft : align == GridAlign::right ? Qt::AlignRight : Qt::AlignHCenter;
+        return QVariant(sideways | Qt::AlignVCenter);
+    }
+    case Qt::BackgroundRole:
+    case Qt::ForegroundRole:
+        return colour(index, role == Qt::BackgroundRole);
+    default:
+        return {};
+    }
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -41,7 +97,15 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return {};
     if (orientation == Qt::Vertical)
         return section < m_grid->GetRowCount() ? QVariant(toQt(m_grid->GetRowHeaderText(section + 1))) : QVariant();
-    return section < m_grid->GetColCount() ? QVariant(toQt(m_grid->GetColInfo(m_grid->GetColIndex(section + 1)).header)) : QVariant();
+    return section < m_grid->GetColCount() ? QVariant(toQt(m_grid->GetColInfo(columnIndex(section)).header)) : QVariant();
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const
+{
+    if (!has(index))
+        return Qt::NoItemFlags;
+    const Qt::ItemFlags plain = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled;
+    return isEditable(index) ? plain | Qt::ItemIsEditable : plain;
 }
 
 }  // namespace zel::desktop

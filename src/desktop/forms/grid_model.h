@@ -5,7 +5,8 @@
 
 namespace zel::desktop {
 
-/// Reads the cells of a grid browser as a host paints them. Rows are the data rows and the append row, columns those on screen, hidden ones included.
+/// Reads the cells of a grid browser as a host paints them. Rows are the data rows and the append row, columns those on screen, hidden ones
+/// included. Row r of the model is row r + 1 of the grid, column c is column c + 1.
 class GridModel final : public ControllerModel {
 public:
     GridModel(CTBBrowserWnd& grid, QObject* parent) : ControllerModel(parent), m_grid(&grid) {}
@@ -15,13 +16,24 @@ public:
     void detach();
 
     /// Row of the controller's user channel: the last one may be the append row.
-    [[nodiscard]] int userRow(int row) const;
-    [[nodiscard]] int viewRow(int userRow) const;
+    [[nodiscard]] int userRow(int row) const { return m_grid->toUserRow(row + 1); }
+    /// Whether the cell is there in the grid now: rows may have come or gone since the last `follow`.
+    [[nodiscard]] bool has(const QModelIndex& index) const;
+    /// The fixed index of a column.
+    [[nodiscard]] int columnIndex(int column) const { return m_grid->GetColIndex(column + 1); }
+    /// Kind and choices of a cell, and whether it takes a text now. The cell must be there.
+    [[nodiscard]] GridKind kind(const QModelIndex& index) const { return m_grid->GetCellKind(index.row() + 1, columnIndex(index.column())); }
+    [[nodiscard]] bool isEditable(const QModelIndex& index) const;
+    [[nodiscard]] std::vector<CString> choices(const QModelIndex& index) const;
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
+    [[nodiscard]] QVariant shown(const QModelIndex& index) const;
+    [[nodiscard]] QVariant colour(const QModelIndex& index, bool background) const;
+
     CTBBrowserWnd* m_grid;
 };
 

@@ -1,5 +1,6 @@
 #include "desktop/forms/list_views.h"
 
+#include "desktop/forms/list_selection.h"
 #include "desktop/forms/text.h"
 
 #include <QHeaderView>
@@ -17,32 +18,24 @@ namespace {
 constexpr int shownRows = 7;
 constexpr int widestList = 700;  ///< [pixels] that the columns of a list make a form wide at most
 
-std::vector<int> selectedRows(const QItemSelectionModel& selection)
+/// The selected rows as the user's channel takes them: the one with the keyboard last, which the controller then takes for the focused one.
+std::vector<int> selectedRows(const QAbstractItemView& view)
 {
-    std::vector<int> rows;
-    for (const QItemSelectionRange& range : selection.selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.push_back(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    std::vector<int> rows = selectedRowsOf(*view.selectionModel());
+    const auto current = std::find(rows.begin(), rows.end(), view.currentIndex().row());
+    if (current != rows.end())
+        std::rotate(current, current + 1, rows.end());
     return rows;
 }
 
-/// Selects these rows, ascending, and no others; neighbours as one range.
-void selectRows(QAbstractItemView& view, const std::vector<int>& rows)
+/// Takes a selection of the controller over. The keyboard goes to `focused`, or stays where it is.
+void showSelection(QAbstractItemView& view, const std::vector<int>& rows, int focused)
 {
-    const QAbstractItemModel& model = *view.model();
-    QItemSelection selection;
-    for (std::size_t first = 0; first < rows.size();) {
-        std::size_t last = first;
-        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1)
-            ++last;
-        selection.select(model.index(rows[first], 0), model.index(rows[last], model.columnCount() - 1));
-        first = last + 1;
-    }
-    if (selectedRows(*view.selectionModel()) != rows)
-        view.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    selectRowsIn(view, rows);
+    const int column = std::max(view.currentIndex().column(), 0);
+    const QModelIndex row = view.model()->index(focused, column);
+    if (row.isValid() && view.currentIndex().row() != focused)
+        view.selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
 }
 
 void setUp(QAbstractItemView& view, bool multiple)
@@ -100,7 +93,7 @@ ListBoxView::ListBoxView(CListBox& list, FormContext& context, QWidget& parent) 
     m_view->setMinimumHeight(m_view->fontMetrics().lineSpacing() * shownRows);
     QObject::connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, m_view, [this] {
         if (isInput())
-            take(hand().select(control(), selectedRows(*m_view->selectionModel())));
+            take(hand().select(control(), selectedRows(*m_view)));
     });
     QObject::connect(m_view, &QListView::doubleClicked, m_view, [this](const QModelIndex& index) {
         if (isInput())
@@ -116,7 +109,11 @@ QWidget& ListBoxView::widget()
 void ListBoxView::refresh()
 {
     m_model->follow(control().GetCount(), 1);
-    selectRows(*m_view, control().GetSelItems());
+    const std::vector<int> selected = control().GetSelItems();
+    const bool keeps = std::binary_search(selected.begin(), selected.end(), m_view->currentIndex().row());
+    showSelection(*m_view, selected, selected.empty() || keeps ? -1 : selected.front());
+    if (!selected.empty() && !keeps)
+        m_view->scrollTo(m_view->currentIndex());
 }
 
 void ListBoxView::detach()
@@ -183,7 +180,7 @@ ReportView::ReportView(CListCtrl& list, FormContext& context, QWidget& parent) :
     m_view->setMinimumHeight(m_view->verticalHeader()->defaultSectionSize() * shownRows);
     QObject::connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, m_view, [this] {
         if (isInput())
-            take(hand().select(control(), selectedRows(*m_view->selectionModel())));
+            take(hand().select(control(), selectedRows(*m_view)));
     });
     QObject::connect(m_view, &QTableView::doubleClicked, m_view, [this](const QModelIndex& index) {
         if (isInput())
@@ -213,14 +210,23 @@ void ReportView::showColumns()
 
 void ReportView::refresh()
 {
-    const int columns = static_cast<int>(control().columns().size());
-    const bool newColumns = columns != m_model->columnCount();
-    m_model->follow(control().GetItemCount(), columns);
-    if (newColumns)
+    const auto& columns = control().columns();
+    const auto same = [](const CListCtrl::Column& a, const CListCtrl::Column& b) { return a.title == b.title && a.width == b.width && a.visible == b.visible; };
+    const bool newColumns = !std::equal(columns.begin(), columns.end(), m_columns.begin(), m_columns.end(), same);
+    const int keyboard = m_view->currentIndex().row();
+    const int formerRows = m_model->rowCount();
+    m_model->follow(control().GetItemCount(), static_cast<int>(columns.size()));
+    if (newColumns) {
+        m_columns = columns;
         showColumns();
-    selectRows(*m_view, control().GetSelectedItems());
-    if (const int row = control().visibleRow(); row >= 0)
-        m_view->scrollTo(m_model->index(row, 0));
+    }
+    const int focused = control().GetFocusedItem();
+    showSelection(*m_view, control().GetSelectedItems(), focused >= 0 ? focused : std::min(keyboard, m_model->rowCount() - 1));
+    // Brought into sight when the dialog asks for it; what the user has scrolled to since then stays.
+    const int inSight = control().visibleRow();
+    if (inSight >= 0 && (inSight != m_inSight || m_model->rowCount() != formerRows))
+        m_view->scrollTo(m_model->index(inSight, 0));
+    m_inSight = inSight;
 }
 
 void ReportView::detach()

@@ -7,7 +7,6 @@
 
 class QListView;
 class QTableView;
-class QItemSelectionModel;
 
 namespace zel::desktop {
 
@@ -44,6 +43,8 @@ private:
     class Model;
     Model* m_model;
     QTableView* m_view;
+    std::vector<CListCtrl::Column> m_columns;  ///< as they were shown last
+    int m_inSight = -1;                        ///< row that was last brought into sight
 };
 
 }  // namespace zel::desktop
