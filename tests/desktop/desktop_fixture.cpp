@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTimer>
 
 #include <fstream>
@@ -20,7 +21,8 @@ using zel::desktop::FormWindow;
 
 namespace {
 
-void pollModal(const std::function<void(QWidget&)>& step, const QWidget* former, int tries)
+/// `former` is a guarded pointer: the next window may stand at the address of one that has gone.
+void pollModal(const std::function<void(QWidget&)>& step, const QPointer<QWidget>& former, int tries)
 {
     QTimer::singleShot(10, qApp, [=] {
         QWidget* modal = QApplication::activeModalWidget();

@@ -9,10 +9,17 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <string_view>
 
 #include <gtest/gtest.h>
+
+/// For the reports of failed tests.
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
 
 namespace desktop_test {
 

@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCursor>
+#include <QEvent>
 
 #include <utility>
 
@@ -58,9 +59,32 @@ void LongStep::paint()
     if (m_painting || std::chrono::steady_clock::now() - m_painted < paintInterval)
         return;
     m_painting = true;
+    qApp->installEventFilter(this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+    qApp->removeEventFilter(this);
     m_painting = false;
     m_painted = std::chrono::steady_clock::now();
+}
+
+/// The input of the window system waits; what is sent by other ways must not get through to a form in the middle of a step.
+bool LongStep::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::Drop:
+    case QEvent::Close:
+        return true;
+    default:
+        return false;
+    }
 }
 
 void LongStep::setCursor(bool busy)

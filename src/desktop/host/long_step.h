@@ -24,6 +24,9 @@ public:
     /// Whether windows are being painted inside a step: nothing else may be begun then.
     [[nodiscard]] bool isPainting() const { return m_painting; }
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     using Time = std::chrono::steady_clock::time_point;
 

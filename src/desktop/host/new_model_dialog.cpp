@@ -71,7 +71,6 @@ NewModelDialog::NewModelDialog(QWidget* parent, const QString& folder, const T_U
     fields->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_create = buttons->addButton(QStringLiteral("&Create"), QDialogButtonBox::AcceptRole);
-    m_create->setDefault(true);
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(fields);
     rows->addWidget(m_hint);
@@ -81,6 +80,7 @@ NewModelDialog::NewModelDialog(QWidget* parent, const QString& folder, const T_U
     QObject::connect(m_path, &QLineEdit::textChanged, this, [this] { check(); });
     QObject::connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    m_create->setDefault(true);
     check();
     m_path->setFocus();
     m_path->setSelection(static_cast<int>(m_path->text().lastIndexOf(QLatin1Char('/'))) + 1,
