@@ -11,8 +11,27 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace zel::desktop {
+
+namespace {
+
+/// Rows with room to click at.
+class RoomyRows final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), std::max(size.height(), option.fontMetrics.height() + 6)};
+    }
+};
+
+}  // namespace
 
 ModelTree::ModelTree(UserHand& hand, QWidget* parent) : QTreeView(parent), m_hand(hand)
 {
@@ -20,6 +39,7 @@ ModelTree::ModelTree(UserHand& hand, QWidget* parent) : QTreeView(parent), m_han
     setAccessibleName(QStringLiteral("Model tree"));
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    setItemDelegate(new RoomyRows(this));
     setFrameShape(QFrame::NoFrame);
     setIndentation(16);
     setTextElideMode(Qt::ElideRight);
@@ -89,7 +109,7 @@ void ModelTree::fetchVisible()
 void ModelTree::resizeEvent(QResizeEvent* event)
 {
     QTreeView::resizeEvent(event);
-    header()->resizeSection(0, viewport()->width() * 58 / 100);
+    header()->resizeSection(0, viewport()->width() * 57 / 100);
     fetchVisible();
 }
 

@@ -174,6 +174,14 @@ QVariant ModelTreeModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
         return text(index);
+    case Qt::FontRole: {
+        const Node* node = nodeAt(index);
+        if (index.column() != 0 || node == nullptr || node->parent != m_root.get())
+            return {};
+        QFont font = QApplication::font("QTreeView");
+        font.setWeight(QFont::DemiBold);
+        return font;
+    }
     case Qt::AccessibleTextRole: {
         const QString details = text(index.siblingAtColumn(1));
         return text(index.siblingAtColumn(0)) + (details.isEmpty() ? QString() : QStringLiteral(", ") + details);

@@ -41,7 +41,7 @@ ModelViews::ModelViews(QMainWindow& window, UserHand& hand)
     QDockWidget* history = addDock(window, QStringLiteral("History"), m_history, Qt::BottomDockWidgetArea);
     window.tabifyDockWidget(output, history);
     output->raise();
-    window.resizeDocks({tree}, {300}, Qt::Horizontal);
+    window.resizeDocks({tree}, {330}, Qt::Horizontal);
     window.resizeDocks({output}, {130}, Qt::Vertical);
 
     auto* place = new QLabel(&window);

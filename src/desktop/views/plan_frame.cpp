@@ -140,6 +140,8 @@ void drawPlanGround(QPainter& painter, const PlanScene& scene)
         const double y = scene.transform.toScreen(QPointF(0, i * cell)).y();
         painter.drawLine(QPointF(0, y), QPointF(size.width(), y));
     }
+    if (scene.model.isEmpty())
+        return;
     const QPointF origin = scene.transform.toScreen(QPointF());
     painter.setPen(QPen(PlanColours::clear(scene.colours.axisX, 0.35), 1));
     painter.drawLine(QPointF(0, origin.y()), QPointF(size.width(), origin.y()));
@@ -149,7 +151,7 @@ void drawPlanGround(QPainter& painter, const PlanScene& scene)
 
 void drawGridLines(QPainter& painter, const PlanScene& scene)
 {
-    constexpr double beyond = 34;  // how far a grid line goes on outside the model [px]
+    constexpr double beyond = 26;  // how far a grid line goes on outside the model [px]
     constexpr double radius = 11;
     if (scene.model.gridLines().empty())
         return;

@@ -110,7 +110,7 @@ void PlanPainter::drawAreas(bool selected)
         m_painter.setBrush(brush);
         m_painter.drawPolygon(outline);
         if (area.soil && area.active) {
-            m_painter.setBrush(QBrush(PlanColours::clear(colours.soil, 0.45), Qt::BDiagPattern));
+            m_painter.setBrush(QBrush(PlanColours::clear(colours.soil, 0.35), Qt::BDiagPattern));
             m_painter.drawPolygon(outline);
         }
         if (area.opening && outline.size() == 4) {

@@ -18,8 +18,9 @@ namespace zel::desktop {
 
 namespace {
 
-constexpr double reach = 7;       // how near a click must be to a point or a line [px]
-constexpr double fitMargin = 56;  // [px]
+constexpr double reach = 7;            // how near a click must be to a point or a line [px]
+constexpr double fitMargin = 56;       // [px]
+constexpr double gridLineMargin = 88;  // the same with room for the names of grid lines [px]
 constexpr double zoomStep = 1.25;
 constexpr double panStep = 0.1;  // part of the canvas
 
@@ -129,7 +130,7 @@ void PlanView::fit()
 {
     m_fitted = true;
     if (!m_model.isEmpty())
-        m_transform.fit(m_model.bounds(), std::min(fitMargin, std::min(width(), height()) / 6.0));
+        m_transform.fit(m_model.bounds(), std::min(m_model.gridLines().empty() ? fitMargin : gridLineMargin, std::min(width(), height()) / 5.0));
     changed();
 }
 
