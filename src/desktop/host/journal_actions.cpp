@@ -65,7 +65,7 @@ JournalActions::JournalActions(MainWindow& window, QMenu& menu) : QObject(&windo
     m_play = add("&Play Journal...", [this] { askAndPlay(); });
     m_mark->setObjectName(QStringLiteral("recording"));
     m_mark->setContentsMargins(6, 0, 6, 0);
-    window.statusBar()->insertPermanentWidget(0, m_mark);
+    window.statusBar()->addPermanentWidget(m_mark);
     showState();
 }
 
