@@ -104,8 +104,8 @@ PreferencesDialog::PreferencesDialog(QWidget* parent, const Preferences& prefere
     QObject::connect(m_titles, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
     QObject::connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     QObject::connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    QObject::connect(m_buttons->button(QDialogButtonBox::RestoreDefaults), &QPushButton::clicked, this, [this] { show(Preferences{}); });
-    show(preferences);
+    QObject::connect(m_buttons->button(QDialogButtonBox::RestoreDefaults), &QPushButton::clicked, this, [this] { fill(Preferences{}); });
+    fill(preferences);
     m_titles->setCurrentRow(0);
     for (int row = 0; row < m_titles->count(); ++row) {
         if (m_titles->item(row)->data(Qt::UserRole).toInt() == page)
@@ -180,7 +180,7 @@ QWidget* PreferencesDialog::fontSizePage()
     return page.widget;
 }
 
-void PreferencesDialog::show(const Preferences& preferences)
+void PreferencesDialog::fill(const Preferences& preferences)
 {
     m_steelStandard->setText(toQt(preferences.model.steelStandard));
     m_concreteStandard->setText(toQt(preferences.model.concreteStandard));

@@ -36,7 +36,7 @@ private:
     QWidget* unitsPage();
     QWidget* languagePage();
     QWidget* fontSizePage();
-    void show(const Preferences& preferences);
+    void fill(const Preferences& preferences);
     void check();
 
     Preferences m_former;
