@@ -183,7 +183,7 @@ void JournalActions::play(const QString& path)
         showState();
         const QString text = endText(playback);
         m_window.statusBar()->showMessage(text, messageTime);
-        if (!playback.errors.isEmpty())
+        if (!playback.errors.empty())
             tellFault(QApplication::activeWindow(),
                       QStringLiteral("%1 of %2 could not be carried out.").arg(playback.errors.size()).arg(commandsText(playback.commands)),
                       QStringLiteral("The output pane has the reasons. ") + text);

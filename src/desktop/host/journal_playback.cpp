@@ -91,8 +91,8 @@ void Playing::note(const JournalReply& reply)
     ++m_playback.commands;
     if (reply.error.empty())
         return;
-    m_playback.errors.append(QStringLiteral("Line %1: %2").arg(reply.line).arg(toQt(reply.error)));
-    m_window.addOutput(m_playback.errors.last());
+    m_playback.errors.push_back({reply.line, toQt(reply.error)});
+    m_window.addOutput(QStringLiteral("Line %1: %2").arg(reply.line).arg(toQt(reply.error)));
 }
 
 bool Playing::end(JournalStatus status)

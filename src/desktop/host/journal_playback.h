@@ -3,14 +3,20 @@
 #include "journal/journal_player.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 #include <iosfwd>
+#include <vector>
 
 namespace zel::desktop {
 
 class MainWindow;
+
+/// A command that could not be carried out.
+struct PlaybackError {
+    long line = 0;
+    QString sentence;
+};
 
 /// What came of a journal that was played in the window.
 struct Playback {
@@ -19,7 +25,7 @@ struct Playback {
     bool isStopped = false;  ///< by the user
     long line = 0;           ///< of the command that was carried out last
     int commands = 0;
-    QStringList errors;  ///< "Line 3: ..." for each command that could not be carried out
+    std::vector<PlaybackError> errors;
 };
 
 struct PlaybackOptions {

@@ -122,8 +122,8 @@ void Run::playJournal()
         fail(QStringLiteral("the journal \"%1\" can't be read. Check its name and its permissions.").arg(m_options.journal));
         QApplication::exit(m_status);
     }
-    for (const QString& error : playback.errors)
-        fail(m_options.journal + QStringLiteral(", ") + error);
+    for (const PlaybackError& error : playback.errors)
+        fail(QStringLiteral("%1, line %2: %3").arg(m_options.journal).arg(error.line).arg(error.sentence));
 }
 
 void Run::takePicture()
