@@ -255,7 +255,7 @@ void PlanView::showCursor()
     else if (m_space)
         setCursor(Qt::OpenHandCursor);
     else
-        setCursor(PlanPicking::isActive() ? Qt::CrossCursor : Qt::ArrowCursor);
+        setCursor(PlanPicking::isActive() || m_view.modelingMode() >= 0 ? Qt::CrossCursor : Qt::ArrowCursor);
 }
 
 // The mouse

@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace zel::desktop {
@@ -149,16 +150,17 @@ void PlanView::paintBand(QPainter& painter)
 void PlanView::paintAdvice(QPainter& painter)
 {
     constexpr int edge = 12;
+    constexpr int legendRoom = 150;  // at the right
     const PlanColours colours(palette());
     const QString text = m_note.isEmpty() ? PlanPicking::advice() : m_note + QStringLiteral("  ") + PlanPicking::advice();
     painter.setFont(font());
-    const QRect room = rect().adjusted(3 * edge, 2 * edge, -3 * edge, 0);
-    const QRect lines = painter.fontMetrics().boundingRect(room, Qt::TextWordWrap | Qt::AlignHCenter | Qt::AlignTop, text);
+    const QRect room = rect().adjusted(3 * edge, 2 * edge, -std::min(width() / 3, legendRoom), 0);
+    const QRect lines = painter.fontMetrics().boundingRect(room, Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, text);
     painter.setPen(QPen(colours.picked, 1.2));
     painter.setBrush(PlanColours::clear(colours.ground, 0.94));
     painter.drawRoundedRect(lines.adjusted(-edge, -edge / 2, edge, edge / 2), 5, 5);
     painter.setPen(colours.text);
-    painter.drawText(lines, Qt::TextWordWrap | Qt::AlignHCenter, text);
+    painter.drawText(lines, Qt::TextWordWrap | Qt::AlignLeft, text);
 }
 
 void PlanView::paintEmpty(QPainter& painter)
