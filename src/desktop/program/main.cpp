@@ -6,6 +6,10 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
+#include <algorithm>
+#include <iostream>
+#include <string_view>
+
 namespace {
 
 using zel::desktop::RunOptions;
@@ -28,10 +32,33 @@ RunOptions readOptions(const QApplication& application)
     return {models.isEmpty() ? QString() : models.first(), parser.value(journal), parser.value(record), parser.value(screenshot), parser.isSet(front)};
 }
 
+#ifdef Q_OS_LINUX
+constexpr bool isLinux = true;
+#else
+constexpr bool isLinux = false;
+#endif
+
+/// Draws into memory where there is no screen, and none is needed: for a picture and for the help. False if one is needed.
+bool findScreen(int argc, char** argv)
+{
+    const bool isThere = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    if (isThere || !isLinux)
+        return true;
+    const bool isNeeded = std::none_of(argv + 1, argv + argc, [](const std::string_view argument) {
+        return argument.starts_with("--screenshot") || argument == "--help" || argument == "-h";
+    });
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return !isNeeded;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
+    if (!findScreen(argc, argv)) {
+        std::cerr << "zel-desktop: there is no screen to open windows on. Start it in a graphical session; \"zel\" does all work without one.\n";
+        return 2;
+    }
     QApplication::setApplicationName(QStringLiteral("zel-desktop"));
     QApplication::setApplicationDisplayName(QStringLiteral("ZEL"));
     QApplication::setOrganizationName(QStringLiteral("ZEL"));
