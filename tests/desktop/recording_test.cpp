@@ -191,12 +191,10 @@ TEST_F(JournalsInTheWindow, CommandsThatFailAreListedWithTheirLines)
 
 TEST_F(JournalsInTheWindow, AJournalThatIsNotThereIsTold)
 {
-    whenModal([](QWidget& modal) {
-        EXPECT_EQ(dynamic_cast<QMessageBox&>(modal).text(), "The journal can't be read.");
-        clickButton(modal, "OK");
-    });
-    window.journals().play(path("none.jsonl"));
+    EXPECT_FALSE(window.journals().play(path("none.jsonl")).isRead);
+    EXPECT_FALSE(window.journals().play(folder.path()).isRead);
     EXPECT_FALSE(window.journals().isPlaying());
+    EXPECT_FALSE(window.hand().isLocked());
 }
 
 TEST_F(JournalsInTheWindow, AModalDialogThatIsOpenAtTheEndIsTheUsers)

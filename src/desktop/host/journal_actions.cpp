@@ -3,7 +3,6 @@
 #include "contract/forms/dialog.h"
 #include "contract/forms/open_dialogs.h"
 #include "desktop/forms/text.h"
-#include "desktop/host/journal_playback.h"
 #include "desktop/host/main_window.h"
 #include "desktop/host/model_errors.h"
 #include "journal/journal_recorder.h"
@@ -166,18 +165,17 @@ void JournalActions::stopRecording(const QString& reason)
 void JournalActions::askAndPlay()
 {
     const QString path = QFileDialog::getOpenFileName(&m_window, QStringLiteral("Play Journal"), folder(), journalFilter());
-    if (!path.isEmpty())
-        play(path);
+    if (!path.isEmpty() && !play(path).isRead)
+        tellFault(&m_window, QStringLiteral("The journal can't be read."), QStringLiteral("Check \"%1\" and its permissions.").arg(path));
 }
 
-void JournalActions::play(const QString& path)
+Playback JournalActions::play(const QString& path, std::ostream* transcript)
 {
-    if (m_isPlaying || m_isRecording)
-        return;
     m_path = path;
     m_isPlaying = true;
     showState();
     PlaybackOptions options;
+    options.transcript = transcript;
     options.ended = [this](const Playback& playback) {
         m_isPlaying = false;
         showState();
@@ -189,12 +187,10 @@ void JournalActions::play(const QString& path)
                       QStringLiteral("The output pane has the reasons. ") + text);
         return true;
     };
-    const Playback playback = playInWindow(m_window, path, options);
-    if (playback.isRead)
-        return;
+    Playback playback = playInWindow(m_window, path, options);
     m_isPlaying = false;
     showState();
-    tellFault(&m_window, QStringLiteral("The journal can't be read."), QStringLiteral("Check \"%1\" and its permissions.").arg(path));
+    return playback;
 }
 
 }  // namespace zel::desktop

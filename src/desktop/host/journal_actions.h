@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/host/journal_playback.h"
+
 #include <QObject>
 #include <QString>
 
@@ -33,7 +35,8 @@ public:
     [[nodiscard]] bool isRecording() const { return m_isRecording; }
     [[nodiscard]] bool isPlaying() const { return m_isPlaying; }
     /// Plays a journal for somebody who watches: errors stand in the output pane, and a last message says how it went.
-    void play(const QString& path);
+    /// @param transcript  takes the replies; may be null
+    Playback play(const QString& path, std::ostream* transcript = nullptr);
 
 private:
     void askAndRecord();

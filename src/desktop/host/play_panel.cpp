@@ -46,6 +46,10 @@ void PlayPanel::stayInFront()
     hide();
     show();
     raise();
+    // In the corner, where the forms can be watched beside it.
+    constexpr int margin = 48;
+    const QRect around = parentWidget()->frameGeometry();
+    move(around.right() - frameGeometry().width() - margin / 2, around.bottom() - frameGeometry().height() - margin);
 }
 
 void PlayPanel::reject()

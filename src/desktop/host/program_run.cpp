@@ -29,6 +29,7 @@ private:
     bool openModel();
     void begin();
     bool beginRecording();
+    Playback playForPicture();
     void playJournal();
     void takePicture();
 
@@ -102,19 +103,24 @@ bool Run::beginRecording()
     return m_status == 0;
 }
 
-void Run::playJournal()
+/// With a picture at its end, for nobody: without the panel, and modal dialogs that are open there are cancelled behind the picture.
+Playback Run::playForPicture()
 {
     PlaybackOptions playing;
-    playing.hasPanel = m_options.screenshot.isEmpty();
+    playing.hasPanel = false;
     playing.transcript = &std::cout;
     playing.ended = [this](const Playback&) {
-        if (!m_options.screenshot.isEmpty())
-            takePicture();
-        return m_options.screenshot.isEmpty();
+        takePicture();
+        return false;
     };
+    return playInWindow(m_window, m_options.journal, playing);
+}
+
+void Run::playJournal()
+{
     Playback playback;
     try {
-        playback = playInWindow(m_window, m_options.journal, playing);
+        playback = m_options.screenshot.isEmpty() ? m_window.journals().play(m_options.journal, &std::cout) : playForPicture();
     } catch (const std::exception& fault) {
         fail(toQt(fault.what()) + QStringLiteral(". Check where standard output goes."));
     }
