@@ -17,7 +17,7 @@ namespace zel::desktop {
 namespace {
 
 constexpr int pencilWidth = 12;    ///< [pixels] at the left of every row header
-constexpr int headerMargin = 12;   ///< [pixels] beside the text
+constexpr int headerMargin = 8;    ///< [pixels] beside the text
 constexpr int fewRows = 200;       ///< of so many all texts are measured, of more the widest number is the last one
 constexpr double pencilTip = 0.4;  ///< of its width
 
@@ -36,11 +36,8 @@ void GridRowHeader::follow(const CTBBrowserWnd& grid)
     setVisible(shown);
     if (!shown)
         return;
-    QFont bold = font();
-    bold.setBold(true);
-    const QFontMetrics metrics(bold);
     int widest = 0;
-    const auto measure = [&](int row) { widest = std::max(widest, metrics.horizontalAdvance(toQt(grid.GetRowHeaderText(row)))); };
+    const auto measure = [&](int row) { widest = std::max(widest, fontMetrics().horizontalAdvance(toQt(grid.GetRowHeaderText(row)))); };
     const int rows = grid.GetDataRowCount();
     for (int row = 1; row <= std::min(rows, fewRows); ++row)
         measure(row);
@@ -56,12 +53,7 @@ void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int row) 
 {
     const GridView* view = m_pane.view();
     const bool edited = view != nullptr && view->isAttached() && view->grid().GetEditRow() == row + 1;
-    painter->save();
-    if (edited) {
-        QFont bold = painter->font();
-        bold.setBold(true);
-        painter->setFont(bold);
-    }
+    painter->save();  // the base leaves its clipping behind
     QHeaderView::paintSection(painter, rect, row);
     painter->restore();
     if (!edited)

@@ -90,6 +90,7 @@ private:
     [[nodiscard]] bool isEditable(const QModelIndex& cell) const;
     [[nodiscard]] QModelIndex current() const;
     [[nodiscard]] std::vector<int> chosenRows() const;
+    [[nodiscard]] CString identityOf(int row) const;
 
     GridView& m_view;
     GridRowGesture m_rows;

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <numeric>
 
 namespace zel::desktop {
 
@@ -353,6 +354,19 @@ void GridInput::removeRows()
         (void)m_view.act([&] { return m_view.user().deleteRows(m_view.grid(), rows); }, GridView::Refusal::shown);
 }
 
+/// What a row is known by at another place: the texts of a frozen column, a number, go with the place.
+CString GridInput::identityOf(int row) const
+{
+    const CTBBrowserWnd& grid = m_view.grid();
+    CString identity = std::to_string(grid.GetRowKey(row));
+    for (int index = 0; index < grid.GetColCount(); ++index) {
+        if (!grid.GetColInfo(index).frozen)
+            identity += '\t' + grid.TextBeforeEdit(row, index);
+    }
+    return identity;
+}
+
+/// Rows that have moved stay selected, also where the grid reads its rows anew, so that the next key moves them on.
 void GridInput::moveRows(int step)
 {
     CTBBrowserWndEx* grid = m_view.orderedGrid();
@@ -361,8 +375,16 @@ void GridInput::moveRows(int step)
         return;
     const auto [first, last] = std::minmax_element(rows.begin(), rows.end());
     const int target = step < 0 ? *first - 1 : *last + 2;
-    if (target >= 0 && target <= grid->GetDataRowCount())
-        (void)m_view.act([&] { return m_view.user().dragRows(*grid, rows, target); }, GridView::Refusal::shown);
+    if (target < 0 || target > grid->GetDataRowCount())
+        return;
+    const int count = static_cast<int>(rows.size());
+    const CString identity = identityOf(rows.front() + 1);
+    if (!m_view.act([&] { return m_view.user().dragRows(*grid, rows, target); }, GridView::Refusal::shown))
+        return;
+    std::vector<int> moved(rows.size());
+    std::iota(moved.begin(), moved.end(), step < 0 ? target : target - count);
+    if (identityOf(moved.front() + 1) == identity && grid->GetSelectedRows().size() != moved.size())
+        select(moved);
 }
 
 void GridInput::moveColumn(int column, int gap)

@@ -166,6 +166,10 @@ void GridRowGesture::release()
         std::vector<int> rows = grid->GetSelectedRows();
         for (int& each : rows)
             --each;
+        const auto [first, last] = std::minmax_element(rows.begin(), rows.end());
+        const bool together = *last - *first + 1 == static_cast<int>(rows.size());
+        if (together && gap >= *first && gap <= *last + 1)
+            return;  // dropped where they were
         (void)m_view.act([&] { return m_view.user().dragRows(*grid, rows, gap); }, GridView::Refusal::shown);
     }
 }

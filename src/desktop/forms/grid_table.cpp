@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -90,6 +91,10 @@ void GridTable::follow()
     followSpans(grid);
     stickColumns();
     repaintCells();
+    if (const QSize least = minimumSizeHint(); least != m_leastSize) {
+        m_leastSize = least;
+        updateGeometry();
+    }
 }
 
 void GridTable::followRows(const CTBBrowserWnd& grid)
@@ -323,7 +328,14 @@ void GridTable::scrollContentsBy(int dx, int dy)
 
 void GridTable::focusInEvent(QFocusEvent* event)
 {
-    QTableView::focusInEvent(event);
+    {
+        // Qt makes the first cell current where none is. That is no step of the user.
+        const QSignalBlocker quiet(selectionModel());
+        const QModelIndex former = currentIndex();
+        QTableView::focusInEvent(event);
+        if (currentIndex() != former)
+            selectionModel()->setCurrentIndex(former, QItemSelectionModel::NoUpdate);
+    }
     repaintCells();
     if (view() != nullptr)
         view()->focusCame();
@@ -347,7 +359,7 @@ void GridTable::changeEvent(QEvent* event)
 
 QSize GridTable::sizeFor(int mostWidth, int rows) const
 {
-    int width = m_rowHeader->isVisibleTo(this) ? m_rowHeader->sizeHint().width() : 0;
+    int width = m_rowHeader->isVisibleTo(this) ? m_rowHeader->minimumWidth() : 0;
     width += horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() + 2 * QTableView::frameWidth();
     const int header = horizontalHeader()->isVisibleTo(this) ? horizontalHeader()->sizeHint().height() : 0;
     const int height = header + rows * verticalHeader()->defaultSectionSize() + 2 * QTableView::frameWidth();

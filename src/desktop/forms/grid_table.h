@@ -87,6 +87,7 @@ private:
     std::vector<bool> m_sticky;            ///< columns that are to stay in sight
     std::map<int, bool> m_userSized;       ///< by fixed index
     std::map<QString, int> m_titleWidths;  ///< [pixels] of the headers that were measured with the present font
+    QSize m_leastSize;
     bool m_placing = false;
 };
 

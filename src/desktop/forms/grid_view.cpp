@@ -88,7 +88,7 @@ bool GridView::type(const QString& text)
     const Taken taken = hand().typeText(control(), fromQt(text));
     if (life.expired() || !isAttached())
         return false;
-    take(taken);
+    m_editor->follow();  // with what the controller has taken, or what it had before
     return taken.ok();
 }
 
