@@ -109,7 +109,7 @@ void ModelTree::fetchVisible()
 void ModelTree::resizeEvent(QResizeEvent* event)
 {
     QTreeView::resizeEvent(event);
-    header()->resizeSection(0, viewport()->width() * 57 / 100);
+    header()->resizeSection(0, viewport()->width() * 52 / 100);
     fetchVisible();
 }
 

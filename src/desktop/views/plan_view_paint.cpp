@@ -176,7 +176,7 @@ void PlanView::paintEmpty(QPainter& painter)
     painter.setPen(colours.ink(0.55));
     painter.drawText(middle.adjusted(0, 36, 0, 0), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
                      QStringLiteral("Open or import a model with the File menu to see its plan here.\n"
-                                    "Load cases and combinations need no plan: see the Load and Results menus, or double-click them in the tree."));
+                                    "Load cases and combinations need no plan: double-click them in the tree."));
 }
 
 }  // namespace zel::desktop
