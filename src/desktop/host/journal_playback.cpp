@@ -7,13 +7,11 @@
 #include "desktop/host/play_panel.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <memory>
-#include <optional>
 #include <sstream>
 
 namespace zel::desktop {
@@ -43,12 +41,11 @@ private:
 
 Playback Playing::run()
 {
-    std::ifstream file(fromQt(m_path), std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(file), {}};
-    if (!file || QFileInfo(m_path).isDir()) {
-        m_playback.isRead = false;
+    QFile file(m_path);
+    m_playback.isRead = file.open(QIODevice::ReadOnly);
+    if (!m_playback.isRead)
         return m_playback;
-    }
+    const std::string text = file.readAll().toStdString();
     std::istringstream script(text);
     std::ostringstream unread;
     JournalPlayer player(m_window.document(), script, m_options.transcript != nullptr ? *m_options.transcript : unread, playerOptions());
