@@ -39,6 +39,15 @@ int leftInset(const QWidget& block)
     return block.contentsMargins().left() + (block.layout() != nullptr ? block.layout()->contentsMargins().left() : 0);
 }
 
+/// How far the contents of a page or panel stand from the left edge of those of the form, by the margins between.
+int insetIn(const QWidget& form, const QWidget& page)
+{
+    int inset = 0;
+    for (const QWidget* each = &page; each != &form && each != nullptr; each = each->parentWidget())
+        inset += qobject_cast<const QStackedWidget*>(each) != nullptr ? 0 : leftInset(*each);  // a stack has no use for its margins
+    return inset;
+}
+
 }  // namespace
 
 FormBody::FormBody(QWidget& window) : m_window(&window), m_layout(new QVBoxLayout(&window)) {}
@@ -204,24 +213,47 @@ void FormBody::place(const std::vector<Strip>& strips)
         m_layout->addStretch(1);
 }
 
-/// Fields that stand below each other begin at one line, in frames and outside.
-void FormBody::alignLabels()
+/// All blocks that stand below each other in a column.
+FormBody::Column FormBody::lane(std::size_t column) const
 {
-    for (const std::size_t lane : {std::size_t{0}, std::size_t{1}}) {
-        std::vector<std::size_t> blocks;
-        int widest = 0;
-        for (const Strip& strip : m_strips) {
-            if (lane < strip.size())
-                blocks.insert(blocks.end(), strip[lane].begin(), strip[lane].end());
-        }
-        for (const std::size_t block : blocks) {
-            const int width = m_blocks[block].section->labelWidth();
-            if (width > 0)
-                widest = std::max(widest, leftInset(*m_blocks[block].widget) + width);
-        }
-        for (const std::size_t block : blocks)
-            m_blocks[block].section->setLabelWidth(std::max(0, widest - leftInset(*m_blocks[block].widget)));
+    Column blocks;
+    for (const Strip& strip : m_strips) {
+        if (column < strip.size())
+            blocks.insert(blocks.end(), strip[column].begin(), strip[column].end());
     }
+    return blocks;
+}
+
+int FormBody::labelWidthOf(const Column& column) const
+{
+    int widest = 0;
+    for (const std::size_t block : column) {
+        const int width = m_blocks[block].section->labelWidth();
+        if (width > 0)
+            widest = std::max(widest, leftInset(*m_blocks[block].widget) + width);
+    }
+    return widest;
+}
+
+void FormBody::setLabelWidth(const Column& column, int width)
+{
+    for (const std::size_t block : column) {
+        m_blocks[block].section->setLabelWidth(std::max(0, width - leftInset(*m_blocks[block].widget)));
+        m_blocks[block].widget->layout()->activate();
+    }
+}
+
+int FormBody::labelWidth(const QWidget& form) const
+{
+    const int width = labelWidthOf(lane(0));
+    return width > 0 ? width + insetIn(form, *m_window) : 0;
+}
+
+void FormBody::alignLabels(const QWidget& form, int width)
+{
+    setLabelWidth(lane(0), width - insetIn(form, *m_window));
+    setLabelWidth(lane(1), labelWidthOf(lane(1)));
+    m_layout->activate();
 }
 
 void FormBody::follow()
@@ -238,7 +270,6 @@ void FormBody::follow()
         place(strips);
         m_strips = strips;
     }
-    alignLabels();
     setStretch(*m_window, grows());
     if (auto* stack = qobject_cast<QStackedWidget*>(m_window->parentWidget())) {
         bool tall = false;
@@ -246,9 +277,6 @@ void FormBody::follow()
             tall = tall || stack->widget(i)->sizePolicy().verticalStretch() > 0;
         setStretch(*stack, tall);
     }
-    for (const Block& block : m_blocks)
-        block.widget->layout()->activate();
-    m_layout->activate();
 }
 
 bool FormBody::grows() const

@@ -34,6 +34,11 @@ public:
     /// Whether something that is seen in it makes use of more height.
     [[nodiscard]] bool grows() const;
 
+    /// Width that the labels in its first column need, from the left edge of `form`, which it is in or is; 0 without labels.
+    [[nodiscard]] int labelWidth(const QWidget& form) const;
+    /// Fields that stand below each other begin at one line, in frames and outside: the first column's at `width` from the left edge of `form`.
+    void alignLabels(const QWidget& form, int width);
+
 private:
     struct Block {
         QWidget* widget;
@@ -55,7 +60,9 @@ private:
     [[nodiscard]] int widthOf(std::size_t block) const;
     void place(const std::vector<Strip>& strips);
     void fill(QVBoxLayout& layout, const Column& column) const;
-    void alignLabels();
+    [[nodiscard]] Column lane(std::size_t column) const;
+    [[nodiscard]] int labelWidthOf(const Column& column) const;
+    void setLabelWidth(const Column& column, int width);
 
     QWidget* m_window;
     QVBoxLayout* m_layout;

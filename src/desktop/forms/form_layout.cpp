@@ -3,6 +3,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zel::desktop {
 
 namespace {
@@ -62,6 +64,17 @@ FormParts layOutForm(CDialog& dialog, FormContext& context, QWidget& window)
     FormParts parts;
     addForm(dialog, context, window, parts);
     return parts;
+}
+
+void closeGaps(const FormParts& parts, const QWidget& window)
+{
+    int widest = 0;
+    for (const std::unique_ptr<FormBody>& body : parts.bodies) {
+        body->follow();
+        widest = std::max(widest, body->labelWidth(window));
+    }
+    for (const std::unique_ptr<FormBody>& body : parts.bodies)
+        body->alignLabels(window, widest);
 }
 
 }  // namespace zel::desktop

@@ -32,4 +32,7 @@ struct FormParts {
 /// what stands in a row side by side; units, spin arrows and "..." buttons beside their fields; frames around groups; buttons at the right.
 FormParts layOutForm(CDialog& dialog, FormContext& context, QWidget& window);
 
+/// Takes over which of the widgets are hidden: they leave no gap behind, and the labels of the others stand in one column.
+void closeGaps(const FormParts& parts, const QWidget& window);
+
 }  // namespace zel::desktop

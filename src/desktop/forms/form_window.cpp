@@ -136,11 +136,6 @@ void FormWindow::showChanges()
     m_timer.stop();
     if (m_dialog == nullptr)
         return;
-    if (!m_former.empty() && !userActionUnderWay()) {
-        for (const Former& former : m_former)
-            delete former.sheet;
-        m_former.clear();
-    }
     const std::vector<const Control*> changed = std::exchange(m_changed, {});
     const bool otherControls = std::exchange(m_formChanged, false) && m_dialog->controls() != m_controls;
     if (otherControls || std::exchange(m_fontChanged, false)) {
@@ -199,7 +194,20 @@ void FormWindow::rebuild()
 {
     drop();
     build();
-    m_timer.start(idlePause);  // the former widgets go when nothing happens in them any more
+    deleteFormer();
+}
+
+/// The widgets that a form was built of before go when nothing happens in them any more.
+void FormWindow::deleteFormer()
+{
+    QTimer::singleShot(idlePause, this, [this] {
+        if (userActionUnderWay()) {
+            deleteFormer();
+            return;
+        }
+        for (const Former& former : std::exchange(m_former, {}))
+            delete former.sheet;
+    });
 }
 
 bool FormWindow::labelsChanged()
@@ -256,6 +264,7 @@ void FormWindow::showPart(const FormParts::Part& part)
 /// Title, and what is enabled and visible.
 void FormWindow::showState()
 {
+    const QSize former = size();
     {
         const Refreshing guard(m_context);
         setWindowTitle(toQt(m_dialog->GetWindowText()));
@@ -263,21 +272,20 @@ void FormWindow::showState()
             showPart(part);
         for (const FormParts::Stack& stack : m_parts.stacks)
             stack.pages->setCurrentIndex(dynamic_cast<CDlgTabCtrl&>(*stack.tabs).GetCurSel());
-        for (const std::unique_ptr<FormBody>& body : m_parts.bodies)
-            body->follow();
+        closeGaps(m_parts, *m_sheet);
     }
-    fit();
+    fit(former);
 }
 
 /// The window follows when parts of the form come or go; what the user has made it larger or smaller by stays, except for the height of a form
 /// in which nothing makes use of it.
-void FormWindow::fit()
+void FormWindow::fit(QSize former)
 {
     layout()->activate();
     const QSize wanted = sizeHint();
     if (wanted == m_wanted)
         return;
-    QSize size = m_wanted.isValid() ? this->size() + wanted - m_wanted : wanted;
+    QSize size = m_wanted.isValid() ? former + wanted - m_wanted : wanted;
     if (!m_parts.bodies.back()->grows())
         size.setHeight(wanted.height());
     m_wanted = wanted;
@@ -327,6 +335,13 @@ Control* FormWindow::controlOf(const QObject* widget) const
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event)
 {
+    // A grid keeps Tab for its cells; with Ctrl it goes on to the next control.
+    if (event->type() == QEvent::KeyPress && m_dialog != nullptr) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        const bool leaves = (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) && key.modifiers().testFlag(Qt::ControlModifier);
+        if (leaves && controlOf(watched) != nullptr && controlOf(watched)->kind() == Kind::grid)
+            return QDialog::focusNextPrevChild(key.key() == Qt::Key_Tab && !key.modifiers().testFlag(Qt::ShiftModifier));
+    }
     if (event->type() == QEvent::FocusIn && m_dialog != nullptr && m_context.refreshing == 0) {
         Control* control = controlOf(watched);
         if (control != nullptr && !control->HasFocus())
@@ -338,7 +353,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event)
 /// Tab is the controller's, which knows what can be used; back goes by the order of the widgets, which is the same.
 bool FormWindow::focusNextPrevChild(bool next)
 {
-    if (!next || m_dialog == nullptr)
+    const bool byTheProgram = m_context.refreshing > 0;  // a widget that is hidden or disabled passes the focus on
+    const bool fromGrid = m_dialog != nullptr && m_dialog->GetFocus() != nullptr && m_dialog->GetFocus()->kind() == Kind::grid;  // which has had the key
+    if (!next || m_dialog == nullptr || byTheProgram || fromGrid)
         return QDialog::focusNextPrevChild(next);
     (void)m_context.hand.key(*m_dialog, UserKey::tab);
     showChanges();

@@ -43,13 +43,14 @@ private:
     void build();
     void drop();
     void rebuild();
+    void deleteFormer();
     void deleteWhenIdle();
     void detachMissing();
     void nameParts();
     [[nodiscard]] bool labelsChanged();
     void showState();
     void showPart(const FormParts::Part& part);
-    void fit();
+    void fit(QSize former);
     void focusFirst();
     void showFocus();
     [[nodiscard]] Control* controlOf(const QObject* widget) const;

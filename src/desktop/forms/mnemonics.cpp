@@ -6,10 +6,33 @@ namespace zel::desktop {
 
 namespace {
 
+constexpr QLatin1Char mark{'&'};
+
+/// Place of the mark; -1 for none. A doubled one is no mark: it shows one.
 qsizetype declaredAt(const QString& text)
 {
-    const qsizetype at = text.indexOf(QLatin1Char('&'));
-    return at >= 0 && at + 1 < text.size() && text[at + 1].isLetterOrNumber() ? at : -1;
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != mark)
+            continue;
+        if (text[i + 1].isLetterOrNumber())
+            return i;
+        i += text[i + 1] == mark ? 1 : 0;
+    }
+    return -1;
+}
+
+QString withoutMarks(const QString& text)
+{
+    QString plain;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] != mark) {
+            plain += text[i];
+        } else if (i + 1 < text.size() && text[i + 1] == mark) {
+            plain += QStringLiteral("&&");
+            ++i;
+        }
+    }
+    return plain;
 }
 
 qsizetype freePlace(const QString& text, const QSet<QChar>& taken, bool atWords)
@@ -36,7 +59,7 @@ std::vector<QString> withMnemonics(const std::vector<QString>& texts)
             taken.insert(result[i][at + 1].toLower());
             continue;
         }
-        result[i].remove(QLatin1Char('&'));
+        result[i] = withoutMarks(result[i]);
         open.push_back(i);
     }
     for (const std::size_t i : open) {
@@ -46,7 +69,7 @@ std::vector<QString> withMnemonics(const std::vector<QString>& texts)
         if (at < 0)
             continue;
         taken.insert(result[i][at].toLower());
-        result[i].insert(at, QLatin1Char('&'));
+        result[i].insert(at, mark);
     }
     return result;
 }

@@ -18,8 +18,7 @@ namespace {
 constexpr int longestRadioLine = 36;  ///< radio buttons that still stand side by side
 constexpr int narrowestButton = 11;   ///< in a row of buttons
 constexpr int widestEvenButton = 24;  ///< above it the buttons of a row keep their own widths
-constexpr int widestNumber = 24;
-constexpr int widestChoice = 44;
+constexpr int widestField = 32;       ///< a field that is longer than what it may hold looks as if more were expected
 constexpr int widestText = 64;
 constexpr int widestHead = 30;  ///< of a check that stands in the column of the labels
 constexpr int widestListsBeside = 130;
@@ -79,12 +78,9 @@ bool isButtonRow(const Control& control)
     return control.row() != nullptr && control.row()->use() == CRow::Use::buttons;
 }
 
-/// A field that is longer than what it may hold looks as if more were expected.
-int widestField(const Control& control)
+int widestOf(const Control& control)
 {
-    if (control.kind() == Kind::number)
-        return widestNumber;
-    return control.kind() == Kind::combo ? widestChoice : widestText;
+    return control.kind() == Kind::edit || control.kind() == Kind::pick ? widestText : widestField;
 }
 
 }  // namespace
@@ -244,8 +240,9 @@ void SectionLayout::placeFields(Line& line)
             continue;
         }
         const bool grows = isField(*item.control);
+        const bool counts = i + 1 < tails && line.items[i + 1].control->kind() == Kind::spin;
         if (grows && line.use != Use::lines)
-            item.widget->setMaximumWidth(std::max(item.widget->minimumWidth(), digits(*m_block, widestField(*item.control))));
+            item.widget->setMaximumWidth(std::max(item.widget->minimumWidth(), digits(*m_block, counts ? widestField : widestOf(*item.control))));
         cell->addWidget(item.widget, grows ? 1 : 0);
     }
     if (line.use != Use::lines)

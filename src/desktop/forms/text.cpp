@@ -4,6 +4,12 @@
 
 namespace zel::desktop {
 
+namespace {
+
+constexpr QChar shownAmpersand{0xE000};
+
+}  // namespace
+
 QString drawnLabel(const CString& label)
 {
     QString drawn = toQt(label).simplified();
@@ -13,7 +19,10 @@ QString drawnLabel(const CString& label)
 
 QString spokenLabel(const CString& label)
 {
-    return toQt(normalisedLabel(label));
+    // A doubled "&" is one that is shown; the normal form of names drops both.
+    QString text = toQt(label);
+    text.replace(QStringLiteral("&&"), QString(shownAmpersand));
+    return toQt(normalisedLabel(fromQt(text))).replace(shownAmpersand, QLatin1Char('&'));
 }
 
 }  // namespace zel::desktop
