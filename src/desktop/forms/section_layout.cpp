@@ -24,7 +24,8 @@ constexpr int widestHead = 30;  ///< of a check that stands in the column of the
 constexpr int widestListsBeside = 130;
 
 constexpr int fieldColumn = 1;
-constexpr int columns = 3;  ///< labels, fields, what belongs to a field
+constexpr int tailColumn = 2;   ///< of what belongs to a field
+constexpr int slackColumn = 3;  ///< beside them, where there is more room than the fields may take
 
 int digits(const QWidget& widget, int count)
 {
@@ -76,11 +77,6 @@ bool fitsOneLine(const CRadioGroup& radios)
 bool isButtonRow(const Control& control)
 {
     return control.row() != nullptr && control.row()->use() == CRow::Use::buttons;
-}
-
-int widestOf(const Control& control)
-{
-    return control.kind() == Kind::edit || control.kind() == Kind::pick ? widestText : widestField;
 }
 
 }  // namespace
@@ -154,7 +150,11 @@ void SectionLayout::addInside(QWidget& inside)
 void SectionLayout::finish(QGridLayout& grid, bool buttonsBelowEachOther)
 {
     m_grid = &grid;
+    m_hasTails = std::any_of(m_lines.begin(), m_lines.end(), [](const Line& line) { return tailOf(line) < line.items.size(); });
+    m_columns = m_hasTails ? slackColumn + 1 : fieldColumn + 1;
     m_grid->setColumnStretch(fieldColumn, 1);
+    if (m_hasTails)
+        m_grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum), 0, slackColumn);
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
         Line& line = m_lines[i];
         const Line* before = i > 0 ? &m_lines[i - 1] : nullptr;
@@ -206,6 +206,18 @@ QWidget* SectionLayout::headOf(Line& line, std::size_t& next) const
     return first.widget;
 }
 
+/// Where the units and "..." of a line begin that has one field only; its end if it has none, or several fields.
+std::size_t SectionLayout::tailOf(const Line& line)
+{
+    std::size_t tail = line.items.size();
+    const auto fields = std::count_if(line.items.begin(), line.items.end(), [](const Item& each) { return isField(*each.control); });
+    if (line.use != Use::fields || fields != 1)
+        return tail;
+    while (tail > 1 && isTail(*line.items[tail - 1].control) && line.items[tail - 1].label == nullptr && !isField(*line.items[tail - 1].control))
+        --tail;
+    return tail;
+}
+
 /// A label, its field with its arrows, and in the third column its unit and its "..."; further fields follow in the second.
 void SectionLayout::placeFields(Line& line)
 {
@@ -213,50 +225,56 @@ void SectionLayout::placeFields(Line& line)
     std::size_t next = 0;
     QWidget* head = headOf(line, next);
     if (head != nullptr) {
-        const bool top = line.use == Use::lines;
-        m_grid->addWidget(head, line.row, 0, top ? Qt::AlignTop : Qt::Alignment());
+        m_grid->addWidget(head, line.row, 0, line.use == Use::lines ? Qt::AlignTop : Qt::Alignment());
         m_heads.push_back(head);
     }
+    const std::size_t tail = tailOf(line);
+    const bool several = tail == line.items.size() && tail > next + 1;
     auto* cell = new QHBoxLayout;
-    std::size_t tails = line.items.size();
-    while (tails > next + 1 && isTail(*line.items[tails - 1].control) && line.items[tails - 1].label == nullptr)
-        --tails;
-    const auto fields = std::count_if(line.items.begin(), line.items.end(), [](const Item& each) { return isField(*each.control); });
-    if (fields > 1)
-        tails = line.items.size();
-    for (std::size_t i = next; i < tails; ++i) {
+    for (std::size_t i = next; i < tail; ++i) {
         const Item& item = line.items[i];
         if (item.label != nullptr && item.label != head)
             cell->addWidget(item.label);
-        if (item.control->kind() == Kind::spin && i > next) {
-            const Item& buddy = line.items[i - 1];
-            item.widget->setFixedHeight(buddy.widget->sizeHint().height());
-            auto* pair = new QHBoxLayout;
-            pair->setSpacing(1);
-            delete cell->takeAt(cell->count() - 1);
-            pair->addWidget(buddy.widget);
-            pair->addWidget(item.widget);
-            cell->addLayout(pair, 1);
-            continue;
-        }
-        const bool grows = isField(*item.control);
-        const bool counts = i + 1 < tails && line.items[i + 1].control->kind() == Kind::spin;
-        if (grows && line.use != Use::lines)
-            item.widget->setMaximumWidth(std::max(item.widget->minimumWidth(), digits(*m_block, counts ? widestField : widestOf(*item.control))));
-        cell->addWidget(item.widget, grows ? 1 : 0);
+        const bool counts = i + 1 < tail && line.items[i + 1].control->kind() == Kind::spin;
+        if (counts)
+            cell->addLayout(withArrows(item, line.items[++i]), 1);
+        else
+            cell->addWidget(item.widget, isField(*item.control) ? 1 : 0);
+        if (isField(*item.control) && line.use != Use::lines)
+            limitWidth(item, counts);
     }
-    if (line.use != Use::lines)
+    // Where units follow, the field ends where its column does.
+    if (line.use != Use::lines && (!m_hasTails || several))
         cell->addStretch(0);
     const int from = head != nullptr ? fieldColumn : 0;
-    const int to = fields > 1 ? columns : fieldColumn + 1;
+    const int to = several || line.use == Use::lines ? m_columns : fieldColumn + 1;
     m_grid->addLayout(cell, line.row, from, 1, to - from);
-    if (tails == line.items.size())
+    if (tail == line.items.size())
         return;
-    auto* tail = new QHBoxLayout;
-    for (std::size_t i = tails; i < line.items.size(); ++i)
-        tail->addWidget(line.items[i].widget);
-    tail->addStretch(1);
-    m_grid->addLayout(tail, line.row, columns - 1);
+    auto* tails = new QHBoxLayout;
+    for (std::size_t i = tail; i < line.items.size(); ++i)
+        tails->addWidget(line.items[i].widget);
+    tails->addStretch(0);
+    m_grid->addLayout(tails, line.row, tailColumn);
+}
+
+/// A field and the arrows at it.
+QLayout* SectionLayout::withArrows(const Item& field, const Item& arrows) const
+{
+    arrows.widget->setFixedHeight(field.widget->sizeHint().height());
+    auto* pair = new QHBoxLayout;
+    pair->setSpacing(1);
+    pair->addWidget(field.widget, 1);
+    pair->addWidget(arrows.widget);
+    return pair;
+}
+
+/// A field that is longer than what it may hold looks as if more were expected.
+void SectionLayout::limitWidth(const Item& field, bool counts) const
+{
+    const bool text = !counts && (field.control->kind() == Kind::edit || field.control->kind() == Kind::pick) && !m_hasTails;
+    const int widest = digits(*m_block, text ? widestText : widestField);
+    field.widget->setMaximumWidth(std::max({widest, field.widget->minimumWidth(), field.widget->minimumSizeHint().width()}));
 }
 
 /// Radio buttons side by side at even distances.
@@ -269,7 +287,7 @@ void SectionLayout::placeRadios(Line& line)
         cell->addSpacing(digits(*m_block, 2));
     }
     cell->addStretch(1);
-    m_grid->addLayout(cell, line.row, 0, 1, columns);
+    m_grid->addLayout(cell, line.row, 0, 1, m_columns);
 }
 
 /// A row of buttons of one width, at the right; below checks, which it is about, at the left. A lone button before it joins it at the left.
@@ -289,7 +307,7 @@ void SectionLayout::placeButtons(Line& line, const Line* before, Line* joined, b
         cell->addWidget(item.widget);
     if (left || belowEachOther)
         cell->addStretch(1);
-    m_grid->addLayout(cell, line.row, 0, 1, columns);
+    m_grid->addLayout(cell, line.row, 0, 1, m_columns);
 }
 
 void SectionLayout::placeText(Line& line)
@@ -303,7 +321,7 @@ void SectionLayout::placeText(Line& line)
         cell->setStretch(0, 1);
     else
         cell->addStretch(1);
-    m_grid->addLayout(cell, line.row, 0, 1, columns);
+    m_grid->addLayout(cell, line.row, 0, 1, m_columns);
 }
 
 /// Lists that follow one another stand side by side while they fit.
@@ -329,7 +347,7 @@ void SectionLayout::placeLists(std::size_t first, std::size_t end)
     if (end - first > 1) {
         splitter = new QSplitter(m_block);
         splitter->setChildrenCollapsible(false);
-        m_grid->addWidget(splitter, row, 0, 1, columns);
+        m_grid->addWidget(splitter, row, 0, 1, m_columns);
     }
     QList<int> widths;
     for (std::size_t i = first; i < end; ++i) {
@@ -342,7 +360,7 @@ void SectionLayout::placeLists(std::size_t first, std::size_t end)
             cell->addWidget(item.widget, item.view->isTall() ? 1 : 0);
         }
         if (splitter == nullptr) {
-            m_grid->addLayout(cell, row, 0, 1, columns);
+            m_grid->addLayout(cell, row, 0, 1, m_columns);
             continue;
         }
         const Item& list = line.items.front();

@@ -7,6 +7,7 @@
 
 class QGridLayout;
 class QLabel;
+class QLayout;
 
 namespace zel::desktop {
 
@@ -63,7 +64,10 @@ private:
     [[nodiscard]] bool grows(const Line& line) const;
     QLabel* makeLabel(const Control& control, ControlView& view) const;
 
+    static std::size_t tailOf(const Line& line);
     void placeFields(Line& line);
+    QLayout* withArrows(const Item& field, const Item& arrows) const;
+    void limitWidth(const Item& field, bool counts) const;
     QWidget* headOf(Line& line, std::size_t& next) const;
     void placeRadios(Line& line);
     void placeButtons(Line& line, const Line* before, Line* joined, bool belowEachOther);
@@ -81,6 +85,8 @@ private:
         Item item;
     };
     std::vector<Holder> m_holders;  ///< lists beside each other, each with its label
+    bool m_hasTails = false;        ///< units or "..." stand in a column of their own
+    int m_columns = 0;
     int m_rows = 0;
 };
 
