@@ -241,7 +241,9 @@ void SectionLayout::placeFields(Line& line)
         else
             cell->addWidget(item.widget, isField(*item.control) ? 1 : 0);
         if (isField(*item.control) && line.use != Use::lines)
-            limitWidth(item, counts);
+            limitWidth(item);
+        if (counts)
+            item.widget->setMaximumWidth(digits(*m_block, widestField));
     }
     // Where units follow, the field ends where its column does.
     if (line.use != Use::lines && (!m_hasTails || several))
@@ -270,9 +272,9 @@ QLayout* SectionLayout::withArrows(const Item& field, const Item& arrows) const
 }
 
 /// A field that is longer than what it may hold looks as if more were expected.
-void SectionLayout::limitWidth(const Item& field, bool counts) const
+void SectionLayout::limitWidth(const Item& field) const
 {
-    const bool text = !counts && (field.control->kind() == Kind::edit || field.control->kind() == Kind::pick) && !m_hasTails;
+    const bool text = (field.control->kind() == Kind::edit || field.control->kind() == Kind::pick) && !m_hasTails;
     const int widest = digits(*m_block, text ? widestText : widestField);
     field.widget->setMaximumWidth(std::max({widest, field.widget->minimumWidth(), field.widget->minimumSizeHint().width()}));
 }

@@ -67,7 +67,7 @@ private:
     static std::size_t tailOf(const Line& line);
     void placeFields(Line& line);
     QLayout* withArrows(const Item& field, const Item& arrows) const;
-    void limitWidth(const Item& field, bool counts) const;
+    void limitWidth(const Item& field) const;
     QWidget* headOf(Line& line, std::size_t& next) const;
     void placeRadios(Line& line);
     void placeButtons(Line& line, const Line* before, Line* joined, bool belowEachOther);
