@@ -24,8 +24,7 @@ constexpr int widestHead = 30;  ///< of a check that stands in the column of the
 constexpr int widestListsBeside = 130;
 
 constexpr int fieldColumn = 1;
-constexpr int tailColumn = 2;   ///< of what belongs to a field
-constexpr int slackColumn = 3;  ///< beside them, where there is more room than the fields may take
+constexpr int tailColumn = 2;  ///< of what belongs to a field; it takes the room that the fields may not take
 
 int digits(const QWidget& widget, int count)
 {
@@ -151,10 +150,8 @@ void SectionLayout::finish(QGridLayout& grid, bool buttonsBelowEachOther)
 {
     m_grid = &grid;
     m_hasTails = std::any_of(m_lines.begin(), m_lines.end(), [](const Line& line) { return tailOf(line) < line.items.size(); });
-    m_columns = m_hasTails ? slackColumn + 1 : fieldColumn + 1;
+    m_columns = m_hasTails ? tailColumn + 1 : fieldColumn + 1;
     m_grid->setColumnStretch(fieldColumn, 1);
-    if (m_hasTails)
-        m_grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum), 0, slackColumn);
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
         Line& line = m_lines[i];
         const Line* before = i > 0 ? &m_lines[i - 1] : nullptr;
