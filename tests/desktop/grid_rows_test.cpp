@@ -1,6 +1,8 @@
 #include "desktop/grid_members.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QScrollBar>
 
 namespace desktop_test {
@@ -119,6 +121,41 @@ TEST_F(GridRows, AreCopiedAsTabSeparatedLinesAndPastedAsNewOnes)
     screen->key(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(names(), std::vector<CString>({"B1", "B2", "C1", "D1", "D2"}));
     EXPECT_EQ(grid.data[4].length, 6.0);
+}
+
+TEST_F(GridRows, HaveAMenuOfWhatCanBeDoneWithThem)
+{
+    const auto menuAt = [&](int row) {
+        const QPoint at = screen->centre(row, 1);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, screen->pane(1).mapToGlobal(at));
+        QApplication::sendEvent(&screen->pane(1), &event);
+        return dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+    };
+    const auto texts = [](const QMenu& menu) {
+        QStringList all;
+        for (const QAction* action : menu.actions()) {
+            if (!action->isSeparator())
+                all += action->text();
+        }
+        return all;
+    };
+    QMenu* menu = menuAt(1);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(grid.GetCurrentRow(), 2);
+    EXPECT_EQ(texts(*menu), QStringList({"Copy", "Paste", "Delete Rows"}));
+    menu->actions().last()->trigger();
+    menu->close();
+    settle();
+    EXPECT_EQ(names(), std::vector<CString>({"B1", "C1"}));
+
+    grid.SetRowDrag(true);
+    grid.SetModeDisplayOnly(1);
+    menu = menuAt(0);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(texts(*menu), QStringList({"Copy", "Move Up", "Move Down"}));
+    menu->actions().last()->trigger();
+    menu->close();
+    EXPECT_EQ(names(), std::vector<CString>({"C1", "B1"}));
 }
 
 TEST_F(GridRows, APasteThatIsRefusedSaysWhy)

@@ -46,6 +46,8 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const GridKind kind = model.kind(index);
     const bool current = index == m_view->table().currentIndex();
     const bool editable = model.isEditable(index);
+    // Where nothing can be typed at all, the grid is a list.
+    const bool takesText = m_view->grid().IsCellEditable(index.row() + 1, model.columnIndex(index.column()));
     QStyle& style = *option.widget->style();
 
     QStyleOptionViewItem cell = option;
@@ -53,7 +55,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     cell.state &= ~QStyle::State_HasFocus;
     cell.features &= ~QStyleOptionViewItem::HasCheckIndicator;
     const QColor text = cell.palette.color(QPalette::Text);
-    if (cell.backgroundBrush.style() == Qt::NoBrush && (kind == GridKind::heading || !editable) && kind != GridKind::button)
+    if (cell.backgroundBrush.style() == Qt::NoBrush && (kind == GridKind::heading || !takesText) && kind != GridKind::button)
         cell.backgroundBrush = mixed(cell.palette.color(QPalette::Base), text, kind == GridKind::heading ? heading : greyed);
     if (kind == GridKind::heading)
         cell.font.setBold(true);
@@ -107,13 +109,10 @@ void GridDelegate::paintFrame(QPainter& painter, const QStyleOptionViewItem& opt
         colour = warningColour(palette);
     else if (!m_view->table().hasKeys())
         colour = mixed(colour, palette.color(QPalette::Base), faint);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    for (int i = 0; i < frameWidth; ++i) {
-        painter.setPen(QPen(colour, 0));
-        painter.drawRect(option.rect.adjusted(i, i, -1 - i, -1 - i));
-    }
-    painter.restore();
+    const QRect outer = option.rect.adjusted(0, 0, -1, -1);
+    const QRect inner = outer.adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
+    for (const QRect& side : QRegion(outer) - QRegion(inner))
+        painter.fillRect(side, colour);
 }
 
 bool GridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option, const QModelIndex& index)

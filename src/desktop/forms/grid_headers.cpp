@@ -16,10 +16,10 @@ namespace zel::desktop {
 
 namespace {
 
-constexpr int pencilWidth = 12;    ///< [pixels] at the left of every row header
-constexpr int headerMargin = 8;    ///< [pixels] beside the text
-constexpr int fewRows = 200;       ///< of so many all texts are measured, of more the widest number is the last one
-constexpr double pencilTip = 0.4;  ///< of its width
+constexpr int pencilWidth = 12;     ///< [pixels] at the left of every row header
+constexpr int headerMargin = 8;     ///< [pixels] beside the text
+constexpr int fewRows = 200;        ///< of so many all texts are measured, of more the widest number is the last one
+constexpr double pencilTip = 0.25;  ///< of its width
 
 }  // namespace
 

@@ -38,8 +38,11 @@ bool GridPane::event(QEvent* event)
     if (event->type() == QEvent::KeyPress && m_view != nullptr) {
         auto& key = static_cast<QKeyEvent&>(*event);
         const bool isTab = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
-        if (isTab && (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0) {
-            m_view->input().key(key);
+        if (isTab && (key.modifiers() & Qt::AltModifier) == 0) {
+            if ((key.modifiers() & Qt::ControlModifier) != 0)
+                m_view->table().leaveTo(key.key() == Qt::Key_Tab);
+            else
+                m_view->input().key(key);
             return true;
         }
     }

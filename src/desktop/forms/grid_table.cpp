@@ -21,7 +21,7 @@ constexpr int mostSpanRows = 500;   ///< forms of cells are that short; in longe
 constexpr int fewestShownRows = 6;  ///< without making the grid scroll in a form that is as small as it gets
 constexpr int shownRows = 11;
 constexpr int widestAtFirst = 760;  ///< [pixels]
-constexpr int widestAtLeast = 520;  ///< [pixels] that the columns make a form wide at most
+constexpr int widestAtLeast = 640;  ///< [pixels] that the columns make a form wide at most
 
 }  // namespace
 
@@ -355,6 +355,24 @@ void GridTable::changeEvent(QEvent* event)
         if (view() != nullptr && view()->isAttached() && model() != nullptr)
             view()->show();
     }
+}
+
+void GridTable::hideEvent(QHideEvent* event)
+{
+    QTableView::hideEvent(event);
+    if (view() != nullptr)
+        view()->placeParts();  // a warning goes with the page that it is on
+}
+
+/// Without a current cell the frame of the keyboard goes around all of them.
+void GridTable::paintEvent(QPaintEvent* event)
+{
+    GridPane::paintEvent(event);
+    if (!hasFocus() || currentIndex().isValid())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 QSize GridTable::sizeFor(int mostWidth, int rows) const

@@ -182,6 +182,8 @@ void GridView::warn(const QString& text)
 
 void GridView::showWarning()
 {
+    if (m_table->accessibleDescription() != m_warning)
+        m_table->setAccessibleDescription(m_warning);
     if (m_warning.isEmpty()) {
         if (m_bubble != nullptr)
             m_bubble->hide();
@@ -189,7 +191,6 @@ void GridView::showWarning()
     }
     if (m_bubble == nullptr)
         m_bubble = new GridBubble(m_table->window());
-    m_table->setAccessibleDescription(m_warning);
     placeParts();
 }
 
