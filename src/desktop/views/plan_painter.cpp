@@ -21,8 +21,8 @@ bool overlaps(const QRectF& rectangle, double left, double right, double bottom,
 
 bool overlaps(const QRectF& rectangle, const QPointF& from, const QPointF& to)
 {
-    const auto [left, right] = std::minmax(from.x(), to.x());
-    const auto [bottom, top] = std::minmax(from.y(), to.y());
+    const auto [left, right] = std::minmax({from.x(), to.x()});
+    const auto [bottom, top] = std::minmax({from.y(), to.y()});
     return overlaps(rectangle, left, right, bottom, top);
 }
 
