@@ -207,8 +207,7 @@ QWidget* SectionLayout::headOf(Line& line, std::size_t& next) const
 std::size_t SectionLayout::tailOf(const Line& line)
 {
     std::size_t tail = line.items.size();
-    const auto fields = std::count_if(line.items.begin(), line.items.end(), [](const Item& each) { return isField(*each.control); });
-    if (line.use != Use::fields || fields != 1)
+    if (line.use != Use::fields || std::count_if(line.items.begin(), line.items.end(), [](const Item& each) { return isField(*each.control); }) != 1)
         return tail;
     while (tail > 1 && isTail(*line.items[tail - 1].control) && line.items[tail - 1].label == nullptr && !isField(*line.items[tail - 1].control))
         --tail;
