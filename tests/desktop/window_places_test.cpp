@@ -3,6 +3,7 @@
 #include "command/command.h"
 #include "desktop/host/window_places.h"
 
+#include <QDockWidget>
 #include <QSettings>
 
 namespace desktop_test {
@@ -39,6 +40,21 @@ TEST_F(WindowPlaces, AFormComesBackWhereItWasClosed)
     settle();
     const auto& again = open(D_CMD_MODEL_LOAD_LOADCASE, "CCMLoadCaseDlg");
     EXPECT_EQ(again.pos(), QPoint(33, 44));
+    QSettings().clear();
+}
+
+TEST_F(WindowPlaces, TheDocksComeBackAsTheyWereLeft)
+{
+    QSettings().clear();
+    auto* dock = window.findChild<QDockWidget*>();
+    ASSERT_NE(dock, nullptr);
+    dock->close();
+    window.close();
+    zel::desktop::MainWindow next;
+    next.restorePlace();
+    next.show();
+    settle();
+    EXPECT_FALSE(next.findChild<QDockWidget*>(dock->objectName())->isVisible());
     QSettings().clear();
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/host/file_actions.h"
 
+#include "command/dialog_table.h"
 #include "desktop/forms/text.h"
 #include "desktop/host/main_window.h"
 #include "desktop/host/model_errors.h"
@@ -26,6 +27,8 @@ namespace zel::desktop {
 namespace {
 
 const char* const jsonFilter = "Model JSON (*.json);;All files (*)";
+
+constexpr int messageTime = 6000;  ///< [ms]
 
 /// The texts of menus take "&" for a mnemonic.
 QString menuText(QString text)
@@ -64,6 +67,11 @@ FileActions::FileActions(MainWindow& window, QMenu& menu) : QObject(&window), m_
     add("&Import Model JSON...", {}, [this] { importJson(); });
     add("&Export Model JSON...", {}, [this] { exportJson(); });
     menu.addSeparator();
+    constexpr unsigned projectInformation = 1;
+    if (hasDialogClass(findModalCommand(projectInformation)->dialogClass)) {
+        add("&Project Information...", {}, [this] { m_window.hand().modal(projectInformation); });
+        menu.addSeparator();
+    }
     add("&Quit", QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { m_window.close(); });
 
     // Who presses Ctrl+S by habit is told that nothing is left to save.
@@ -74,7 +82,7 @@ FileActions::FileActions(MainWindow& window, QMenu& menu) : QObject(&window), m_
         if (modelPath().isEmpty())
             saveAs();
         else
-            m_window.statusBar()->showMessage(QStringLiteral("All changes are in the file already."), 4000);
+            m_window.statusBar()->showMessage(QStringLiteral("All changes are in the file already."), messageTime);
     });
     fillRecent();
 }
@@ -138,7 +146,7 @@ bool FileActions::open(const QString& path)
 {
     const QFileInfo file(path);
     if (file.exists() && !modelPath().isEmpty() && file.canonicalFilePath() == QFileInfo(modelPath()).canonicalFilePath()) {
-        m_window.statusBar()->showMessage(QStringLiteral("This model is open already."), 4000);
+        m_window.statusBar()->showMessage(QStringLiteral("This model is open already."), messageTime);
         return true;
     }
     try {
@@ -163,8 +171,19 @@ bool FileActions::openCopyOf(const QString& path)
     return open(copy);
 }
 
+/// A journal that is being played needs its model to the end.
+bool FileActions::isFree()
+{
+    if (!m_window.hand().isLocked())
+        return true;
+    m_window.statusBar()->showMessage(QStringLiteral("A journal is being played. Stop it first."), messageTime);
+    return false;
+}
+
 bool FileActions::mayLeave()
 {
+    if (!isFree())
+        return false;
     if (!modelPath().isEmpty() || m_window.document().undoCount() == 0)
         return true;
     QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(), QStringLiteral("This model is in no file yet."), QMessageBox::NoButton,
@@ -266,13 +285,13 @@ void FileActions::saveCopy()
     }
     m_window.statusBar()->showMessage(QStringLiteral("A copy is in ") + QDir::toNativeSeparators(path) + QStringLiteral(". You go on working in ") +
                                           file.fileName() + QLatin1Char('.'),
-                                      8000);
+                                      messageTime);
 }
 
 void FileActions::revert()
 {
     const std::size_t count = m_window.document().undoCount();
-    if (count == 0)
+    if (count == 0 || !isFree())
         return;
     QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
                     modelPath().isEmpty() ? QStringLiteral("Take back everything that was made?") : QStringLiteral("Go back to the model as it was opened?"),
@@ -293,6 +312,8 @@ void FileActions::revert()
 
 void FileActions::importJson()
 {
+    if (!isFree())
+        return;
     const QString json = QFileDialog::getOpenFileName(&m_window, QStringLiteral("Import Model JSON"), folder(), QString::fromLatin1(jsonFilter));
     if (json.isEmpty())
         return;
@@ -333,7 +354,7 @@ void FileActions::exportJson()
         tellFault(&m_window, QStringLiteral("The model was not exported."), toQt(fault.what()));
         return;
     }
-    m_window.statusBar()->showMessage(QStringLiteral("The model is in ") + QDir::toNativeSeparators(path) + QLatin1Char('.'), 8000);
+    m_window.statusBar()->showMessage(QStringLiteral("The model is in ") + QDir::toNativeSeparators(path) + QLatin1Char('.'), messageTime);
 }
 
 }  // namespace zel::desktop

@@ -41,6 +41,7 @@ private:
     bool followWayOut(const FileRefusal& refusal, const QString& path);
     bool openCopyOf(const QString& path);
     bool saveAs();
+    bool isFree();
     void fillRecent();
     /// Asks for a file to write, starting beside the open model or where the last file was.
     [[nodiscard]] QString askForTarget(const QString& title, const QString& name, const QString& filter);

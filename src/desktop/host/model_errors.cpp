@@ -3,8 +3,10 @@
 #include "desktop/forms/text.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSpacerItem>
 
 namespace zel::desktop {
 
@@ -35,6 +37,15 @@ QString headingOf(Reason reason)
     return QStringLiteral("The model file can't be used.");
 }
 
+/// Makes a box wide enough for a path; after its texts and buttons, for which it lays itself out anew.
+void widen(QMessageBox& box)
+{
+    constexpr int letters = 60;
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid != nullptr)
+        grid->addItem(new QSpacerItem(letters * box.fontMetrics().averageCharWidth(), 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 void setUp(QMessageBox& box, const QString& heading, const QString& reason)
 {
     box.setIcon(QMessageBox::Warning);
@@ -49,7 +60,9 @@ void setUp(QMessageBox& box, const QString& heading, const QString& reason)
 WayOut tellRefusal(QWidget* parent, const FileRefusal& refusal, bool isRecent)
 {
     QMessageBox box(parent);
-    setUp(box, headingOf(refusal.reason()), toQt(refusal.what()));
+    QString sentence = toQt(refusal.what());
+    sentence.remove(QStringLiteral(", or make a new model with \"zel new\""));  // advice for a command line
+    setUp(box, headingOf(refusal.reason()), sentence);
     const Reason reason = refusal.reason();
     QPushButton* retry = nullptr;
     QPushButton* copy = nullptr;
@@ -65,6 +78,7 @@ WayOut tellRefusal(QWidget* parent, const FileRefusal& refusal, bool isRecent)
     QPushButton* best = retry != nullptr ? retry : copy != nullptr ? copy : forget != nullptr ? forget : another;
     box.setDefaultButton(best);
     box.setEscapeButton(none);
+    widen(box);
     box.exec();
 
     const QAbstractButton* clicked = box.clickedButton();
@@ -81,6 +95,8 @@ void tellFault(QWidget* parent, const QString& heading, const QString& reason)
 {
     QMessageBox box(parent);
     setUp(box, heading, reason);
+    box.setStandardButtons(QMessageBox::Ok);
+    widen(box);
     box.exec();
 }
 
