@@ -161,10 +161,6 @@ JournalRecorder::Ticket JournalRecorder::hold(Json command)
     Held held{nextTicket(), std::move(command), {}, {}};
     if (!held.command.is_null())
         ++m_commands;
-    if (!m_held.empty() && m_held.back().command.is_null()) {
-        append(m_carried, std::move(m_held.back()));
-        m_held.pop_back();
-    }
     if (held.command.contains("control"))  // the command moves the focus there first, and what came of that comes then
         append(held, std::exchange(m_carried, {}));
     m_held.push_back(std::move(held));
@@ -198,12 +194,13 @@ void JournalRecorder::takeBack(Ticket ticket)
     Held* held = find(ticket);
     if (held == nullptr)
         return;
-    const bool goes = held->command.is_null() || held != &m_held.back();
     if (!held->command.is_null())
         --m_commands;
-    held->command = nullptr;
-    if (goes)
-        m_held.erase(m_held.begin() + (held - m_held.data()));
+    Held gone = std::move(*held);
+    const bool isLast = held == &m_held.back();
+    m_held.erase(m_held.begin() + (held - m_held.data()));
+    if (isLast)
+        append(m_carried, std::move(gone));
 }
 
 void JournalRecorder::setResult(Ticket ticket, Json result)
@@ -228,9 +225,8 @@ void JournalRecorder::answered(Json answer)
 {
     if (m_stopped)
         return;
-    if (m_held.empty())
-        hold(Json());  // it was asked late: the answer can only stand before the next command
-    m_held.back().answers.push_back(std::move(answer));
+    std::vector<Json>& answers = m_held.empty() ? m_carried.answers : m_held.back().answers;  // of a late question: the next command that can ask
+    answers.push_back(std::move(answer));
 }
 
 // IUserInterface

@@ -56,7 +56,8 @@ public:
     [[nodiscard]] bool isHeld(Ticket ticket) const;
     /// Puts another command in place of one that is held. False if it is written already.
     bool replace(Ticket ticket, Json command);
-    /// Takes a held command back; what has happened since it began comes with the next one. A null command goes with all that.
+    /// Takes a held command back. What has happened because of the last one comes with the next command to a control; one that is not the last
+    /// goes without a trace.
     void takeBack(Ticket ticket);
     /// The command's result, unless its reply was written when a modal dialog began to take input.
     void setResult(Ticket ticket, Json result);

@@ -113,7 +113,9 @@ template <class Act> Taken UserHand::unrecorded(const std::string& what, Act act
     finish();
     const JournalRecorder::Ticket ticket = begin(nothing);
     Taken taken = act();
-    takeBack(ticket);
+    const JournalRecorder::Ticket last = m_recorder != nullptr ? m_recorder->beginBeside(nothing()) : 0;
+    takeBack(ticket);  // without a trace, with the answers that it took: it does not happen when the journal is played
+    takeBack(last);
     if (taken && m_recorder != nullptr)
         m_recorder->note(what);
     return taken;
@@ -154,8 +156,10 @@ template <class Act> Taken UserHand::moveFocus(const CDialog& form, Act act)
     Taken taken = act();
     if (edited && grid->IsWindow() && !grid->IsEdit()) {
         (void)grid->leaveRow();  // tells the grid which row is current now, as the command does
-        replace(ticket, [&leaving] { return leaving; });
+        if (replace(ticket, [&leaving] { return leaving; }))
+            return taken;
     }
+    takeBack(ticket);
     return taken;
 }
 

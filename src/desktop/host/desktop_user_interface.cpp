@@ -23,6 +23,28 @@ namespace {
 
 constexpr int repostInterval = 20;  ///< [ms]
 
+/// While a box asks, nothing is a step of the user: windows that come to the front when it goes are not chosen by him.
+class Asking {
+public:
+    Asking(UserHand& hand, int& count) : m_hand(hand), m_count(count), m_wasLocked(hand.isLocked())
+    {
+        ++m_count;
+        m_hand.setLocked(true);
+    }
+    Asking(const Asking&) = delete;
+    Asking& operator=(const Asking&) = delete;
+    ~Asking()
+    {
+        m_hand.setLocked(m_wasLocked);
+        --m_count;
+    }
+
+private:
+    UserHand& m_hand;
+    int& m_count;
+    bool m_wasLocked;
+};
+
 }  // namespace
 
 DesktopUserInterface::DesktopUserInterface(MainWindow& window, UserHand& hand)
@@ -83,9 +105,8 @@ int DesktopUserInterface::messageBox(const CString& text, unsigned type)
     box.setIcon(question ? QMessageBox::Question : QMessageBox::Warning);
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok));
     box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
-    ++m_asking;
+    const Asking asking(m_hand, m_asking);
     const int answer = box.exec();
-    --m_asking;
     if (!question)
         return IDOK;
     return answer == QMessageBox::Yes ? IDYES : IDNO;
@@ -110,6 +131,7 @@ bool DesktopUserInterface::openFile(const CString& filter, CString& path)
 {
     showChanges();
     const QString folder = toQt(path).isEmpty() ? QString() : QFileInfo(toQt(path)).path();
+    const Asking asking(m_hand, m_asking);
     const QString chosen = QFileDialog::getOpenFileName(QApplication::activeWindow(), QStringLiteral("Open"), folder, fileFilters(filter));
     if (chosen.isEmpty())
         return false;
