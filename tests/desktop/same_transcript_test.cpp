@@ -175,8 +175,8 @@ protected:
             zel::JournalPlayer player(window.document(), script, replies);
             player.play();
         }
+        EXPECT_EQ(dumpOf(window.document()), made) << journal.str();  // before the dialogs close: that may write a row
         zel::closeAllDialogs();
-        EXPECT_EQ(dumpOf(window.document()), made) << journal.str();
         EXPECT_EQ(replies.str(), transcript.str()) << journal.str();
         return journal.str();
     }
