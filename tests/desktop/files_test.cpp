@@ -5,12 +5,14 @@
 #include "desktop/forms/text.h"
 #include "desktop/host/model_exchange.h"
 #include "desktop/host/recent_files.h"
+#include "modeldb/full_disk.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QProcess>
 
 namespace desktop_test {
 
@@ -287,6 +289,44 @@ TEST_F(FilesWindow, ADroppedModelFileIsOpened)
     QApplication::sendEvent(&window, &drop);
     settle();
     EXPECT_EQ(window.windowTitle(), "dropped.qvx - All changes saved - ZEL");
+}
+
+TEST_F(FilesWindow, AWriteThatTheFileRefusesIsToldWithItsName)
+{
+    const QString file = modelFile("model.qvx");
+    window.files().open(file);
+    QString text;
+    {
+        const zel::test::FullDisk full(4096);
+        whenModal([&](QWidget& box) {
+            text = dynamic_cast<QMessageBox&>(box).text();
+            box.close();
+        });
+        EXPECT_EQ(CDataStld().Add(loadCase("NEW")), 0);
+    }
+    EXPECT_TRUE(text.contains(file)) << text.toStdString();
+    EXPECT_EQ(window.document().undoCount(), 0U);
+}
+
+TEST_F(FilesWindow, WhileAJournalPlaysTheModelStays)
+{
+    const QString first = modelFile("first.qvx");
+    window.files().open(first);
+    window.hand().setLocked(true);
+    EXPECT_FALSE(window.files().open(modelFile("second.qvx")));
+    EXPECT_FALSE(window.files().mayLeave());
+    window.hand().setLocked(false);
+    EXPECT_EQ(window.windowTitle(), "first.qvx - All changes saved - ZEL");
+}
+
+TEST_F(FilesWindow, WhereNobodyCanBeAskedAMissingModelIsASentenceAndStatusTwo)
+{
+    QProcess program;
+    program.start(QStringLiteral(ZEL_BIN_DIR "/zel-desktop"), {path("none.qvx"), "--screenshot", path("none.png")});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 2);
+    EXPECT_TRUE(program.readAllStandardError().contains("none.qvx\" does not exist."));
+    EXPECT_FALSE(QFile::exists(path("none.png")));
 }
 
 }  // namespace desktop_test
