@@ -3,6 +3,7 @@
 #include "command/command.h"
 #include "contract/forms/open_dialogs.h"
 #include "desktop/forms/text.h"
+#include "desktop/host/play_panel.h"
 #include "journal/dialog_commands.h"
 #include "platform/modeldb/model_json.h"
 
@@ -21,12 +22,13 @@ using zel::desktop::FormWindow;
 
 namespace {
 
-/// `former` is a guarded pointer: the next window may stand at the address of one that has gone.
+/// `former` is a guarded pointer: the next window may stand at the address of one that has gone. The panel beside a playing journal asks nothing.
 void pollModal(const std::function<void(QWidget&)>& step, const QPointer<QWidget>& former, int tries)
 {
     QTimer::singleShot(10, qApp, [=] {
         QWidget* modal = QApplication::activeModalWidget();
-        if (modal != nullptr && modal != former && modal->isVisible())
+        const bool asks = modal != nullptr && dynamic_cast<zel::desktop::PlayPanel*>(modal) == nullptr;
+        if (asks && modal != former && modal->isVisible())
             step(*modal);
         else if (tries > 0)
             pollModal(step, former, tries - 1);
