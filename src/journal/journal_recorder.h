@@ -4,8 +4,8 @@
 #include "contract/notices.h"
 #include "contract/user_interface.h"
 #include "journal/journal_reply.h"
+#include "journal/recorder_ticket.h"
 
-#include <cstdint>
 #include <functional>
 #include <iosfwd>
 #include <optional>
@@ -45,8 +45,7 @@ public:
 
     // For UserHand.
 
-    /// Names a step; 0 is none.
-    using Ticket = std::uint64_t;
+    using Ticket = RecorderTicket;
 
     /// A step begins: what was held is written, this command is held. A null command is none (yet): what happens comes with the next one.
     Ticket begin(Json command);

@@ -8,6 +8,7 @@
 #include "journal/control_name.h"
 #include "journal/host_commands.h"
 #include "journal/journal_events.h"
+#include "journal/journal_recorder.h"
 #include "journal/model_commands.h"
 #include "journal/open_commands.h"
 #include "journal/step_commands.h"

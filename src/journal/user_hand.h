@@ -5,14 +5,16 @@
 #include "contract/forms/grid_browser_ex.h"
 #include "contract/records/unit_index.h"
 #include "contract/view_ctrl.h"
-#include "journal/journal_recorder.h"
+#include "journal/recorder_ticket.h"
 
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace zel {
 
 class HostCommands;
+class JournalRecorder;
 
 /// What a person does in a window, step by step: at the forms, in the menus and in the model view. A window hands all input on
 /// through it; while a recorder listens, each step that is taken is written as the journal command that does the same.
@@ -105,7 +107,7 @@ private:
     struct Typing {
         Control* control = nullptr;  ///< an edit field or a grid; null for nothing
         const CDialog* form = nullptr;
-        JournalRecorder::Ticket ticket = 0;
+        RecorderTicket ticket = 0;
         CString text{};
         int row = 0;  ///< of a grid's cell
         int column = 0;
@@ -128,9 +130,9 @@ private:
     /// A step whose result is that of `change`.
     template <class Describe, class Change> int change(Describe describe, Change change);
 
-    template <class Describe> JournalRecorder::Ticket begin(Describe describe);
-    template <class Describe> bool replace(JournalRecorder::Ticket ticket, Describe describe);
-    void takeBack(JournalRecorder::Ticket ticket);
+    template <class Describe> RecorderTicket begin(Describe describe);
+    template <class Describe> bool replace(RecorderTicket ticket, Describe describe);
+    void takeBack(RecorderTicket ticket);
 
     [[nodiscard]] Taken locked() const;
     [[nodiscard]] bool isOpen(const Typing& typing) const;
