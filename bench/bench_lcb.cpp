@@ -12,7 +12,7 @@
 #include "bare_combinations.h"
 #include "contract/tables/load_tables.h"
 #include "counted_memory.h"
-#include "loadcomb/lcb_import.h"
+#include "loadcomb/editor/lcb_import.h"
 #include "platform/modeldb/model_document.h"
 
 #include <benchmark/benchmark.h>

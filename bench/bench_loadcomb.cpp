@@ -14,7 +14,7 @@
 #include "bare_combinations.h"
 #include "contract/tables/load_combination_table.h"
 #include "counted_memory.h"
-#include "loadcomb/generator.h"
+#include "loadcomb/generation/generator.h"
 #include "platform/modeldb/model_document.h"
 
 #include <algorithm>

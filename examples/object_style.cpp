@@ -5,8 +5,8 @@
 // stores the combinations of the general kind in the model and writes lcomb.out into the working directory. Exit status 0 when
 // combinations were stored, 1 when none was, 2 for a wrong call.
 
-#include "loadcomb/object_style/jhauto_gen_loadcomb.h"
-#include "loadcomb/object_style/tables/code_list.h"
+#include "object_style/jhauto_gen_loadcomb.h"
+#include "object_style/tables/code_list.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/modeldb/file_refusal.h"
 #include "platform/modeldb/model_document.h"

@@ -2,7 +2,7 @@
 
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_tables.h"
-#include "loadcomb/lcb_import.h"
+#include "loadcomb/editor/lcb_import.h"
 #include "platform/modeldb/model_document.h"
 
 #include <cmath>

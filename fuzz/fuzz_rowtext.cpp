@@ -3,8 +3,8 @@
 //
 // The steps of a formula's rewriting give the same one by one and at once, two runs give the same, and every item's key exists.
 
-#include "loadcomb/description.h"
-#include "loadcomb/generator.h"
+#include "loadcomb/generation/description.h"
+#include "loadcomb/generation/generator.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "loadcomb/generator.h"
+#include "loadcomb/generation/generator.h"
 
 #include <iosfwd>
 #include <string>

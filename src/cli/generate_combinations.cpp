@@ -5,7 +5,7 @@
 #include "cli/scale_option.h"
 
 #include "contract/tables/load_combination_table.h"
-#include "loadcomb/load_comb_ctrl.h"
+#include "loadcomb/generation/load_comb_ctrl.h"
 #include "loadcomb/tables/code_registry.h"
 #include "platform/modeldb/model_document.h"
 #include "platform/os/terminal.h"

@@ -3,7 +3,7 @@
 #include "cli/input.h"
 
 #include "contract/tables/load_combination_table.h"
-#include "loadcomb/lcb_import.h"
+#include "loadcomb/editor/lcb_import.h"
 #include "platform/modeldb/model_document.h"
 
 #include <iostream>

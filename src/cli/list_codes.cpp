@@ -2,7 +2,7 @@
 #include "cli/output.h"
 
 #include "contract/design_codes.h"
-#include "loadcomb/code_rows.h"
+#include "loadcomb/generation/code_rows.h"
 #include "loadcomb/tables/code_registry.h"
 #include "platform/modeldb/json_text.h"
 

@@ -1,7 +1,7 @@
 #include "cli/commands.h"
 #include "cli/output.h"
 
-#include "loadcomb/envelope_item.h"
+#include "loadcomb/envelopes/envelope_item.h"
 #include "platform/modeldb/model_document.h"
 
 #include <ostream>

@@ -1,7 +1,7 @@
 #include "cli/commands.h"
 #include "cli/console.h"
 
-#include "loadcomb/load_comb_ctrl.h"
+#include "loadcomb/generation/load_comb_ctrl.h"
 #include "platform/modeldb/model_document.h"
 #include "platform/modeldb/model_json.h"
 #include "platform/modeldb/record_json.h"

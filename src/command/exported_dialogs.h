@@ -5,7 +5,7 @@
 #include "load/load_case_underground_dlg.h"
 #include "load/load_case_wind_direct_dlg.h"
 #include "load/under_seis_factor.h"
-#include "loadcomb/cm_load_mllc_dlg.h"
+#include "loadcomb/envelopes/cm_load_mllc_dlg.h"
 
 #include <algorithm>
 #include <array>

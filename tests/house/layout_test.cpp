@@ -34,6 +34,7 @@ const Layer layers[] = {
     {"src/contract/", {"contract/"}, {}},
     {"src/command/", commandLibrary, {}},
     {"src/loadcomb/", commandLibrary, {}},
+    {"src/object_style/", {"contract/", "command/", "loadcomb/", "object_style/"}, {}},
     {"src/load/", commandLibrary, {}},
     {"src/dynamic/", commandLibrary, {}},
     {"src/property/", commandLibrary, {}},

@@ -1,4 +1,4 @@
-#include "loadcomb/code_rows.h"
+#include "loadcomb/generation/code_rows.h"
 
 #include <charconv>
 #include <gtest/gtest.h>

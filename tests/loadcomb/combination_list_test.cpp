@@ -1,4 +1,4 @@
-#include "loadcomb/combination_list.h"
+#include "loadcomb/generation/combination_list.h"
 
 #include <gtest/gtest.h>
 #include <random>

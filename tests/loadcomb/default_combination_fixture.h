@@ -3,7 +3,7 @@
 #include "load/dialog_test.h"
 
 #include "contract/tables/load_combination_table.h"
-#include "loadcomb/auto_load_comb_dlg.h"
+#include "loadcomb/editor/auto_load_comb_dlg.h"
 
 namespace zel::test {
 

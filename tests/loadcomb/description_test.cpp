@@ -1,5 +1,5 @@
-#include "loadcomb/description.h"
-#include "loadcomb/number_token.h"
+#include "loadcomb/generation/description.h"
+#include "loadcomb/generation/number_token.h"
 
 #include <gtest/gtest.h>
 #include <ostream>

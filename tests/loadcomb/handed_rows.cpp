@@ -1,7 +1,7 @@
 #include "loadcomb/handed_rows.h"
 
-#include "loadcomb/code_rows.h"
-#include "loadcomb/row_text.h"
+#include "loadcomb/generation/code_rows.h"
+#include "loadcomb/generation/row_text.h"
 
 #include <algorithm>
 #include <charconv>

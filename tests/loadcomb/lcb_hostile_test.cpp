@@ -1,7 +1,7 @@
 // Hostile files of 64 MiB: what the reader holds meanwhile is counted by the allocations of the whole program.
 
 #include "../../bench/counted_memory.h"
-#include "loadcomb/lcb_import.h"
+#include "loadcomb/editor/lcb_import.h"
 #include "platform/modeldb/model_document.h"
 
 #include <algorithm>

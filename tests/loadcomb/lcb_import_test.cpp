@@ -1,4 +1,4 @@
-#include "loadcomb/lcb_import.h"
+#include "loadcomb/editor/lcb_import.h"
 
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_tables.h"

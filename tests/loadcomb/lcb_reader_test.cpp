@@ -1,4 +1,4 @@
-#include "loadcomb/lcb_import.h"
+#include "loadcomb/editor/lcb_import.h"
 
 #include "platform/modeldb/model_document.h"
 

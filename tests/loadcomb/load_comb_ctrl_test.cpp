@@ -1,4 +1,4 @@
-#include "loadcomb/load_comb_ctrl.h"
+#include "loadcomb/generation/load_comb_ctrl.h"
 
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"

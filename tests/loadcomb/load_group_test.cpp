@@ -1,4 +1,4 @@
-#include "loadcomb/load_group.h"
+#include "loadcomb/generation/load_group.h"
 
 #include <gtest/gtest.h>
 

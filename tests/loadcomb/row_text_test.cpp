@@ -1,4 +1,4 @@
-#include "loadcomb/row_text.h"
+#include "loadcomb/generation/row_text.h"
 
 #include <gtest/gtest.h>
 #include <ostream>

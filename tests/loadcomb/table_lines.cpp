@@ -1,6 +1,6 @@
 #include "loadcomb/table_lines.h"
 
-#include "loadcomb/generator.h"
+#include "loadcomb/generation/generator.h"
 
 #include <algorithm>
 #include <charconv>

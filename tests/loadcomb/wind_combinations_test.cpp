@@ -1,5 +1,5 @@
 #include "loadcomb/generator_fixture.h"
-#include "loadcomb/wind_combinations.h"
+#include "loadcomb/generation/wind_combinations.h"
 
 #include <gtest/gtest.h>
 

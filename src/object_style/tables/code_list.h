@@ -1,0 +1,25 @@
+#pragma once
+
+#include "object_style/tables/aci318_89.h"
+#include "object_style/tables/aik_usd94.h"
+#include "object_style/tables/kci_usd99.h"
+#include "object_style/tables/ksce_usd96.h"
+
+// The design codes of the object-style generator, one line each, in the order in which their objects are made.
+namespace zel::codes::object_style {
+
+struct Code {
+    const char* name;
+    const CodeTable* table;
+};
+
+inline constexpr Code codeList[] = {
+    {"AIK-USD94",  &aik_usd94},
+    {"ACI318-89",  &aci318_89},
+    {"ACI318-95",  &aci318_89},
+    {"ACI318-99",  &aci318_89},
+    {"KCI-USD99",  &kci_usd99},
+    {"KSCE-USD96", &ksce_usd96},
+};
+
+}  // namespace zel::codes::object_style
