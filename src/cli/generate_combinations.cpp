@@ -4,12 +4,12 @@
 #include "cli/output.h"
 #include "cli/scale_option.h"
 
+#include "contract/nearest.h"
 #include "contract/tables/load_combination_table.h"
 #include "loadcomb/generation/load_comb_ctrl.h"
 #include "loadcomb/tables/code_registry.h"
 #include "platform/modeldb/model_document.h"
 #include "platform/os/terminal.h"
-#include "platform/text/nearest.h"
 
 #include <chrono>
 #include <iostream>

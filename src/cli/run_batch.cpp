@@ -1,11 +1,11 @@
 #include "cli/commands.h"
 #include "cli/console.h"
 
+#include "contract/nearest.h"
 #include "loadcomb/generation/load_comb_ctrl.h"
 #include "platform/modeldb/model_document.h"
 #include "platform/modeldb/model_json.h"
 #include "platform/modeldb/record_json.h"
-#include "platform/text/nearest.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,8 +1,8 @@
 #include "cli/scale_option.h"
 
+#include "contract/nearest.h"
 #include "contract/number_text.h"
 #include "contract/tables/load_tables.h"
-#include "platform/text/nearest.h"
 
 #include <charconv>
 #include <optional>

@@ -2,7 +2,7 @@
 
 #include "contract/forms/dialog.h"
 #include "contract/forms/find_control.h"
-#include "platform/forms/row_numbers.h"
+#include "contract/forms/row_numbers.h"
 
 namespace zel {
 

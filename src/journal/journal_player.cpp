@@ -2,13 +2,13 @@
 
 #include "command/command.h"
 #include "contract/forms/open_dialogs.h"
+#include "contract/nearest.h"
 #include "journal/dialog_commands.h"
 #include "journal/form_json.h"
 #include "journal/journal_events.h"
 #include "journal/model_commands.h"
 #include "journal/open_commands.h"
 #include "platform/os/machine.h"
-#include "platform/text/nearest.h"
 
 #include <algorithm>
 #include <array>

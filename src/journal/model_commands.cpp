@@ -1,9 +1,9 @@
 #include "journal/model_commands.h"
 
+#include "contract/nearest.h"
 #include "contract/table_handle.h"
 #include "contract/units.h"
 #include "platform/modeldb/record_json.h"
-#include "platform/text/nearest.h"
 
 #include <array>
 #include <functional>

@@ -6,8 +6,8 @@
 #include "command/exported_dialogs.h"
 #include "contract/forms/db_dlg_base.h"
 #include "contract/forms/dialog.h"
+#include "contract/nearest.h"
 #include "platform/modeldb/record_json.h"
-#include "platform/text/nearest.h"
 
 #include <algorithm>
 #include <limits>

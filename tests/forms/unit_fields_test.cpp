@@ -1,6 +1,6 @@
+#include "contract/forms/expression.h"
 #include "contract/forms/forms.h"
 #include "contract/units.h"
-#include "platform/forms/expression.h"
 #include "platform/modeldb/model_document.h"
 
 #include <cmath>

@@ -31,6 +31,7 @@ std::vector<std::string> with(std::vector<std::string> list, const std::vector<s
 
 // Which folder may know what: the arrows of the build file, include by include.
 const Layer layers[] = {
+    {"src/contract/forms/", {"contract/"}, {"muParser", "cxxabi.h"}},
     {"src/contract/", {"contract/"}, {}},
     {"src/command/", commandLibrary, {}},
     {"src/loadcomb/", commandLibrary, {}},
@@ -41,9 +42,8 @@ const Layer layers[] = {
     {"src/support/", commandLibrary, {}},
     {"src/model/", commandLibrary, {}},
     {"src/platform/messages/", {"contract/", "platform/messages/"}, {}},
-    {"src/platform/catalogue/", {"contract/", "platform/catalogue/", "platform/text/"}, {}},
-    {"src/platform/text/", {"contract/", "platform/text/"}, {}},
-    {"src/platform/forms/", {"contract/", "platform/"}, {"muParser", "cxxabi.h"}},
+    {"src/platform/catalogue/", {"contract/", "platform/catalogue/"}, {}},
+    {"src/platform/forms/", {"contract/", "platform/"}, {}},
     {"src/platform/modeldb/", {"contract/", "platform/"}, {"sqlite3.h", "xxhash.h", "nlohmann/"}},
     {"src/platform/os/", {"contract/", "platform/os/"}, {""}},  // any system header: this is their place
     {"src/journal/", with(commandLibrary, {"platform/", "journal/"}), {"nlohmann/"}},

@@ -1,4 +1,4 @@
-#include "platform/text/nearest.h"
+#include "contract/nearest.h"
 
 #include <array>
 #include <string>

@@ -12,31 +12,9 @@
 
 namespace {
 
-/// The documents that are open, the current one last.
-std::vector<CDBDoc*>& openDocuments()
-{
-    static std::vector<CDBDoc*> documents;
-    return documents;
-}
-
 constexpr const char* modelFileFilter = "KORAX ZEL Model File(*.qvx)|*.qvx|All File(*.*)|*.*||";
 
 }  // namespace
-
-CDBDoc::CDBDoc()
-{
-    openDocuments().push_back(this);
-}
-
-CDBDoc::~CDBDoc()
-{
-    std::erase(openDocuments(), this);
-}
-
-CDBDoc* CDBDoc::GetDocPoint()
-{
-    return openDocuments().empty() ? nullptr : openDocuments().back();
-}
 
 namespace zel {
 

@@ -1,9 +1,9 @@
 #include "platform/modeldb/model_json.h"
 
+#include "contract/nearest.h"
 #include "contract/units.h"
 #include "platform/modeldb/record_json.h"
 #include "platform/modeldb/record_values.h"
-#include "platform/text/nearest.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 #include "platform/modeldb/record_json.h"
 
+#include "contract/nearest.h"
 #include "contract/table_handle.h"
-#include "platform/text/nearest.h"
 
 #include <cmath>
 #include <cstdint>

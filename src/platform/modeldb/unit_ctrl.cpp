@@ -4,14 +4,6 @@
 #include "contract/table_handle.h"
 #include "platform/modeldb/record_values.h"
 
-void CUnitCtrl::GetUnitSystem(int unitType, CString& text)
-{
-    T_UNIT_INDEX system;
-    if (CDBDoc* document = CDBDoc::GetDocPoint())
-        document->GetUnitCtrl()->GetUnitIndexCurrent(system);
-    text = zel::unitText(unitType, system);
-}
-
 namespace zel {
 
 namespace {

@@ -1,19 +1,17 @@
 #include "contract/messages.h"
 
-#include "platform/messages/message_catalogue.h"
-
 #include <string_view>
 
 namespace {
 
-const char* loadFromCatalogue(const char* key, int /*reserved*/)
+const char* keyItself(const char* key, int /*reserved*/)
 {
-    return zel::MessageCatalogue::builtIn().find(key != nullptr ? std::string_view(key) : std::string_view());
+    return key != nullptr ? key : "";
 }
 
 }  // namespace
 
-const char* (*CMsgDll::pfuncLoadStr)(const char* key, int reserved) = loadFromCatalogue;
+const char* (*CMsgDll::pfuncLoadStr)(const char* key, int reserved) = keyItself;
 
 CString CMsgDll::RemoveQuote(const char* text)
 {

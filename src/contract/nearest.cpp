@@ -1,4 +1,4 @@
-#include "platform/text/nearest.h"
+#include "contract/nearest.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,8 +1,6 @@
 #include "contract/user_interface.h"
 
 #include "contract/format_text.h"
-#include "contract/forms/loading_status.h"
-#include "contract/model_view.h"
 
 #include <cstdarg>
 #include <utility>
@@ -13,18 +11,6 @@ zel::IUserInterface*& installed()
 {
     static zel::IUserInterface* current = nullptr;
     return current;
-}
-
-I_ZELModelBase*& activeView()
-{
-    static I_ZELModelBase* current = nullptr;
-    return current;
-}
-
-std::vector<CString>& modules()
-{
-    static std::vector<CString> names;
-    return names;
 }
 
 }  // namespace
@@ -53,17 +39,7 @@ void sendHostCommand(unsigned number)
         installed()->sendCommand(number);
 }
 
-const std::vector<CString>& loadedModules()
-{
-    return modules();
-}
-
 }  // namespace zel
-
-CLoadingStatus::CLoadingStatus(const char* moduleName)
-{
-    modules().emplace_back(moduleName);
-}
 
 int AfxMessageBox(const CString& text, unsigned type, unsigned /*help*/)
 {
@@ -96,23 +72,4 @@ void CPrefer::SetUpPrefer(int page)
 {
     if (installed() != nullptr)
         installed()->showPreferences(page);
-}
-
-I_ZELModelBase* I_ZELModelBase::GetCurMySelfST()
-{
-    return activeView();
-}
-
-void I_ZELModelBase::SetModelingModeST(int mode)
-{
-    if (activeView() == nullptr)
-        return;
-    activeView()->setModelingMode(mode);
-    if (installed() != nullptr)
-        installed()->modelingMode(mode);
-}
-
-I_ZELModelBase* I_ZELModelBase::setCurrent(I_ZELModelBase* view)
-{
-    return std::exchange(activeView(), view);
 }

@@ -3,7 +3,7 @@
 #include "contract/format_text.h"
 #include "contract/forms/field_writer.h"
 #include "contract/forms/find_control.h"
-#include "platform/forms/row_numbers.h"
+#include "contract/forms/row_numbers.h"
 
 #include <algorithm>
 #include <cctype>

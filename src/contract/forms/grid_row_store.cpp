@@ -1,4 +1,4 @@
-#include "platform/forms/grid_row_store.h"
+#include "contract/forms/grid_row_store.h"
 
 #include <algorithm>
 #include <cstring>

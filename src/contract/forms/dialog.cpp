@@ -2,8 +2,8 @@
 
 #include "contract/forms/buttons.h"
 #include "contract/forms/control.h"
+#include "contract/forms/window_list.h"
 #include "contract/user_interface.h"
-#include "platform/forms/window_list.h"
 
 #include <algorithm>
 #include <cstdlib>

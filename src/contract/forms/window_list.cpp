@@ -1,10 +1,9 @@
-#include "platform/forms/window_list.h"
+#include "contract/forms/window_list.h"
 
 #include "contract/document.h"
-#include "contract/forms/control.h"
 #include "contract/forms/dialog.h"
 
-#include <algorithm>
+#include <vector>
 
 namespace zel {
 
@@ -49,40 +48,6 @@ void WindowList::actionEnds()
 {
     --m_actions;
     deleteClosed();
-}
-
-const std::vector<CDialog*>& openDialogs()
-{
-    return WindowList::instance().open();
-}
-
-CDialog* activeDialog()
-{
-    const std::vector<CDialog*>& open = openDialogs();
-    const auto modal = std::find_if(open.begin(), open.end(), [](const CDialog* dialog) { return dialog->isModal(); });
-    if (modal != open.end())
-        return *modal;
-    return open.empty() ? nullptr : open.front();
-}
-
-bool userActionUnderWay()
-{
-    return WindowList::instance().actionUnderWay();
-}
-
-void deleteClosedDialogs()
-{
-    WindowList::instance().deleteClosed();
-}
-
-UserAction::UserAction()
-{
-    WindowList::instance().actionBegins();
-}
-
-UserAction::~UserAction()
-{
-    WindowList::instance().actionEnds();
 }
 
 }  // namespace zel

@@ -1,15 +1,10 @@
 #include "contract/forms/grid.h"
 
-#include "contract/number_text.h"
+#include "contract/forms/grid_row_store.h"
 #include "contract/units.h"
-#include "platform/forms/grid_row_store.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <numeric>
-
-namespace zel {
 
 namespace {
 
@@ -29,22 +24,6 @@ CString folded(std::string_view title)
 }
 
 }  // namespace
-
-CString gridNumberText(const CString& text, const GridNumberStyle& style)
-{
-    using Form = GridNumberStyle::Form;
-    if (style.form == Form::asKept)
-        return text;
-    const auto value = number::read(text);
-    if (!value)
-        return text;
-    const char* const format = style.form == Form::fixed ? "%.*f" : style.form == Form::general ? "%.*g" : "%.*e";
-    std::array<char, 352> shown{};  // the longest: 309 digits of the greatest double, sign, point and places
-    const int length = std::snprintf(shown.data(), shown.size(), format, std::clamp(style.places, 0, 30), *value);
-    return length > 0 ? CString{shown.data()} : text;
-}
-
-}  // namespace zel
 
 CTBGrid::CTBGrid(const zel::Place& place, std::string_view id, CString label)
     : zel::Control(place, id, std::move(label)), m_rows(std::make_unique<zel::GridRowStore>())
@@ -116,10 +95,10 @@ CArray<int> CTBGrid::GetAllColumns() const
 
 int CTBGrid::columnByTitle(std::string_view title) const
 {
-    const CString wanted = zel::folded(title);
+    const CString wanted = folded(title);
     const auto position = [&](auto textOf) {
         for (std::size_t place = 0; place < m_order.size(); ++place)
-            if (zel::folded(textOf(m_columns[static_cast<std::size_t>(m_order[place])])) == wanted)
+            if (folded(textOf(m_columns[static_cast<std::size_t>(m_order[place])])) == wanted)
                 return static_cast<int>(place);
         return -1;
     };

@@ -1,6 +1,6 @@
 #include "contract/forms/grid.h"
 
-#include "platform/forms/grid_row_store.h"
+#include "contract/forms/grid_row_store.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
-#include "platform/forms/row_numbers.h"
+#include "contract/forms/row_numbers.h"
 
 #include "contract/format_text.h"
 #include "contract/forms/find_control.h"
-#include "platform/text/nearest.h"
+#include "contract/nearest.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 
 #include "contract/forms/control.h"
 #include "contract/forms/dialog.h"
-#include "platform/text/nearest.h"
+#include "contract/nearest.h"
 
 #include <algorithm>
 #include <charconv>

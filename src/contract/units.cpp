@@ -1,5 +1,7 @@
 #include "contract/units.h"
 
+#include "contract/document.h"
+
 #include <array>
 #include <string_view>
 
@@ -145,3 +147,11 @@ int forceUnitIndex(std::string_view name)
 }
 
 }  // namespace zel
+
+void CUnitCtrl::GetUnitSystem(int unitType, CString& text)
+{
+    T_UNIT_INDEX system;
+    if (CDBDoc* document = CDBDoc::GetDocPoint())
+        document->GetUnitCtrl()->GetUnitIndexCurrent(system);
+    text = zel::unitText(unitType, system);
+}

@@ -1,9 +1,9 @@
 #include "contract/forms/grid_browser.h"
 
+#include "contract/forms/expression.h"
+#include "contract/forms/grid_row_store.h"
 #include "contract/number_text.h"
 #include "contract/user_interface.h"
-#include "platform/forms/expression.h"
-#include "platform/forms/grid_row_store.h"
 
 #include <algorithm>
 #include <array>

@@ -2,26 +2,9 @@
 
 #include "contract/forms/dialog.h"
 #include "contract/forms/find_control.h"
+#include "contract/forms/window_list.h"
 
 #include <algorithm>
-
-void CWnd::SetWindowText(const CString& text)
-{
-    m_text = text;
-    changed();
-}
-
-void CWnd::EnableWindow(bool enable)
-{
-    m_enabled = enable;
-    changed();
-}
-
-void CWnd::ShowWindow(bool show)
-{
-    m_shown = show;
-    shown(show);
-}
 
 CGroup::CGroup(CDialog& dialog, CString caption) : CWnd(std::move(caption)), m_dialog(&dialog)
 {
@@ -78,6 +61,16 @@ const char* kindName(Kind kind)
     }
     // clang-format on
     return "";
+}
+
+UserAction::UserAction()
+{
+    WindowList::instance().actionBegins();
+}
+
+UserAction::~UserAction()
+{
+    WindowList::instance().actionEnds();
 }
 
 Control::Control(const Place& place, std::string_view id, CString label) : m_place(place), m_id(id), m_label(std::move(label))

@@ -1,7 +1,7 @@
 #include "contract/forms/list_ctrl.h"
 
 #include "contract/forms/field_writer.h"
-#include "platform/forms/row_numbers.h"
+#include "contract/forms/row_numbers.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "platform/forms/expression.h"
+#include "contract/forms/expression.h"
 
 #include "contract/number_text.h"
 

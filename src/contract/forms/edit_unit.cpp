@@ -2,9 +2,9 @@
 
 #include "contract/document.h"
 #include "contract/format_text.h"
+#include "contract/forms/expression.h"
 #include "contract/number_text.h"
 #include "contract/units.h"
-#include "platform/forms/expression.h"
 
 #include <cmath>
 #include <cstdarg>
