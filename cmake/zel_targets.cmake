@@ -53,8 +53,7 @@ function(zel_example name)
     target_link_libraries(${name}_example PRIVATE ${arg_USES})
 endfunction()
 
-# One program for each file <folder>/<prefix>*.cpp; it may read the tree and run the programs that are built beside it.
-# WITH: further sources of each.
+# One program for each file <folder>/<prefix>*.cpp. WITH: further sources of each.
 function(zel_programs folder prefix)
     cmake_parse_arguments(arg "" "" "USES;OPTIONS;WITH" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${folder}/${prefix}*.cpp")
@@ -64,7 +63,6 @@ function(zel_programs folder prefix)
         target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/src")
         target_link_libraries(${name} PRIVATE ${arg_USES})
         target_link_options(${name} PRIVATE ${arg_OPTIONS})
-        zel_paths(${name})
     endforeach()
 endfunction()
 
@@ -89,16 +87,51 @@ function(zel_fuzzers folder)
     endforeach()
 endfunction()
 
-# Where the tree and the built programs are, for a target that reads examples or runs `zel`.
-function(zel_paths name)
-    target_compile_definitions(${name} PRIVATE
-        ZEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}" ZEL_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+# zel_build_paths(name): a library that tells tests where the tree and the built programs are (tests/build_paths.h). No compile
+# command carries these paths, so the compiler cache serves other clones too.
+function(zel_build_paths name)
+    set(source "${CMAKE_BINARY_DIR}/${name}/build_paths.cpp")
+    file(CONFIGURE OUTPUT "${source}" CONTENT [[#include "build_paths.h"
+
+const std::string& zel::test::sourceFolder()
+{
+    static const std::string folder = "@CMAKE_SOURCE_DIR@";
+    return folder;
+}
+
+const std::string& zel::test::programFolder()
+{
+    static const std::string folder = "@CMAKE_RUNTIME_OUTPUT_DIRECTORY@";
+    return folder;
+}
+]] @ONLY)
+    add_library(${name} STATIC "${source}")
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/tests")
 endfunction()
 
-# zel_test(folder [RUNS program...] [USES ...]): the program test_<folder> of all sources below tests/<folder>; its tests bear
+# How tests are compiled: their own code neither optimised nor watched for undefined behaviour (what they test is), which halves their build.
+function(zel_test_options name)
+    target_compile_options(${name} PRIVATE -O0)
+    if(ZEL_SANITIZE)
+        target_compile_options(${name} PRIVATE -fno-sanitize=undefined)
+    endif()
+endfunction()
+
+# zel_test_headers(name HEADERS ... [USES ...]): the headers that nearly all tests include, compiled once; further zel_test calls name it by HEADERS_OF.
+function(zel_test_headers name)
+    cmake_parse_arguments(arg "" "" "HEADERS;USES" ${ARGN})
+    set(source "${CMAKE_BINARY_DIR}/${name}/nothing.cpp")
+    file(CONFIGURE OUTPUT "${source}" CONTENT "int main() {}\n")
+    add_executable(${name} "${source}")  # a program like those that use the headers, so that all is compiled alike
+    target_link_libraries(${name} PRIVATE GTest::gtest GTest::gmock ${arg_USES})
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+    zel_test_options(${name})
+endfunction()
+
+# zel_test(folder [HEADERS_OF target] [RUNS program...] [USES ...]): the program test_<folder> of all sources below tests/<folder>; its tests bear
 # the label <folder>. Programs that it RUNS are built before it, if they exist yet.
 function(zel_test folder)
-    cmake_parse_arguments(arg "" "" "USES;RUNS" ${ARGN})
+    cmake_parse_arguments(arg "" "HEADERS_OF" "USES;RUNS" ${ARGN})
     zel_sources(sources tests ${folder})
     if(NOT sources)
         return()
@@ -106,8 +139,11 @@ function(zel_test folder)
     set(name test_${folder})
     add_executable(${name} ${sources})
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}/tests")
-    target_link_libraries(${name} PRIVATE GTest::gtest_main GTest::gmock ${arg_USES})
-    zel_paths(${name})
+    target_link_libraries(${name} PRIVATE GTest::gtest_main GTest::gmock build_paths ${arg_USES})
+    zel_test_options(${name})
+    if(arg_HEADERS_OF)
+        target_precompile_headers(${name} REUSE_FROM ${arg_HEADERS_OF})
+    endif()
     foreach(program IN LISTS arg_RUNS)
         if(TARGET ${program})
             add_dependencies(${name} ${program})
@@ -115,16 +151,21 @@ function(zel_test folder)
     endforeach()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
         WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}"
-        PROPERTIES TIMEOUT 120 LABELS ${folder}
-                   ENVIRONMENT "ZEL_SOURCE_DIR=${CMAKE_SOURCE_DIR};ZEL_BIN_DIR=${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+        PROPERTIES TIMEOUT 120 LABELS ${folder})
 endfunction()
 
-# zel_header_check(name USES ...): compiles each header below src/ alone, so that every header includes what it needs. Those of the desktop
-# are left out: each of them draws Qt's headers in, and they would take longer than all others.
+# zel_header_check(name USES ...): compiles each header below src/ alone, so that every header includes what it needs. A header that some
+# source begins with is proved by that source. Those of the desktop are left out: each of them draws Qt's headers in.
 function(zel_header_check name)
     cmake_parse_arguments(arg "" "" "USES" ${ARGN})
     file(GLOB_RECURSE headers RELATIVE "${CMAKE_SOURCE_DIR}/src" CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/*.h")
     list(FILTER headers EXCLUDE REGEX "^desktop/")
+    file(GLOB_RECURSE bodies CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/*.cpp")
+    foreach(body IN LISTS bodies)
+        file(STRINGS "${body}" first REGEX "^#include" LIMIT_COUNT 1)
+        string(REGEX REPLACE "^#include \"(.*)\"$" "\\1" first "${first}")
+        list(REMOVE_ITEM headers "${first}")
+    endforeach()
     set(sources)
     foreach(header IN LISTS headers)
         string(REGEX REPLACE "\\.h$" ".cpp" source "${CMAKE_BINARY_DIR}/${name}/${header}")
@@ -134,5 +175,9 @@ function(zel_header_check name)
     if(sources)
         add_library(${name} OBJECT ${sources})
         target_link_libraries(${name} PRIVATE ${arg_USES})
+        target_compile_options(${name} PRIVATE -O0 -g0)
+        if(ZEL_SANITIZE)
+            target_compile_options(${name} PRIVATE -fno-sanitize=all)
+        endif()
     endif()
 endfunction()

@@ -1,5 +1,7 @@
 #include "cli/program.h"
 
+#include "build_paths.h"
+
 #include <sstream>
 
 namespace {
@@ -33,7 +35,7 @@ std::vector<std::string> wordsOf(const std::string& command)
 std::vector<Shown> commandsIn(const std::string& document)
 {
     std::vector<Shown> shown;
-    std::istringstream lines(contents(std::string(ZEL_SOURCE_DIR) + "/docs/" + document));
+    std::istringstream lines(contents(zel::test::sourceFolder() + "/docs/" + document));
     bool inBlock = false;
     bool inCommand = false;
     for (std::string line; std::getline(lines, line);) {
@@ -91,7 +93,7 @@ TEST_F(Documents, CombinationsShowWhatTheCommandsPrint)
         for (std::string& word : shown.words) {
             whole += " " + word;
             if (word.ends_with(".json"))
-                word = std::string(ZEL_SOURCE_DIR) + "/" + word;
+                word = zel::test::sourceFolder() + "/" + word;
             else if (word.ends_with(".qvx"))
                 word = path(word);
         }
@@ -105,7 +107,7 @@ TEST_F(Documents, CombinationsShowWhatTheCommandsPrint)
 
 TEST_F(Documents, JournalsShowTheTranscriptOfTheirExample)
 {
-    std::istringstream lines(contents(std::string(ZEL_SOURCE_DIR) + "/docs/journals.md"));
+    std::istringstream lines(contents(zel::test::sourceFolder() + "/docs/journals.md"));
     std::string journal;
     std::string transcript;
     for (std::string line; std::getline(lines, line);) {

@@ -1,3 +1,4 @@
+#include "build_paths.h"
 #include "cli/program.h"
 #include "modeldb/model_text.h"
 
@@ -64,7 +65,7 @@ TEST_F(Play, WhatTheFormWroteIsWhatALaterDumpShows)
 {
     const std::string model = path("cases.qvx");
     ASSERT_EQ(zel({"new", model}).code, 0);
-    const Outcome played = zel({"play", model, "--strict", "--script", std::string(ZEL_SOURCE_DIR) + "/tests/journals/static_load_cases.jsonl"});
+    const Outcome played = zel({"play", model, "--strict", "--script", zel::test::sourceFolder() + "/tests/journals/static_load_cases.jsonl"});
     EXPECT_EQ(played.code, 0) << played.error;
     EXPECT_EQ(zel::test::withoutEmptyTables(zel({"dump", model}).out),
               R"({"format": "zel-model", "version": 1, "units": {"length": "M", "force": "KN"},
@@ -78,7 +79,7 @@ TEST_F(Play, WhatTheFormWroteIsWhatALaterDumpShows)
 
 TEST_F(Play, TheExamplesPlay)
 {
-    const std::string examples = std::string(ZEL_SOURCE_DIR) + "/examples/";
+    const std::string examples = zel::test::sourceFolder() + "/examples/";
     ASSERT_EQ(zel({"load", examples + "first.json", path("first.qvx")}).code, 0);
     const Outcome played = zel({"play", path("first.qvx"), "--script", examples + "first.jsonl", "--strict"});
     EXPECT_EQ(played.code, 0) << played.out;

@@ -1,5 +1,7 @@
 #include "cli/program.h"
 
+#include "build_paths.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -28,7 +30,7 @@ void redirect(const fs::path& file, int stream, int flags)
 
 int startWith(const std::vector<std::string>& arguments, const fs::path& input, const fs::path& output, const fs::path& error)
 {
-    const std::string program = std::string(ZEL_BIN_DIR) + "/zel";
+    const std::string program = zel::test::programFolder() + "/zel";
     std::vector<char*> words{const_cast<char*>(program.c_str())};
     for (const std::string& argument : arguments)
         words.push_back(const_cast<char*>(argument.c_str()));

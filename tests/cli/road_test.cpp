@@ -1,3 +1,4 @@
+#include "build_paths.h"
 #include "cli/program.h"
 #include "modeldb/model_text.h"
 
@@ -13,7 +14,7 @@ class RoadOfOneRequest : public cli_test::CliTest {};
 // an envelope; real loads of a combination. Transcript and dump were read line by line when they were taken over.
 TEST_F(RoadOfOneRequest, FromAnEmptyModelToAnEnvelopeSavedReopenedAndDumped)
 {
-    const std::string road = std::string(ZEL_SOURCE_DIR) + "/tests/cli/road/";
+    const std::string road = zel::test::sourceFolder() + "/tests/cli/road/";
     const std::filesystem::path before = std::filesystem::current_path();
     std::filesystem::current_path(folder);  // the journal names the file to import without a folder
     std::filesystem::copy_file(road + "road.lcb", path("road.lcb"));

@@ -1,3 +1,4 @@
+#include "build_paths.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/form_catalogue.h"
 #include "desktop/form_checks.h"
@@ -233,7 +234,7 @@ TEST(AllDialogsAtTwiceTheScale, NothingIsClippedCoveredOrOutOfLine)
 
 TEST(PicturesOfForms, EveryDialogClassHasOneAndStandsInTheList)
 {
-    const std::filesystem::path docs = std::string(ZEL_SOURCE_DIR) + "/docs";
+    const std::filesystem::path docs = zel::test::sourceFolder() + "/docs";
     std::ifstream file(docs / "forms.md");
     std::stringstream list;
     list << file.rdbuf();

@@ -1,5 +1,6 @@
 #include "desktop/desktop_fixture.h"
 
+#include "build_paths.h"
 #include "command/command.h"
 #include "contract/forms/open_dialogs.h"
 #include "desktop/forms/text.h"
@@ -41,7 +42,7 @@ void pollModal(const std::function<void(QWidget&)>& step, const QPointer<QWidget
 
 std::unique_ptr<zel::ModelDocument> example(const std::string& name)
 {
-    std::ifstream file(std::string(ZEL_SOURCE_DIR) + "/examples/" + name + ".json");
+    std::ifstream file(zel::test::sourceFolder() + "/examples/" + name + ".json");
     std::stringstream text;
     text << file.rdbuf();
     const zel::Json json = zel::parseJson(text.str());

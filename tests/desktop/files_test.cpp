@@ -1,5 +1,6 @@
 #include "desktop/files_fixture.h"
 
+#include "build_paths.h"
 #include "command/command.h"
 #include "contract/tables/load_tables.h"
 #include "desktop/forms/text.h"
@@ -322,7 +323,7 @@ TEST_F(FilesWindow, WhileAJournalPlaysTheModelStays)
 TEST_F(FilesWindow, WhereNobodyCanBeAskedAMissingModelIsASentenceAndStatusTwo)
 {
     QProcess program;
-    program.start(QStringLiteral(ZEL_BIN_DIR "/zel-desktop"), {path("none.qvx"), "--screenshot", path("none.png")});
+    program.start(QString::fromStdString(zel::test::programFolder() + "/zel-desktop"), {path("none.qvx"), "--screenshot", path("none.png")});
     ASSERT_TRUE(program.waitForFinished());
     EXPECT_EQ(program.exitCode(), 2);
     EXPECT_TRUE(program.readAllStandardError().contains("none.qvx\" does not exist."));

@@ -1,5 +1,6 @@
 #include "desktop/form_catalogue.h"
 
+#include "build_paths.h"
 #include "command/command.h"
 #include "command/dialog_table.h"
 #include "command/exported_dialogs.h"
@@ -58,7 +59,7 @@ std::vector<FormState> openedForms()
 std::vector<FormState> picturedForms()
 {
     std::vector<FormState> forms;
-    for (const auto& file : std::filesystem::directory_iterator(std::string(ZEL_SOURCE_DIR) + "/docs/forms")) {
+    for (const auto& file : std::filesystem::directory_iterator(zel::test::sourceFolder() + "/docs/forms")) {
         if (file.path().extension() != ".jsonl")
             continue;
         std::ifstream stream(file.path());

@@ -1,5 +1,7 @@
 #include "desktop/files_fixture.h"
 
+#include "build_paths.h"
+
 #include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -44,7 +46,7 @@ QProcessEnvironment offScreen(const QString& folder)
 
 QString program(const char* name)
 {
-    return QStringLiteral(ZEL_BIN_DIR "/") + QString::fromLatin1(name);
+    return QString::fromStdString(zel::test::programFolder() + "/") + QString::fromLatin1(name);
 }
 
 /// Runs `zel` and gives what it prints; fails the test when it reports an error.

@@ -1,5 +1,7 @@
 #include "desktop/files_fixture.h"
 
+#include "build_paths.h"
+
 #include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -22,7 +24,7 @@ Ran run(const char* program, const QStringList& arguments)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(ZEL_BIN_DIR "/") + QString::fromLatin1(program), arguments);
+    process.start(QString::fromStdString(zel::test::programFolder() + "/") + QString::fromLatin1(program), arguments);
     EXPECT_TRUE(process.waitForFinished(20'000)) << program << " does not end";
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
@@ -34,8 +36,8 @@ class Program : public ::testing::Test {
 protected:
     Program()
     {
-        EXPECT_EQ(run("zel", {"load", QStringLiteral(ZEL_SOURCE_DIR "/examples/tower.json"), path("m.qvx")}).code, 0);
-        EXPECT_EQ(run("zel", {"load", QStringLiteral(ZEL_SOURCE_DIR "/examples/tower.json"), path("copy.qvx")}).code, 0);
+        EXPECT_EQ(run("zel", {"load", QString::fromStdString(zel::test::sourceFolder() + "/examples/tower.json"), path("m.qvx")}).code, 0);
+        EXPECT_EQ(run("zel", {"load", QString::fromStdString(zel::test::sourceFolder() + "/examples/tower.json"), path("copy.qvx")}).code, 0);
     }
 
     [[nodiscard]] QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }

@@ -1,5 +1,6 @@
 #include "desktop/files_fixture.h"
 
+#include "build_paths.h"
 #include "command/command.h"
 #include "contract/forms/grid_browser_ex.h"
 #include "contract/forms/open_dialogs.h"
@@ -28,7 +29,7 @@ namespace {
 QByteArray zelPrints(const QStringList& arguments)
 {
     QProcess zel;
-    zel.start(QStringLiteral(ZEL_BIN_DIR "/zel"), arguments);
+    zel.start(QString::fromStdString(zel::test::programFolder() + "/zel"), arguments);
     zel.waitForFinished();
     EXPECT_EQ(zel.exitCode(), 0) << arguments.join(' ').toStdString() << ": " << zel.readAllStandardError().toStdString();
     return zel.readAllStandardOutput();

@@ -1,5 +1,7 @@
 #include "house/tree.h"
 
+#include "build_paths.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -21,7 +23,7 @@ bool isForeign(const fs::path& folder)
 std::vector<File> readTree()
 {
     std::vector<File> all;
-    const fs::path root = ZEL_SOURCE_DIR;
+    const fs::path root = zel::test::sourceFolder();
     for (auto at = fs::recursive_directory_iterator(root); at != fs::recursive_directory_iterator(); ++at) {
         if (at->is_directory() && isForeign(at->path()))
             at.disable_recursion_pending();

@@ -1,5 +1,6 @@
 #include "journal/journal_fixture.h"
 
+#include "build_paths.h"
 #include "platform/messages/message_catalogue.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path folder = fs::path(ZEL_SOURCE_DIR) / "tests" / "journals";
+const fs::path folder = fs::path(zel::test::sourceFolder()) / "tests" / "journals";
 
 std::string contents(const fs::path& path)
 {

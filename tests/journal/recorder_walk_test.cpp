@@ -1,5 +1,6 @@
 #include "journal/recorder_fixture.h"
 
+#include "build_paths.h"
 #include "command/command.h"
 #include "command/dialog_table.h"
 #include "contract/forms/buttons.h"
@@ -20,7 +21,7 @@ protected:
     Walk()
     {
         start = [] {
-            std::ifstream file(std::string(ZEL_SOURCE_DIR) + "/examples/tower.json");
+            std::ifstream file(zel::test::sourceFolder() + "/examples/tower.json");
             std::stringstream text;
             text << file.rdbuf();
             const zel::Json json = zel::parseJson(text.str());

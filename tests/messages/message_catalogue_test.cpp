@@ -1,5 +1,6 @@
 #include "platform/messages/message_catalogue.h"
 
+#include "build_paths.h"
 #include "contract/messages.h"
 
 #include <fstream>
@@ -44,7 +45,7 @@ std::vector<unsigned char> moFile(const std::vector<std::pair<std::string, std::
 /// Keys of en.po, read as text.
 std::vector<std::string> keysOfPoFile()
 {
-    std::ifstream file(ZEL_SOURCE_DIR "/src/platform/messages/en.po");
+    std::ifstream file(zel::test::sourceFolder() + "/src/platform/messages/en.po");
     std::vector<std::string> keys;
     for (std::string line; std::getline(file, line);) {
         const std::string begin = "msgid \"";

@@ -1,5 +1,7 @@
 #include "object_style/fixture.h"
 
+#include "build_paths.h"
+
 #include <cstdlib>
 #include <sys/wait.h>
 
@@ -17,7 +19,7 @@ protected:
 
     static int run(const std::string& arguments)
     {
-        const int status = std::system((std::string("\"") + ZEL_BIN_DIR + "/object_style_example\" " + arguments + " > out 2> error").c_str());
+        const int status = std::system(("\"" + zel::test::programFolder() + "/object_style_example\" " + arguments + " > out 2> error").c_str());
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
