@@ -121,8 +121,8 @@ void ModelFile::readChecks()
 {
     Statement statement(*m_database, "select code, row_count, row_hash from " + CString(checkTable));
     while (statement.step())
-        m_checks[CString(statement.text(0))] = {statement.integer(1), static_cast<std::uint64_t>(statement.integer(2))};
-    if (m_checks.size() != static_cast<std::size_t>(tableCount) + 1)
+        m_state.checks[CString(statement.text(0))] = {statement.integer(1), static_cast<std::uint64_t>(statement.integer(2))};
+    if (m_state.checks.size() != static_cast<std::size_t>(tableCount) + 1)
         throw damaged("its list of tables is not complete");
 }
 
@@ -132,15 +132,14 @@ void ModelFile::readSettings()
     Statement statement(*m_database, "select name, value from " + CString(settingTable));
     while (statement.step()) {
         const CString name(statement.text(0));
-        m_settings[name] = CString(statement.text(1));
+        m_state.settings[name] = CString(statement.text(1));
         ++found.rows;
-        found.hash += settingHash(name, m_settings[name]);
+        found.hash += settingHash(name, m_state.settings[name]);
     }
-    m_units.length = lengthUnitIndex(m_settings["length"]);
-    m_units.force = forceUnitIndex(m_settings["force"]);
-    if (found != m_checks[CString(settingTable)] || m_units.length < 0 || m_units.force < 0)
+    m_state.units.length = lengthUnitIndex(m_state.settings["length"]);
+    m_state.units.force = forceUnitIndex(m_state.settings["force"]);
+    if (found != m_state.checks[CString(settingTable)] || m_state.units.length < 0 || m_state.units.force < 0)
         throw damaged("its settings are not as they were stored");
-    m_createdBy = m_settings["created_by"];
 }
 
 std::vector<StoredRow> ModelFile::read(const TableInfo& table)
@@ -150,7 +149,7 @@ std::vector<StoredRow> ModelFile::read(const TableInfo& table)
         TableCheck found{static_cast<std::int64_t>(rows.size()), 0};
         for (const StoredRow& row : rows)
             found.hash += rowHash(table, row.kind, row.key, row.record.get());
-        if (found != m_checks[CString(table.code)])
+        if (found != m_state.checks[CString(table.code)])
             throw damaged("the records of table " + CString(table.code) + " are not as they were stored");
         return rows;
     } catch (const SqliteError& error) {
@@ -213,9 +212,9 @@ void ModelFile::makeSchema(const T_UNIT_INDEX& units)
     for (const CString& statement : schemaStatements())
         m_database->run(statement);
     for (const TableInfo& table : tableList())
-        m_checks[CString(table.code)] = {};
-    m_checks[CString(settingTable)] = {};
-    for (const auto& [code, check] : m_checks) {
+        m_state.checks[CString(table.code)] = {};
+    m_state.checks[CString(settingTable)] = {};
+    for (const auto& [code, check] : m_state.checks) {
         Statement insert(*m_database, "insert into " + CString(checkTable) + " values(?, 0, 0)");
         insert.bind(1, std::string_view(code));
         insert.run();
@@ -233,7 +232,7 @@ void ModelFile::begin()
             m_structureChecked = true;
         }
         m_database->run("BEGIN IMMEDIATE");
-        m_checksBefore = m_checks;
+        m_before = m_state;
     } catch (const SqliteError& error) {
         throw refusalFor(error);
     }
@@ -259,7 +258,7 @@ void ModelFile::write(const Batch& batch)
     inTransaction([&] {
         m_rows->write(batch);
         const TableInfo& table = tableInfo(batch.table);
-        TableCheck& check = m_checks[CString(table.code)];
+        TableCheck& check = m_state.checks[CString(table.code)];
         for (const Step& step : batch.steps) {
             if (step.before) {
                 --check.rows;
@@ -279,19 +278,19 @@ void ModelFile::writeUnits(const T_UNIT_INDEX& units)
     inTransaction([&] {
         storeSetting("length", lengthUnitName(units.length));
         storeSetting("force", forceUnitName(units.force));
-        m_units = units;
+        m_state.units = units;
     });
 }
 
 void ModelFile::storeSetting(const CString& name, const CString& value)
 {
-    TableCheck& check = m_checks[CString(settingTable)];
-    const auto before = m_settings.find(name);
-    if (before != m_settings.end()) {
+    TableCheck& check = m_state.checks[CString(settingTable)];
+    const auto before = m_state.settings.find(name);
+    if (before != m_state.settings.end()) {
         check.hash -= settingHash(name, before->second);
         --check.rows;
     }
-    m_settings[name] = value;
+    m_state.settings[name] = value;
     check.hash += settingHash(name, value);
     ++check.rows;
     Statement statement(*m_database, "insert or replace into " + CString(settingTable) + "(name, value) values(?, ?)");
@@ -305,7 +304,7 @@ void ModelFile::storeCheck(const CString& code)
 {
     if (!m_checkStatement)
         m_checkStatement = std::make_unique<Statement>(*m_database, "update " + CString(checkTable) + " set row_count=?, row_hash=? where code=?");
-    const TableCheck& check = m_checks[code];
+    const TableCheck& check = m_state.checks[code];
     m_checkStatement->bind(1, check.rows);
     m_checkStatement->bind(2, static_cast<std::int64_t>(check.hash));
     m_checkStatement->bind(3, std::string_view(code));
@@ -323,7 +322,7 @@ void ModelFile::rollback() noexcept
 {
     if (sqlite3_get_autocommit(m_database->handle()) == 0)
         sqlite3_exec(m_database->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
-    m_checks = m_checksBefore;
+    m_state = m_before;
 }
 
 FileFacts ModelFile::facts()
@@ -333,7 +332,7 @@ FileFacts ModelFile::facts()
     facts.size = std::filesystem::file_size(m_path, ignored);
     facts.schema = static_cast<int>(m_database->number("PRAGMA user_version"));
     facts.journalMode = m_database->text("PRAGMA journal_mode");
-    facts.createdBy = m_createdBy;
+    facts.createdBy = m_state.settings["created_by"];
     return facts;
 }
 

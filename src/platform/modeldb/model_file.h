@@ -44,7 +44,7 @@ public:
     static void create(const std::filesystem::path& path, const T_UNIT_INDEX& units, const std::vector<Batch>& batches, bool replace);
 
     [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
-    [[nodiscard]] T_UNIT_INDEX units() const { return m_units; }
+    [[nodiscard]] T_UNIT_INDEX units() const { return m_state.units; }
 
     /// Reads a table and checks it against its row count and hash.
     /// @throws FileRefusal
@@ -66,7 +66,12 @@ private:
         bool operator==(const TableCheck&) const = default;
     };
     struct Unchecked {};
-    using Checks = std::map<CString, TableCheck, std::less<>>;
+    /// What this object holds of the file beside its records. A transaction that is rolled back takes all of it back.
+    struct State {
+        std::map<CString, TableCheck, std::less<>> checks;
+        std::map<CString, CString> settings;
+        T_UNIT_INDEX units;
+    };
 
     ModelFile(const std::filesystem::path& path, Unchecked tag);
     void prepareConnection(Access access);
@@ -84,11 +89,8 @@ private:
     std::unique_ptr<Database> m_database;
     std::unique_ptr<RowStore> m_rows;
     std::unique_ptr<Statement> m_checkStatement;
-    T_UNIT_INDEX m_units;
-    CString m_createdBy;
-    std::map<CString, CString> m_settings;
-    Checks m_checks;
-    Checks m_checksBefore;  ///< of the running transaction
+    State m_state;
+    State m_before;  ///< of the running transaction
     bool m_structureChecked = false;
 };
 
