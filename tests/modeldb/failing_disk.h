@@ -39,7 +39,11 @@ public:
         m_how = how;
         m_failed = false;
     }
-    void mend() { m_left = 0; }
+    void mend()
+    {
+        m_left = 0;
+        m_failed = false;
+    }
     [[nodiscard]] bool hasFailed() const { return m_failed; }
 
 private:
