@@ -16,7 +16,7 @@ std::string everythingIn(ModelDocument& model)
         for (const int kind : {0, 1, 2, 3, 4, 5}) {
             for (const Key key : model.table(table.table).keys(kind))
                 text += "\n" + CString(table.code) + " " + std::to_string(kind) + " " + std::to_string(key) + " " +
-                        std::to_string(rowHash(table, kind, key, model.table(table.table).find(kind, key).get()));
+                    std::to_string(rowHash(table, kind, key, model.table(table.table).find(kind, key).get()));
         }
     }
     return text;

@@ -3,6 +3,9 @@
 #ifdef _WIN32
 #include <process.h>
 #else
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 #endif
@@ -36,6 +39,17 @@ CString processNumber()
     return std::to_string(_getpid());
 #else
     return std::to_string(::getpid());
+#endif
+}
+
+bool isRunning(const CString& process)
+{
+#ifdef _WIN32
+    (void)process;
+    return true;
+#else
+    const long number = std::strtol(process.c_str(), nullptr, 10);
+    return number > 0 && (::kill(static_cast<pid_t>(number), 0) == 0 || errno != ESRCH);
 #endif
 }
 

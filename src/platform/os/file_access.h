@@ -16,4 +16,7 @@ void syncFolder(const std::filesystem::path& folder);
 /// Number of this process, for the names of temporary files.
 CString processNumber();
 
+/// Whether a process of that number is there. True also where the system does not tell.
+bool isRunning(const CString& process);
+
 }  // namespace zel::os
