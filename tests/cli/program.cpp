@@ -28,24 +28,6 @@ void redirect(const fs::path& file, int stream, int flags)
     close(descriptor);
 }
 
-int startWith(const std::vector<std::string>& arguments, const fs::path& input, const fs::path& output, const fs::path& error)
-{
-    const std::string program = zel::test::programFolder() + "/zel";
-    std::vector<char*> words{const_cast<char*>(program.c_str())};
-    for (const std::string& argument : arguments)
-        words.push_back(const_cast<char*>(argument.c_str()));
-    words.push_back(nullptr);
-    const pid_t child = fork();
-    if (child == 0) {
-        redirect(input, STDIN_FILENO, O_RDONLY);
-        redirect(output, STDOUT_FILENO, O_WRONLY | O_CREAT | O_TRUNC);
-        redirect(error, STDERR_FILENO, O_WRONLY | O_CREAT | O_TRUNC);
-        execv(program.c_str(), words.data());
-        _exit(127);
-    }
-    return child;
-}
-
 fs::path freshFolder()
 {
     std::string name = (fs::temp_directory_path() / "zel-cli-XXXXXX").string();
@@ -54,28 +36,55 @@ fs::path freshFolder()
 
 }  // namespace
 
-Outcome zel(const std::vector<std::string>& arguments, const std::string& input)
+Outcome zel(const std::vector<std::string>& arguments, const std::string& input, const Environment& environment)
 {
     const fs::path folder = freshFolder();
     write(folder / "in", input);
-    const int child = startWith(arguments, folder / "in", folder / "out", folder / "error");
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {}
-    Outcome run{WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(folder / "out"), contents(folder / "error")};
+    Outcome run = await(start(arguments, {folder / "in", folder / "out", folder / "error"}, environment));
+    run.out = contents(folder / "out");
+    run.error = contents(folder / "error");
     fs::remove_all(folder);
     return run;
 }
 
-int start(const std::vector<std::string>& arguments, const fs::path& input, const fs::path& output)
+int start(const std::vector<std::string>& arguments, const Streams& streams, const Environment& environment)
 {
-    return startWith(arguments, input, output, "/dev/null");
+    constexpr unsigned timeLimit = 120;  // seconds
+    const std::string program = zel::test::programFolder() + "/zel";
+    std::vector<char*> words{const_cast<char*>(program.c_str())};
+    for (const std::string& argument : arguments)
+        words.push_back(const_cast<char*>(argument.c_str()));
+    words.push_back(nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        redirect(streams.input, STDIN_FILENO, O_RDONLY);
+        redirect(streams.output, STDOUT_FILENO, O_WRONLY | O_CREAT | O_TRUNC);
+        redirect(streams.error, STDERR_FILENO, O_WRONLY | O_CREAT | O_TRUNC);
+        for (const std::string& variable : environment)
+            putenv(const_cast<char*>(variable.c_str()));
+        alarm(timeLimit);
+        execv(program.c_str(), words.data());
+        _exit(127);
+    }
+    return child;
 }
 
-void kill(int process)
+Outcome await(int process)
 {
-    ::kill(process, SIGKILL);
     int status = 0;
     while (waitpid(process, &status, 0) < 0 && errno == EINTR) {}
+    Outcome ended;
+    if (WIFEXITED(status))
+        ended.code = WEXITSTATUS(status);
+    else
+        ended.signal = WTERMSIG(status);
+    return ended;
+}
+
+Outcome kill(int process)
+{
+    ::kill(process, SIGKILL);
+    return await(process);
 }
 
 std::string contents(const fs::path& path)

@@ -10,18 +10,31 @@ namespace cli_test {
 
 /// What came of a run of `zel`.
 struct Outcome {
-    int code = -1;  ///< exit code; -1 when a signal ended it
+    int code = -1;   ///< exit code; -1 when a signal ended it
+    int signal = 0;  ///< the signal that ended it; SIGALRM when it ran longer than two minutes
     std::string out;
     std::string error;
 };
 
-/// Runs the built `zel` and waits for it.
-Outcome zel(const std::vector<std::string>& arguments, const std::string& input = {});
+/// Variables "NAME=value" that a run gets beside those of the test.
+using Environment = std::vector<std::string>;
 
-/// Starts the built `zel` with its input and output in files, without waiting. Gives the number of the process.
-int start(const std::vector<std::string>& arguments, const std::filesystem::path& input, const std::filesystem::path& output);
-/// Kills a process at once and waits for its end.
-void kill(int process);
+/// Runs the built `zel` and waits for it.
+Outcome zel(const std::vector<std::string>& arguments, const std::string& input = {}, const Environment& environment = {});
+
+/// Where the standard streams of a run that is not waited for begin and end.
+struct Streams {
+    std::filesystem::path input = "/dev/null";
+    std::filesystem::path output = "/dev/null";
+    std::filesystem::path error = "/dev/null";
+};
+
+/// Starts the built `zel` without waiting. Gives the number of the process.
+int start(const std::vector<std::string>& arguments, const Streams& streams, const Environment& environment = {});
+/// Waits for the end of a process and tells how it came; the texts stay empty.
+Outcome await(int process);
+/// Kills a process at once and waits for its end, which may have come before.
+Outcome kill(int process);
 
 std::string contents(const std::filesystem::path& path);
 void write(const std::filesystem::path& path, const std::string& text);
