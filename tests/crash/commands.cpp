@@ -48,8 +48,9 @@ void CommandAttack::SetUp()
         m_command.input = lcbText();
     if (name != "new" && name != "load")
         makeTower();
-    if (!changes(name) || name == "generate")  // something to print, and something to replace
+    if (!changes(name) || name == "generate") {  // something to print, and something to replace
         ASSERT_EQ(zel({"generate", file, "--code", "AIK-USD94"}).code, 0);
+    }
     m_command.folder = modelFolder();
     m_command.before = stateOf(file);
     const Outcome undisturbed = zel(m_command.arguments, m_command.input);
@@ -57,8 +58,9 @@ void CommandAttack::SetUp()
     m_command.printed = undisturbed.out;
     m_command.after = stateOf(file);
     m_command.left = modelFolder();
-    if (changes(name))
+    if (changes(name)) {
         ASSERT_NE(m_command.before, m_command.after);
+    }
     else
         ASSERT_EQ(m_command.left.at("model.qvx"), m_command.folder.at("model.qvx")) << "a reader leaves the file alone";
     restore(m_command.folder);
@@ -89,8 +91,9 @@ void CommandAttack::judge(const Outcome& run, bool tidy) const
         EXPECT_EQ(stateOf(model()), m_command.after);
         for (const auto& [name, bytes] : files) {
             EXPECT_TRUE(!tidy || m_command.left.contains(name)) << name << " was left over";
-            if (name != "model.qvx" && m_command.left.contains(name))
+            if (name != "model.qvx" && m_command.left.contains(name)) {
                 EXPECT_EQ(bytes, m_command.left.at(name)) << name;
+            }
         }
         return;
     }
@@ -101,26 +104,31 @@ void CommandAttack::judge(const Outcome& run, bool tidy) const
         return;
     }
     const std::string state = stateOf(model());
-    if (state != m_command.after || !leavesOpen(run.error))
+    if (state != m_command.after || !leavesOpen(run.error)) {
         EXPECT_EQ(state, m_command.before) << run.error;
-    for (const auto& file : files)
+    }
+    for (const auto& file : files) {
         EXPECT_TRUE(!tidy || file.first == "model.qvx") << file.first << " was left over";
+    }
 }
 
 void CommandAttack::judgeKilled() const
 {
     const std::string state = stateOf(model());
-    if (state != m_command.after)
+    if (state != m_command.after) {
         ASSERT_EQ(state, m_command.before);
-    if (!changes(GetParam()))
+    }
+    if (!changes(GetParam())) {
         EXPECT_EQ(contents(model()), m_command.folder.at("model.qvx"));
+    }
     const Outcome again = zel(m_command.arguments, m_command.input);
     EXPECT_TRUE(orderly(again));
     if (state == m_command.before) {
         EXPECT_EQ(again.code, 0) << again.error;
         EXPECT_EQ(stateOf(model()), m_command.after);
-        for (const auto& file : modelFolder())
+        for (const auto& file : modelFolder()) {
             EXPECT_TRUE(m_command.left.contains(file.first)) << file.first << " was left over by the run that was killed";
+        }
     }
 }
 

@@ -149,8 +149,9 @@ TEST_P(EditedFile, IsRefusedAndLeftAloneUnlessTheModelIsTheSame)
     ASSERT_NE(bytes, m_whole);
     count("edits");
     judge(bytes);
-    if (!GetParam().harmless)
+    if (!GetParam().harmless) {
         EXPECT_EQ(zel({"dump", model()}).code, 1) << "the edit was not noticed";
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
