@@ -53,6 +53,7 @@ protected:
     [[nodiscard]] std::size_t pick(std::size_t count) { return m_random() % count; }
     /// Counts something for the last line, "kills: 20".
     void count(const std::string& what, long number = 1) { m_counts[what] += number; }
+    [[nodiscard]] long counted(const std::string& what) { return m_counts[what]; }
 
     [[nodiscard]] std::string model(const std::string& name = "model.qvx") const { return path("model/" + name); }
     void clearModelFolder() const;

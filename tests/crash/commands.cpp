@@ -60,8 +60,7 @@ void CommandAttack::SetUp()
     m_command.left = modelFolder();
     if (changes(name)) {
         ASSERT_NE(m_command.before, m_command.after);
-    }
-    else
+    } else
         ASSERT_EQ(m_command.left.at("model.qvx"), m_command.folder.at("model.qvx")) << "a reader leaves the file alone";
     restore(m_command.folder);
     m_command.calls = callsOf(m_command.arguments, m_command.input);

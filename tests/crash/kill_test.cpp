@@ -99,6 +99,7 @@ class KilledCommand : public CommandAttack {};
 
 TEST_P(KilledCommand, LeavesTheModelAsBeforeOrAsAfter)
 {
+    restore(command().folder);
     const Clock::duration usual = timeOf(command().arguments, command().input);
     const auto limit = static_cast<std::size_t>(std::chrono::duration_cast<std::chrono::microseconds>(usual).count());
     cli_test::write(path("input"), command().input);
