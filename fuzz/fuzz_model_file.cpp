@@ -37,7 +37,7 @@ std::string contents()
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string printed(const zel::ModelDocument& document)
+std::string printed(zel::ModelDocument& document)
 {
     std::ostringstream out;
     zel::printModelJson(document, out);
@@ -52,9 +52,10 @@ struct Sound {
     Sound()
     {
         const std::unique_ptr<zel::ModelDocument> document = zel::ModelDocument::inMemory();
-        zel::storeRows(*document, zel::rowsOfModelJson(zel::parseJson(
-                                      R"({"format": "zel-model", "version": 1, "STLD": [{"key": 1, "name": "DL"}, {"key": 2, "name": "LL", "type": "L"}],)"
-                                      R"( "LCOM": [{"key": 1, "name": "C1", "items": [{"type": 1, "key": 1, "factor": 1.2}, {"type": 1, "key": 2, "factor": 1.6}]}]})")));
+        zel::storeRows(*document,
+                       zel::rowsOfModelJson(zel::parseJson(
+                           R"({"format": "zel-model", "version": 1, "STLD": [{"key": 1, "name": "DL"}, {"key": 2, "name": "LL", "type": "L"}],)"
+                           R"( "LCOM": [{"key": 1, "name": "C1", "items": [{"type": 1, "key": 1, "factor": 1.2}, {"type": 1, "key": 2, "factor": 1.6}]}]})")));
         document->saveCopy(path(), true);
         json = printed(*document);
         bytes = contents();
