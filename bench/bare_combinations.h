@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/records/lcom.h"
+#include "contract/table.h"
 #include "measure.h"
 #include "platform/modeldb/file_format.h"
 

@@ -16,7 +16,7 @@
 #include "contract/forms/find_control.h"
 #include "contract/forms/grid_browser_ex.h"
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "measure.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/modeldb/model_document.h"

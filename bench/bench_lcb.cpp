@@ -10,7 +10,7 @@
 // The ratio is measured inside one run, the two sides in turn.
 
 #include "bare_combinations.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "counted_memory.h"
 #include "loadcomb/editor/lcb_import.h"
 #include "platform/modeldb/model_document.h"

@@ -6,7 +6,8 @@
 //
 // Each ratio is measured inside one run, the two sides in turn.
 
-#include "contract/tables/load_tables.h"
+#include "contract/table.h"
+#include "contract/tables/static_load_case_table.h"
 #include "measure.h"
 #include "platform/modeldb/file_format.h"
 #include "platform/modeldb/model_document.h"

@@ -1,7 +1,7 @@
 // An LCB file from any bytes. What is taken obeys the rules of combinations, and goes into a model and out of it again as one change.
 
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "loadcomb/editor/lcb_import.h"
 #include "platform/modeldb/model_document.h"
 

@@ -2,12 +2,14 @@
 
 #include "cli/lcb_writer.h"
 #include "cli/shortest.h"
-#include "contract/tables/load_tables.h"
+#include "contract/record.h"
+#include "contract/tables/static_load_case_table.h"
 #include "platform/modeldb/record_json.h"
 #include "platform/modeldb/record_values.h"
 
 #include <algorithm>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <set>
 #include <utility>

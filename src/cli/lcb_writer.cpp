@@ -1,7 +1,7 @@
 #include "cli/lcb_writer.h"
 
 #include "cli/shortest.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 #include <ostream>

@@ -7,6 +7,7 @@
 #include "platform/modeldb/json_text.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace zel::cli {

@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 #include "cli/output.h"
 
+#include "contract/table.h"
 #include "contract/table_list.h"
 #include "platform/modeldb/model_document.h"
 

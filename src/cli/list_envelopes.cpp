@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 #include "cli/output.h"
+#include "contract/tables/envelope_table.h"
 
 #include "loadcomb/envelopes/envelope_item.h"
 #include "platform/modeldb/model_document.h"

@@ -5,6 +5,7 @@
 #include "platform/modeldb/model_document.h"
 #include "platform/modeldb/model_json.h"
 
+#include <nlohmann/json.hpp>
 #include <stdexcept>
 
 namespace zel::cli {

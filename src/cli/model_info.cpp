@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <iostream>
+#include <nlohmann/json.hpp>
 #include <vector>
 
 namespace zel::cli {

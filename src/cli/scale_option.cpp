@@ -2,7 +2,7 @@
 
 #include "contract/nearest.h"
 #include "contract/number_text.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <charconv>
 #include <optional>

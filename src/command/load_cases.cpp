@@ -1,5 +1,7 @@
 #include "command/load_cases.h"
 
+#include "contract/tables/static_load_case_table.h"
+
 #include <algorithm>
 #include <cctype>
 #include <ranges>

@@ -2,8 +2,8 @@
 
 #include "contract/forms/lists.h"
 #include "contract/records/seis_lctp.h"
+#include "contract/records/stld.h"
 #include "contract/table_store.h"
-#include "contract/tables/load_tables.h"
 
 #include <functional>
 #include <vector>

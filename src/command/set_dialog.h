@@ -6,6 +6,7 @@
 #include "command/view_buffer.h"
 #include "contract/forms/forms.h"
 #include "contract/number_text.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/user_interface.h"
 
 #include <concepts>

@@ -2,22 +2,12 @@
 
 #include "contract/notices.h"
 #include "contract/table_handle.h"
-#include "contract/tables/load_combination_table.h"
 
 #include <functional>
 #include <optional>
 
 /// The reading of the change buffer, once for all dialogs.
 namespace zel {
-
-template <class Record, Table Id, Ops operations> constexpr Table tableOf(const CTable<Record, Id, operations>* /*handle*/)
-{
-    return Id;
-}
-constexpr Table tableOf(const CDataLcom* /*handle*/)
-{
-    return Table::LCOM;
-}
 
 /// What a dialog does about the changes of one table. A handler that is left out passes them over.
 ///
@@ -54,7 +44,7 @@ public:
     }
 
 private:
-    static constexpr std::int32_t code(Change change) { return updateCode(tableOf(static_cast<const Handle*>(nullptr)), change); }
+    static std::int32_t code(Change change) { return updateCode(tableOfHandle<Handle>(), change); }
 
     static Handle load(const CViewBuff& buffer, const T_UDRD_BUFFER& entry)
     {
@@ -89,7 +79,7 @@ template <class... Handles> void readChanges(const CViewBuff& buffer, const Tabl
 /// Whether a buffer holds a change of the table.
 template <class Handle> bool concerns(const CViewBuff& buffer)
 {
-    const Table table = tableOf(static_cast<const Handle*>(nullptr));
+    const Table table = tableOfHandle<Handle>();
     POSITION position = buffer.GetStartBuffer();
     while (position != nullptr) {
         const std::int32_t code = buffer.GetNextBuffer(position).updateCode;

@@ -11,6 +11,7 @@
 #include "contract/records/stld.h"
 #include "contract/records/thik.h"
 #include "contract/records/wasd.h"
+#include "contract/table_list.h"
 #include "contract/table_store.h"
 #include "contract/text.h"
 
@@ -24,40 +25,40 @@
 /// user is told why.
 class CImportFile {
 public:
-    int ImportArld(const CString& path) { return import(path, Table::ARLD); }
-    int ImportCosd(const CString& path) { return import(path, Table::COSD); }
-    int ImportGspd(const CString& path) { return import(path, Table::GSPD); }
-    int ImportLnld(const CString& path) { return import(path, Table::LNLD); }
-    int ImportMatl(const CString& path) { return import(path, Table::MATL); }
-    int ImportPisd(const CString& path) { return import(path, Table::PISD); }
-    int ImportSect(const CString& path) { return import(path, Table::SECT); }
-    int ImportSosd(const CString& path) { return import(path, Table::SOSD); }
-    int ImportThik(const CString& path) { return import(path, Table::THIK); }
-    int ImportWasd(const CString& path) { return import(path, Table::WASD); }
+    int ImportArld(const CString& path) { return import(path, zel::tableOfRecord<T_ARLD_D>()); }
+    int ImportCosd(const CString& path) { return import(path, zel::tableOfRecord<T_COSD_D>()); }
+    int ImportGspd(const CString& path) { return import(path, zel::tableOfRecord<T_GSPD_D>()); }
+    int ImportLnld(const CString& path) { return import(path, zel::tableOfRecord<T_LNLD_D>()); }
+    int ImportMatl(const CString& path) { return import(path, zel::tableOfRecord<T_MATL_D>()); }
+    int ImportPisd(const CString& path) { return import(path, zel::tableOfRecord<T_PISD_D>()); }
+    int ImportSect(const CString& path) { return import(path, zel::tableOfRecord<T_SECT_D>()); }
+    int ImportSosd(const CString& path) { return import(path, zel::tableOfRecord<T_SOSD_D>()); }
+    int ImportThik(const CString& path) { return import(path, zel::tableOfRecord<T_THIK_D>()); }
+    int ImportWasd(const CString& path) { return import(path, zel::tableOfRecord<T_WASD_D>()); }
 
-    int GetArldList(std::vector<zel::Key>& keys, std::vector<T_ARLD_D>& records) const { return list(Table::ARLD, keys, records); }
-    int GetCosdList(std::vector<zel::Key>& keys, std::vector<T_COSD_D>& records) const { return list(Table::COSD, keys, records); }
-    int GetGspdList(std::vector<zel::Key>& keys, std::vector<T_GSPD_D>& records) const { return list(Table::GSPD, keys, records); }
-    int GetLnldList(std::vector<zel::Key>& keys, std::vector<T_LNLD_D>& records) const { return list(Table::LNLD, keys, records); }
-    int GetMatlList(std::vector<zel::Key>& keys, std::vector<T_MATL_D>& records) const { return list(Table::MATL, keys, records); }
-    int GetPisdList(std::vector<zel::Key>& keys, std::vector<T_PISD_D>& records) const { return list(Table::PISD, keys, records); }
-    int GetSectList(std::vector<zel::Key>& keys, std::vector<T_SECT_D>& records) const { return list(Table::SECT, keys, records); }
-    int GetSosdList(std::vector<zel::Key>& keys, std::vector<T_SOSD_D>& records) const { return list(Table::SOSD, keys, records); }
-    int GetThikList(std::vector<zel::Key>& keys, std::vector<T_THIK_D>& records) const { return list(Table::THIK, keys, records); }
-    int GetWasdList(std::vector<zel::Key>& keys, std::vector<T_WASD_D>& records) const { return list(Table::WASD, keys, records); }
+    int GetArldList(std::vector<zel::Key>& keys, std::vector<T_ARLD_D>& records) const { return list(keys, records); }
+    int GetCosdList(std::vector<zel::Key>& keys, std::vector<T_COSD_D>& records) const { return list(keys, records); }
+    int GetGspdList(std::vector<zel::Key>& keys, std::vector<T_GSPD_D>& records) const { return list(keys, records); }
+    int GetLnldList(std::vector<zel::Key>& keys, std::vector<T_LNLD_D>& records) const { return list(keys, records); }
+    int GetMatlList(std::vector<zel::Key>& keys, std::vector<T_MATL_D>& records) const { return list(keys, records); }
+    int GetPisdList(std::vector<zel::Key>& keys, std::vector<T_PISD_D>& records) const { return list(keys, records); }
+    int GetSectList(std::vector<zel::Key>& keys, std::vector<T_SECT_D>& records) const { return list(keys, records); }
+    int GetSosdList(std::vector<zel::Key>& keys, std::vector<T_SOSD_D>& records) const { return list(keys, records); }
+    int GetThikList(std::vector<zel::Key>& keys, std::vector<T_THIK_D>& records) const { return list(keys, records); }
+    int GetWasdList(std::vector<zel::Key>& keys, std::vector<T_WASD_D>& records) const { return list(keys, records); }
     /// The static load cases of the file that was read last.
-    int GetStldList(std::vector<zel::Key>& keys, std::vector<T_STLD_D>& records) const { return list(Table::STLD, keys, records); }
+    int GetStldList(std::vector<zel::Key>& keys, std::vector<T_STLD_D>& records) const { return list(keys, records); }
 
 private:
     using Rows = std::map<zel::Key, zel::RecordPtr>;
 
-    int import(const CString& path, Table table);
+    int import(const CString& path, const zel::TableInfo& table);
 
-    template <class Record> int list(Table table, std::vector<zel::Key>& keys, std::vector<Record>& records) const
+    template <class Record> int list(std::vector<zel::Key>& keys, std::vector<Record>& records) const
     {
         keys.clear();
         records.clear();
-        const auto found = m_read.find(table);
+        const auto found = m_read.find(zel::tableOfRecord<Record>().table);
         if (found == m_read.end())
             return 0;
         for (const auto& [key, record] : found->second) {

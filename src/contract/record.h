@@ -140,10 +140,16 @@ template <class T> const ListOperations* listOperations()
     return &operations;
 }
 
+/// Where a member lies in its record [bytes]. It is measured on an object, so no record needs to be standard-layout.
+template <class Record, class Member> std::size_t offsetOf(const Record& sample, Member Record::*member)
+{
+    return static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(sample.*member)) - reinterpret_cast<const std::byte*>(&sample));
+}
+
 /// Collects the fields of one record type; the visitor of `describe`.
 template <class Record> struct Describer {
     RecordInfo& info;
-    const Record& sample;  // offsets are measured on an object, so no record needs to be standard-layout
+    const Record& sample;
 
     template <class Member> void operator()(std::string_view name, Member Record::*member, int unit = Unit::none)
     {
@@ -153,7 +159,7 @@ template <class Record> struct Describer {
         field.type = fieldType<Element>();
         field.shape = Shape<Member>::shape;
         field.unit = unit;
-        field.offset = static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(sample.*member)) - reinterpret_cast<const std::byte*>(&sample));
+        field.offset = offsetOf(sample, member);
         field.count = Shape<Member>::count;
         field.stride = sizeof(Element);
         if constexpr (fieldType<Element>() == FieldType::record)
@@ -190,6 +196,17 @@ template <class Record> const RecordInfo& describe()
         return made;
     }();
     return info;
+}
+
+/// The description of a member of a record; null for one that `visit` leaves out.
+template <class Record, class Member> const FieldInfo* fieldOf(Member Record::*member)
+{
+    const std::size_t offset = detail::offsetOf(Record{}, member);
+    for (const FieldInfo& field : describe<Record>().fields) {
+        if (field.offset == offset)
+            return &field;
+    }
+    return nullptr;
 }
 
 }  // namespace zel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/document.h"
+#include "contract/table_list.h"
 #include "contract/table_store.h"
 
 #include <memory>
@@ -9,7 +10,7 @@
 /// What all table handles have in common.
 class CDBData {
 public:
-    explicit CDBData(Table table) : m_table(CDBDoc::GetDocPoint()->table(table)) {}
+    explicit CDBData(const zel::TableInfo& info) : m_table(CDBDoc::GetDocPoint()->table(info.table)) {}
 
 protected:
     [[nodiscard]] zel::ITable& store() const { return m_table; }
@@ -103,9 +104,9 @@ using TablePosition = zel::Key;
 
 /// A light handle on one table: made on the stack where needed, any number at one time, all seeing the same data.
 /// Records are copied in and out; nothing points into the table. `int` results are 0 for failure.
-template <class Record, Table Id, Ops operations> class CTable : public CDBData {
+template <class Record, Ops operations> class CTable : public CDBData {
 public:
-    CTable() : CDBData(Id) {}
+    CTable() : CDBData(zel::tableOfRecord<Record>()) {}
 
     zel::Key currentKey = 0;
     Record currentRecord{};
@@ -313,9 +314,21 @@ private:
     }
 };
 
-/// The public update codes of a table with all four of them.
+/// The table of a handle type.
+namespace zel {
+
+template <class Handle> Table tableOfHandle()
+{
+    return tableOfRecord<decltype(Handle::currentRecord)>().table;
+}
+
+}  // namespace zel
+
+/// The public update codes of a handle; the registry gives them their numbers.
+#define ZEL_ADD_AND_DELETE_CODES(CODE)                                                                                                                         \
+    static const int UR_##CODE##_ADD;                                                                                                                          \
+    static const int UR_##CODE##_DEL;
 #define ZEL_UPDATE_CODES(CODE)                                                                                                                                 \
-    static constexpr int UR_##CODE##_ADD = zel::updateCode(Table::CODE, zel::Change::added);                                                                   \
-    static constexpr int UR_##CODE##_DEL = zel::updateCode(Table::CODE, zel::Change::deleted);                                                                 \
-    static constexpr int UR_##CODE##_MFD = zel::updateCode(Table::CODE, zel::Change::modified);                                                                \
-    static constexpr int UR_##CODE##_MFS = zel::updateCode(Table::CODE, zel::Change::modifiedFrom);
+    ZEL_ADD_AND_DELETE_CODES(CODE)                                                                                                                             \
+    static const int UR_##CODE##_MFD;                                                                                                                          \
+    static const int UR_##CODE##_MFS;

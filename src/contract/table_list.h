@@ -1,29 +1,16 @@
 #pragma once
 
-#include "contract/record.h"
-
 #include <cstdint>
 #include <span>
 #include <string_view>
 
-/// The tables of the model, in the order that gives each its update codes. A code and its place are permanent: they stand
-/// in files and journals. A new table goes to the end.
-// clang-format off
-enum class Table : std::int32_t {
-    STLD, LCOM, ENVL, SPDI, LNLD, ARLD, THFC, THLD,
-    MATL, SECT, THIK, SECF, THKF,
-    COSD, PISD, WASD, SOSD, GSPD,
-    WKAR, WDIR,
-    SLCF, SIFT, LCUG, LCWD, LCOE, SURS, LTOM, EIGV, MCTL, ACTL, CSDD, PJCF,
-    PONT, LINE, AREA, BEAM, SLAB, OPEN, MSLN, COSA, PISA, WASA, SOSA, BRLS, OFFS, SRLS, COIF, GDLN, NUCS, GRUP,
-    OMAS, PTLA, SPDP, LNLA, ARLA, THPL,
-    NODE, ELEM,
-};
-// clang-format on
-
-inline constexpr int tableCount = static_cast<int>(Table::ELEM) + 1;
+/// A table of the model; the enumerators stand in table.h.
+enum class Table : std::int32_t;
 
 namespace zel {
+
+struct FieldInfo;
+struct RecordInfo;
 
 /// The kinds of change that a notice tells, as offsets to a table's first update code.
 enum class Change : std::int32_t { added = 0, deleted = 1, modified = 2, modifiedFrom = 3 };
@@ -35,6 +22,10 @@ constexpr std::int32_t updateCode(Table table, Change change)
 {
     return firstUpdateCode + 4 * static_cast<std::int32_t>(table) + static_cast<std::int32_t>(change);
 }
+
+/// Design kinds of a kinded table: 1 general, 2 steel, 3 concrete, 4 footing, 5 SRC.
+inline constexpr int firstDesignKind = 1;
+inline constexpr int lastDesignKind = 5;
 
 enum class TableShape {
     keyed,   ///< any number of records, each under a key
@@ -55,17 +46,21 @@ enum class Codes { none, addAndDelete, all };
 
 /// One table of the model: what it holds and which rules its records obey.
 struct TableInfo {
-    Table table;
+    Table table{};
     std::string_view code;  ///< four letters; name of the SQL table and of the JSON member
     std::string_view noun;  ///< of one record, for messages and the Undo menu: "static load case"
-    const RecordInfo* record;
+    const RecordInfo* record = nullptr;
     TableShape shape = TableShape::keyed;
     NameRule names = NameRule::none;
     Codes codes = Codes::none;
-    std::string_view sequenceField;  ///< field that holds the 1-based place in the sequence; empty: sequence is key order
-    std::string_view keyField;       ///< field that repeats the key; empty: none
-    std::string_view kindField;      ///< field that repeats the design kind; empty: none
+    const FieldInfo* nameField = nullptr;      ///< null: the records have no name
+    const FieldInfo* sequenceField = nullptr;  ///< holds the 1-based place in the sequence; null: sequence is key order
+    const FieldInfo* keyField = nullptr;       ///< repeats the key; null: none
+    const FieldInfo* kindField = nullptr;      ///< repeats the design kind; null: none
 };
+
+/// The kinds whose records a table holds apart: the design kinds, or 0 alone.
+std::span<const int> kindsOf(const TableInfo& table);
 
 /// All tables, in the order of `Table`.
 std::span<const TableInfo> tableList();
@@ -77,5 +72,8 @@ inline const TableInfo& tableInfo(Table table)
 
 /// The table of that four-letter code; null if there is none.
 const TableInfo* findTable(std::string_view code);
+
+/// The table of a record type. It is found where all are known, so that a handle depends on its own table alone.
+template <class Record> const TableInfo& tableOfRecord();
 
 }  // namespace zel

@@ -4,6 +4,8 @@
 #include "contract/forms/find_control.h"
 #include "contract/forms/row_numbers.h"
 
+#include <nlohmann/json.hpp>
+
 namespace zel {
 
 namespace {

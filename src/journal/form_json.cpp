@@ -3,6 +3,8 @@
 #include "contract/forms/control.h"
 #include "contract/forms/field_writer.h"
 
+#include <nlohmann/json.hpp>
+
 namespace zel {
 
 namespace {

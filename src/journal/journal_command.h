@@ -4,6 +4,7 @@
 #include "contract/table_store.h"
 #include "platform/modeldb/json_text.h"
 
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -3,6 +3,8 @@
 #include "contract/notices.h"
 #include "journal/notice_json.h"
 
+#include <nlohmann/json.hpp>
+
 namespace zel {
 
 Json openedEvent(const CDialog& dialog)

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <iosfwd>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 #include <vector>

@@ -2,6 +2,7 @@
 
 #include "platform/modeldb/json_text.h"
 
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 #include <utility>

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <functional>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 #include <utility>
@@ -174,7 +175,7 @@ Json deleteRecords(const TableCommand& on)
 
 Json changeSequence(const TableCommand& on)
 {
-    if (on.info().sequenceField.empty())
+    if (on.info().sequenceField == nullptr)
         throw JsonFault("op", on.code() + " has no sequence of its own; it stands in the order of its keys");
     Key after = 0;
     if (on.command.has("after") && on.command.at("after") != Json(0))

@@ -3,6 +3,7 @@
 #include "contract/table_list.h"
 
 #include <array>
+#include <nlohmann/json.hpp>
 #include <string>
 
 namespace zel {

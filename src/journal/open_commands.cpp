@@ -7,11 +7,13 @@
 #include "contract/forms/db_dlg_base.h"
 #include "contract/forms/dialog.h"
 #include "contract/nearest.h"
+#include "contract/record.h"
 #include "platform/modeldb/record_json.h"
 
 #include <algorithm>
 #include <limits>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 

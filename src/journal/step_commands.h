@@ -4,6 +4,7 @@
 #include "contract/forms/grid_browser.h"
 #include "platform/modeldb/json_text.h"
 
+#include <nlohmann/json.hpp>
 #include <utility>
 
 namespace zel {

@@ -5,6 +5,7 @@
 #include "contract/document.h"
 #include "contract/load_db.h"
 #include "contract/number_text.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 

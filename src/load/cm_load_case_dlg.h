@@ -2,7 +2,6 @@
 
 #include "command/model_listener.h"
 #include "contract/forms/forms.h"
-#include "contract/tables/load_tables.h"
 #include "load/cm_load_case_grid.h"
 
 /// Static Load Cases: a form above the list of the load cases. Each action writes at once, so there is nothing to confirm or to

@@ -2,7 +2,7 @@
 
 #include "contract/forms/grid_common.h"
 #include "contract/notices.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 
 class CCMLoadCaseDlg;
 

@@ -1,5 +1,7 @@
 #include "load/cmd_set_ortho_lc_dlg.h"
 
+#include "contract/tables/static_load_case_table.h"
+
 #include <algorithm>
 
 namespace {

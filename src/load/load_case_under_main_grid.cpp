@@ -3,6 +3,7 @@
 #include "command/load_cases.h"
 #include "command/messages.h"
 #include "contract/number_text.h"
+#include "contract/tables/static_load_case_table.h"
 #include "load/load_case_underground_dlg.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 #include "command/load_cases.h"
 #include "command/messages.h"
 #include "contract/messages.h"
+#include "contract/tables/static_load_case_table.h"
 #include "load/under_seis_factor.h"
 
 namespace {

@@ -1,5 +1,7 @@
 #include "load/load_case_wind_direct_dlg.h"
 
+#include "contract/tables/static_load_case_table.h"
+
 #include <algorithm>
 #include <cmath>
 

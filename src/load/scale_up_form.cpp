@@ -1,7 +1,7 @@
 #include "load/scale_up_form.h"
 
 #include "command/messages.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 

@@ -2,6 +2,8 @@
 
 #include "command/set_dialog.h"
 
+#include "contract/tables/static_load_case_table.h"
+
 namespace zel {
 
 /// What the two dialogs of factors for seismic design have in common: the over-strength factors of the load cases of type "E".

@@ -3,7 +3,7 @@
 #include "command/guarded.h"
 #include "command/messages.h"
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "object_style/combination_report.h"
 #include "object_style/owned_objects.h"
 

@@ -1,7 +1,7 @@
 #include "command/model_listener.h"
 #include "command/view_buffer.h"
 #include "contract/tables/load_set_tables.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "platform/modeldb/model_document.h"
 
 #include <gmock/gmock.h>

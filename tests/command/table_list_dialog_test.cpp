@@ -1,6 +1,6 @@
 #include "command/table_list_dialog.h"
+#include "contract/tables/displacement_table.h"
 #include "contract/tables/dynamic_tables.h"
-#include "contract/tables/load_tables.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/modeldb/model_document.h"
 

@@ -15,6 +15,7 @@
 #include <QTimer>
 
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 namespace desktop_test {

@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTemporaryDir>
+#include <nlohmann/json.hpp>
 
 namespace desktop_test {
 

@@ -2,7 +2,7 @@
 
 #include "build_paths.h"
 #include "command/command.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "desktop/forms/text.h"
 #include "desktop/host/model_exchange.h"
 #include "desktop/host/recent_files.h"

@@ -2,7 +2,7 @@
 
 #include "command/command.h"
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <QDropEvent>
 #include <QLineEdit>

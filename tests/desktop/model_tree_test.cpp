@@ -4,7 +4,7 @@
 #include "desktop/views/model_views.h"
 
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/view_ctrl.h"
 #include "desktop/forms/text.h"
 

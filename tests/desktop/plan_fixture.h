@@ -3,6 +3,7 @@
 #include "contract/records/area.h"
 #include "contract/records/line.h"
 #include "contract/records/pont.h"
+#include "contract/table.h"
 #include "contract/table_handle.h"
 #include "contract/view_ctrl.h"
 #include "desktop/desktop_fixture.h"

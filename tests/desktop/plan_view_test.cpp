@@ -1,6 +1,7 @@
 #include "desktop/plan_fixture.h"
 #include "desktop/views/plan_frame.h"
 
+#include "contract/table.h"
 #include "contract/units.h"
 
 #include <QElapsedTimer>

@@ -2,7 +2,6 @@
 #include "desktop/form_checks.h"
 #include "desktop/sample_dialogs.h"
 
-#include "contract/tables/load_tables.h"
 #include "journal/dialog_commands.h"
 
 #include <QApplication>

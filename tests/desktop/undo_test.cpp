@@ -1,7 +1,7 @@
 #include "desktop/files_fixture.h"
 
 #include "command/command.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/view_ctrl.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
 #include "contract/forms/forms.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/view_ctrl.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/modeldb/model_document.h"

@@ -4,6 +4,7 @@
 #include "platform/modeldb/model_document.h"
 
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <vector>

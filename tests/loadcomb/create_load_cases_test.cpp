@@ -1,6 +1,8 @@
 #include "command/command.h"
 #include "contract/records/all.h"
+#include "contract/table.h"
 #include "contract/tables/load_combination_table.h"
+#include "contract/tables/load_type_tables.h"
 #include "load/dialog_test.h"
 
 namespace zel::test {

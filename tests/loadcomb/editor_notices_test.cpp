@@ -1,5 +1,7 @@
 #include "loadcomb/editor_fixture.h"
 
+#include "contract/table.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <functional>

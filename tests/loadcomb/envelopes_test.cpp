@@ -1,4 +1,5 @@
 #include "command/command.h"
+#include "contract/tables/envelope_table.h"
 #include "contract/tables/load_combination_table.h"
 #include "load/dialog_test.h"
 

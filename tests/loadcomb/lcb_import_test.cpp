@@ -1,7 +1,7 @@
 #include "loadcomb/editor/lcb_import.h"
 
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "modeldb/model_fixture.h"
 
 #include <gmock/gmock.h>

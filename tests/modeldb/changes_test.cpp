@@ -1,7 +1,9 @@
+#include "contract/table.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"
 #include "contract/tables/model_tables.h"
 #include "contract/tables/property_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/view_ctrl.h"
 #include "model_fixture.h"
 

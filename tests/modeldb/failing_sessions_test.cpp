@@ -1,3 +1,4 @@
+#include "contract/tables/load_type_tables.h"
 #include "contract/units.h"
 #include "failing_disk.h"
 #include "model_fixture.h"

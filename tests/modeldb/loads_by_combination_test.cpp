@@ -1,5 +1,7 @@
 #include "contract/records/all.h"
+#include "contract/table.h"
 #include "contract/tables/load_combination_table.h"
+#include "contract/tables/static_load_case_table.h"
 #include "model_fixture.h"
 
 namespace zel::test {

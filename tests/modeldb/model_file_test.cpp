@@ -1,8 +1,10 @@
 #include "contract/import_file.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"
+#include "contract/tables/load_type_tables.h"
 #include "contract/tables/model_tables.h"
 #include "contract/tables/property_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "model_fixture.h"
 #include "modeldb/full_disk.h"
 #include "platform/modeldb/file_format.h"
@@ -135,7 +137,7 @@ void fill(const FlatLayout& layout, void* record, int& next)
 
 TEST_F(ModelFiles, EveryFieldOfEveryRecordSurvives)
 {
-    std::vector<RecordPtr> written(tableCount);
+    std::vector<RecordPtr> written(tableList().size());
     {
         const auto model = ModelDocument::create(path);
         int next = 0;

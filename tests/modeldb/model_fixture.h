@@ -1,7 +1,7 @@
 #pragma once
 
 #include "contract/notices.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/messages/message_catalogue.h"
 #include "platform/modeldb/model_document.h"

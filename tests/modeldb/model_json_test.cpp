@@ -1,13 +1,15 @@
 #include "modeldb/model_text.h"
 #include "platform/modeldb/model_json.h"
 
+#include "contract/table.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"
-#include "contract/tables/load_tables.h"
 #include "contract/tables/model_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "platform/modeldb/model_document.h"
 #include "platform/modeldb/record_json.h"
 
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 

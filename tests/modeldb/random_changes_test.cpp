@@ -1,4 +1,5 @@
 #include "contract/tables/load_combination_table.h"
+#include "contract/tables/static_load_case_table.h"
 #include "model_fixture.h"
 
 #include <algorithm>

@@ -1,8 +1,13 @@
+#include "contract/record.h"
+#include "contract/table.h"
+#include "contract/tables/displacement_table.h"
 #include "contract/tables/dynamic_tables.h"
+#include "contract/tables/envelope_table.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"
 #include "contract/tables/model_tables.h"
 #include "contract/tables/property_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/tables/support_tables.h"
 #include "model_fixture.h"
 
@@ -431,7 +436,45 @@ TEST(TableHandles, OfferTheirOwnOperationsAndNoOthers)
     static_assert(!DeletesByKey<CDataStld> && Reorders<CDataStld>);
     static_assert(DeletesByKey<CDataMatl> && !Reorders<CDataMatl>);
     static_assert(AddsCurrent<CDataMctl> && !AddsCurrent<CDataSlcf>);
-    static_assert(CDataStld::UR_STLD_ADD == 1000 && CDataStld::UR_STLD_MFS == 1003 && CDataLcom::UR_LCOM_ADD == 1004);
+}
+
+TEST(TableHandles, HaveTheUpdateCodesOfTheirPlace)
+{
+    EXPECT_EQ(CDataStld::UR_STLD_ADD, 1000);
+    EXPECT_EQ(CDataStld::UR_STLD_DEL, 1001);
+    EXPECT_EQ(CDataStld::UR_STLD_MFD, 1002);
+    EXPECT_EQ(CDataStld::UR_STLD_MFS, 1003);
+    EXPECT_EQ(CDataLcom::UR_LCOM_ADD, 1004);
+    EXPECT_EQ(CDataSift::UR_SIFT_DEL, 1085);
+    EXPECT_EQ(CDataGrup::UR_GRUP_MFS, 1199);
+}
+
+TEST(TableList, KeepsThePlacesThatFilesAndJournalsRelyOn)
+{
+    const std::vector<std::string_view> places{
+        "STLD", "LCOM", "ENVL", "SPDI", "LNLD", "ARLD", "THFC", "THLD", "MATL", "SECT", "THIK", "SECF", "THKF", "COSD", "PISD",
+        "WASD", "SOSD", "GSPD", "WKAR", "WDIR", "SLCF", "SIFT", "LCUG", "LCWD", "LCOE", "SURS", "LTOM", "EIGV", "MCTL", "ACTL",
+        "CSDD", "PJCF", "PONT", "LINE", "AREA", "BEAM", "SLAB", "OPEN", "MSLN", "COSA", "PISA", "WASA", "SOSA", "BRLS", "OFFS",
+        "SRLS", "COIF", "GDLN", "NUCS", "GRUP", "OMAS", "PTLA", "SPDP", "LNLA", "ARLA", "THPL", "NODE", "ELEM",
+    };
+    ASSERT_GE(tableList().size(), places.size());
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        EXPECT_EQ(tableList()[i].code, places[i]);
+        EXPECT_EQ(static_cast<std::size_t>(tableList()[i].table), i) << places[i];
+    }
+}
+
+TEST(TableList, KnowsTheFieldsThatTheTablesKeep)
+{
+    const auto name = [](const FieldInfo* field) { return field != nullptr ? field->name : std::string_view(); };
+    EXPECT_EQ(name(tableInfo(Table::STLD).nameField), "name");
+    EXPECT_EQ(name(tableInfo(Table::STLD).sequenceField), "no");
+    EXPECT_EQ(name(tableInfo(Table::LCOM).sequenceField), "number");
+    EXPECT_EQ(name(tableInfo(Table::LCOM).kindField), "kind");
+    EXPECT_EQ(name(tableInfo(Table::WKAR).keyField), "key");
+    EXPECT_EQ(name(tableInfo(Table::PONT).nameField), "");
+    for (const TableInfo& table : tableList())
+        EXPECT_EQ(table.names == NameRule::none, table.nameField == nullptr) << table.code;
 }
 
 }  // namespace zel::test

@@ -1,6 +1,8 @@
 #include "contract/init_ctrl.h"
+#include "contract/table.h"
 #include "contract/tables/dynamic_tables.h"
 #include "contract/tables/model_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/units.h"
 #include "model_fixture.h"
 

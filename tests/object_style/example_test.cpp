@@ -1,6 +1,8 @@
 #include "object_style/fixture.h"
 
 #include "build_paths.h"
+#include "contract/tables/load_combination_table.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <cstdlib>
 #include <sys/wait.h>

@@ -1,5 +1,7 @@
 #include "object_style/fixture.h"
 
+#include "contract/tables/static_load_case_table.h"
+
 namespace {
 
 using zel::test::Lines;

@@ -1,6 +1,6 @@
 #include "contract/forms/select_lc.h"
 
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 
 CSelectLC::CSelectLC(const zel::Place& place, std::string_view id, CString label, zel::Action<> onSelect)
     : CComboBox(place, id, std::move(label), std::move(onSelect))

@@ -15,7 +15,7 @@ public:
     /// Items that one combination may gain by `Merge`.
     static constexpr int mergeLimit = 50;
 
-    CDataLcom() : CDBData(Table::LCOM) {}
+    CDataLcom() : CDBData(zel::tableOfRecord<T_LCOM_D>()) {}
 
     zel::Key currentKey = 0;
     T_LCOM_D currentRecord{};

@@ -36,7 +36,7 @@
 // The model itself: objects, assignments and control data. The commands only read or count most of them.
 
 /// Domains.
-class CDataWkar : public CTable<T_WKAR_D, Table::WKAR,
+class CDataWkar : public CTable<T_WKAR_D,
                                 Op::GetCount | Op::Initialize | Op::GetKeyList | Op::GetList | Op::GetNameList | Op::GetByKey | Op::GetByName | Op::ExistName |
                                     Op::AddRecord | Op::ModifyByKey | Op::DelKey> {
 public:
@@ -44,33 +44,25 @@ public:
 };
 
 /// Major directions of walls, under the keys of their lines.
-class CDataWdir : public CTable<T_WDIR_D, Table::WDIR, Op::GetCount | Op::Initialize | Op::GetKeyList | Op::GetList | Op::AddForKeys | Op::DelKeys> {
+class CDataWdir : public CTable<T_WDIR_D, Op::GetCount | Op::Initialize | Op::GetKeyList | Op::GetList | Op::AddForKeys | Op::DelKeys> {
 public:
     ZEL_UPDATE_CODES(WDIR)
 };
 
 /// Model control data.
-class CDataMctl : public CTable<T_MCTL_D, Table::MCTL, Op::GetSingle | Op::AddCurrent | Op::ModifySingle | Op::GetCount | Op::Initialize> {
-public:
-};
+class CDataMctl : public CTable<T_MCTL_D, Op::GetSingle | Op::AddCurrent | Op::ModifySingle | Op::GetCount | Op::Initialize> {};
 
 /// Main control data.
-class CDataActl : public CTable<T_ACTL_D, Table::ACTL, Op::GetSingle | Op::AddCurrent | Op::ModifySingle | Op::GetCount | Op::Initialize> {
-public:
-};
+class CDataActl : public CTable<T_ACTL_D, Op::GetSingle | Op::AddCurrent | Op::ModifySingle | Op::GetCount | Op::Initialize> {};
 
 /// Strip design control data. Modify also stores the first record.
-class CDataCsdd : public CTable<T_CSDD_D, Table::CSDD, Op::GetSingle | Op::ModifySingle | Op::GetCount | Op::Initialize> {
-public:
-};
+class CDataCsdd : public CTable<T_CSDD_D, Op::GetSingle | Op::ModifySingle | Op::GetCount | Op::Initialize> {};
 
 /// Project information.
-class CDataPjcf : public CTable<T_PJCF_D, Table::PJCF, Op::GetSingle | Op::AddCurrent | Op::GetCount | Op::Initialize> {
-public:
-};
+class CDataPjcf : public CTable<T_PJCF_D, Op::GetSingle | Op::AddCurrent | Op::GetCount | Op::Initialize> {};
 
 /// Points. `Get` with a position copies the three coordinates out.
-class CDataPont : public CTable<T_PONT_D, Table::PONT, Op::GetCount | Op::GetLargeKey | Op::GetKeyList | Op::GetByKey | Op::Initialize> {
+class CDataPont : public CTable<T_PONT_D, Op::GetCount | Op::GetLargeKey | Op::GetKeyList | Op::GetByKey | Op::Initialize> {
 public:
     using CTable::Get;
 
@@ -84,119 +76,79 @@ public:
 };
 
 /// Lines.
-class CDataLine : public CTable<T_LINE_D, Table::LINE, Op::GetCount | Op::GetLargeKey | Op::GetKeyList | Op::GetByKey> {
-public:
-};
+class CDataLine : public CTable<T_LINE_D, Op::GetCount | Op::GetLargeKey | Op::GetKeyList | Op::GetByKey> {};
 
 /// Areas.
-class CDataArea : public CTable<T_AREA_D, Table::AREA, Op::GetCount | Op::GetLargeKey | Op::GetKeyList | Op::GetByKey> {
-public:
-};
+class CDataArea : public CTable<T_AREA_D, Op::GetCount | Op::GetLargeKey | Op::GetKeyList | Op::GetByKey> {};
 
 /// Groups of objects.
-class CDataGrup : public CTable<T_GRUP_D, Table::GRUP, Op::GetCount | Op::GetList | Op::GetByKey> {
+class CDataGrup : public CTable<T_GRUP_D, Op::GetCount | Op::GetList | Op::GetByKey> {
 public:
     ZEL_UPDATE_CODES(GRUP)
 };
 
 /// Beams.
-class CDataBeam : public CTable<T_BEAM_D, Table::BEAM, Op::GetCount | Op::GetList | Op::GetByKey> {
+class CDataBeam : public CTable<T_BEAM_D, Op::GetCount | Op::GetList | Op::GetByKey> {
 public:
     ZEL_UPDATE_CODES(BEAM)
 };
 
 /// Slabs.
-class CDataSlab : public CTable<T_SLAB_D, Table::SLAB, Op::GetCount | Op::GetList | Op::GetByKey> {
+class CDataSlab : public CTable<T_SLAB_D, Op::GetCount | Op::GetList | Op::GetByKey> {
 public:
     ZEL_UPDATE_CODES(SLAB)
 };
 
 /// Openings.
-class CDataOpen : public CTable<T_OPEN_D, Table::OPEN, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataOpen : public CTable<T_OPEN_D, Op::GetCount | Op::GetByKey> {};
 
 /// Mesh line dimensions.
-class CDataMsln : public CTable<T_MSLN_D, Table::MSLN, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataMsln : public CTable<T_MSLN_D, Op::GetCount | Op::GetByKey> {};
 
 /// Column supports, assigned to points.
-class CDataCosa : public CTable<T_COSA_D, Table::COSA, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataCosa : public CTable<T_COSA_D, Op::GetCount | Op::GetByKey> {};
 
 /// Pile supports, assigned to points.
-class CDataPisa : public CTable<T_PISA_D, Table::PISA, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataPisa : public CTable<T_PISA_D, Op::GetCount | Op::GetByKey> {};
 
 /// Wall supports, assigned to lines.
-class CDataWasa : public CTable<T_WASA_D, Table::WASA, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataWasa : public CTable<T_WASA_D, Op::GetCount | Op::GetByKey> {};
 
 /// Soil supports, assigned to areas.
-class CDataSosa : public CTable<T_SOSA_D, Table::SOSA, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataSosa : public CTable<T_SOSA_D, Op::GetCount | Op::GetByKey> {};
 
 /// Beam end releases.
-class CDataBrls : public CTable<T_BRLS_D, Table::BRLS, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataBrls : public CTable<T_BRLS_D, Op::GetCount | Op::GetByKey> {};
 
 /// Beam end offsets.
-class CDataOffs : public CTable<T_OFFS_D, Table::OFFS, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataOffs : public CTable<T_OFFS_D, Op::GetCount | Op::GetByKey> {};
 
 /// Slab end releases.
-class CDataSrls : public CTable<T_SRLS_D, Table::SRLS, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataSrls : public CTable<T_SRLS_D, Op::GetCount | Op::GetByKey> {};
 
 /// Punching check sizes.
-class CDataCoif : public CTable<T_COIF_D, Table::COIF, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataCoif : public CTable<T_COIF_D, Op::GetCount | Op::GetByKey> {};
 
 /// Grid lines.
-class CDataGdln : public CTable<T_GDLN_D, Table::GDLN, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataGdln : public CTable<T_GDLN_D, Op::GetCount | Op::GetByKey> {};
 
 /// Named coordinate systems.
-class CDataNucs : public CTable<T_NUCS_D, Table::NUCS, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataNucs : public CTable<T_NUCS_D, Op::GetCount | Op::GetByKey> {};
 
 /// Point loads.
-class CDataPtla : public CTable<T_PTLA_D, Table::PTLA, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataPtla : public CTable<T_PTLA_D, Op::GetCount | Op::GetByKey> {};
 
 /// Specified displacements.
-class CDataSpdp : public CTable<T_SPDP_D, Table::SPDP, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataSpdp : public CTable<T_SPDP_D, Op::GetCount | Op::GetByKey> {};
 
 /// Line loads, assigned to lines.
-class CDataLnla : public CTable<T_LNLA_D, Table::LNLA, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataLnla : public CTable<T_LNLA_D, Op::GetCount | Op::GetByKey> {};
 
 /// Area loads, assigned to areas.
-class CDataArla : public CTable<T_ARLA_D, Table::ARLA, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataArla : public CTable<T_ARLA_D, Op::GetCount | Op::GetByKey> {};
 
 /// Dynamic point loads.
-class CDataThpl : public CTable<T_THPL_D, Table::THPL, Op::GetCount | Op::GetByKey> {
-public:
-};
+class CDataThpl : public CTable<T_THPL_D, Op::GetCount | Op::GetByKey> {};
 
 /// Masses; the type of each says whether it is of a point, a line or an area.
-class CDataOmas : public CTable<T_OMAS_D, Table::OMAS, Op::GetCount | Op::Iterate> {
-public:
-};
+class CDataOmas : public CTable<T_OMAS_D, Op::GetCount | Op::Iterate> {};

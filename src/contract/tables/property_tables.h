@@ -10,7 +10,7 @@
 // Materials, sections and thicknesses.
 
 /// Materials.
-class CDataMatl : public CTable<T_MATL_D, Table::MATL,
+class CDataMatl : public CTable<T_MATL_D,
                                 Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey |
                                     Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
 public:
@@ -18,7 +18,7 @@ public:
 };
 
 /// Sections.
-class CDataSect : public CTable<T_SECT_D, Table::SECT,
+class CDataSect : public CTable<T_SECT_D,
                                 Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey |
                                     Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
 public:
@@ -26,7 +26,7 @@ public:
 };
 
 /// Slab thicknesses.
-class CDataThik : public CTable<T_THIK_D, Table::THIK,
+class CDataThik : public CTable<T_THIK_D,
                                 Op::GetCount | Op::GetLargeKey | Op::GetNewKey | Op::GetNewKeyAfter | Op::GetByKey | Op::GetList | Op::GetKeyList | Op::AddKey |
                                     Op::AddKeys | Op::ModifyByKey | Op::DelKey | Op::Initialize> {
 public:
@@ -34,11 +34,7 @@ public:
 };
 
 /// Section stiffness scale factors.
-class CDataSecf : public CTable<T_SECF_D, Table::SECF, Op::GetCount | Op::GetList | Op::GetByKey | Op::AddForKeys | Op::DelKeys> {
-public:
-};
+class CDataSecf : public CTable<T_SECF_D, Op::GetCount | Op::GetList | Op::GetByKey | Op::AddForKeys | Op::DelKeys> {};
 
 /// Thickness stiffness scale factors.
-class CDataThkf : public CTable<T_THKF_D, Table::THKF, Op::GetCount | Op::GetList | Op::GetByKey | Op::AddForKeys | Op::DelKeys> {
-public:
-};
+class CDataThkf : public CTable<T_THKF_D, Op::GetCount | Op::GetList | Op::GetByKey | Op::AddForKeys | Op::DelKeys> {};

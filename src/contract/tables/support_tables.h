@@ -10,7 +10,7 @@
 // Support types.
 
 /// Column support types.
-class CDataCosd : public CTable<T_COSD_D, Table::COSD,
+class CDataCosd : public CTable<T_COSD_D,
                                 Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
                                     Op::DelKey | Op::Initialize> {
 public:
@@ -18,7 +18,7 @@ public:
 };
 
 /// Pile support types.
-class CDataPisd : public CTable<T_PISD_D, Table::PISD,
+class CDataPisd : public CTable<T_PISD_D,
                                 Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
                                     Op::DelKey | Op::Initialize> {
 public:
@@ -26,7 +26,7 @@ public:
 };
 
 /// Wall support types.
-class CDataWasd : public CTable<T_WASD_D, Table::WASD,
+class CDataWasd : public CTable<T_WASD_D,
                                 Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
                                     Op::DelKey | Op::Initialize> {
 public:
@@ -34,7 +34,7 @@ public:
 };
 
 /// Soil support types.
-class CDataSosd : public CTable<T_SOSD_D, Table::SOSD,
+class CDataSosd : public CTable<T_SOSD_D,
                                 Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
                                     Op::DelKey | Op::Initialize> {
 public:
@@ -42,7 +42,7 @@ public:
 };
 
 /// General spring types.
-class CDataGspd : public CTable<T_GSPD_D, Table::GSPD,
+class CDataGspd : public CTable<T_GSPD_D,
                                 Op::GetCount | Op::GetList | Op::GetNameList | Op::GetByKey | Op::ExistName | Op::AddRecord | Op::AddRecords | Op::ModifyByKey |
                                     Op::DelKey | Op::Initialize> {
 public:

@@ -8,6 +8,7 @@
 #include <QSaveFile>
 
 #include <filesystem>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <stdexcept>
 

@@ -2,6 +2,8 @@
 
 #include "contract/document.h"
 #include "contract/load_db.h"
+#include "contract/record.h"
+#include "contract/table.h"
 #include "contract/units.h"
 #include "desktop/forms/text.h"
 

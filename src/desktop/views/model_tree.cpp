@@ -1,6 +1,7 @@
 #include "desktop/views/model_tree.h"
 
 #include "contract/document.h"
+#include "contract/table.h"
 #include "contract/tables/model_tables.h"
 #include "contract/view_ctrl.h"
 #include "desktop/views/model_tree_model.h"

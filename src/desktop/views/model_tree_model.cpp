@@ -1,6 +1,7 @@
 #include "desktop/views/model_tree_model.h"
 
 #include "contract/document.h"
+#include "contract/table.h"
 
 #include <QApplication>
 #include <QFont>

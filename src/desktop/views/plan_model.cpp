@@ -1,6 +1,7 @@
 #include "desktop/views/plan_model.h"
 
 #include "contract/document.h"
+#include "contract/table.h"
 #include "contract/tables/model_tables.h"
 #include "desktop/forms/text.h"
 

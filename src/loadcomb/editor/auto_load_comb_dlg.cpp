@@ -6,6 +6,7 @@
 #include "contract/design_codes.h"
 #include "contract/document.h"
 #include "contract/tables/load_set_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "load/cmd_set_ortho_lc_dlg.h"
 #include "load/dgn_gen_seis_factor.h"
 #include "load/load_case_underground_dlg.h"

@@ -3,7 +3,8 @@
 #include "command/dialog_class.h"
 #include "command/messages.h"
 #include "command/view_buffer.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/load_combination_table.h"
+#include "contract/tables/static_load_case_table.h"
 #include "loadcomb/editor/auto_load_comb_dlg.h"
 #include "loadcomb/editor/lcb_import.h"
 

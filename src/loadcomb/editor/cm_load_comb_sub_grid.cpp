@@ -3,6 +3,7 @@
 #include "command/load_cases.h"
 #include "command/messages.h"
 #include "contract/number_text.h"
+#include "contract/tables/static_load_case_table.h"
 #include "loadcomb/editor/lcomb_editor_rows.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include "contract/forms/edit_unit.h"
 #include "contract/number_text.h"
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/user_interface.h"
 
 #include <algorithm>

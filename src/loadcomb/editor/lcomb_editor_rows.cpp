@@ -3,7 +3,8 @@
 #include "command/messages.h"
 #include "contract/document.h"
 #include "contract/number_text.h"
-#include "contract/tables/load_tables.h"
+#include "contract/table.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 #include <unordered_map>

@@ -1,7 +1,7 @@
 #include "loadcomb/envelopes/cm_envl_item_dlg.h"
 
 #include "command/messages.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/envelope_table.h"
 #include "loadcomb/envelopes/envelope_item.h"
 
 #include <algorithm>

@@ -3,7 +3,9 @@
 #include "command/dialog_class.h"
 #include "command/messages.h"
 #include "command/view_buffer.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/envelope_table.h"
+#include "contract/tables/load_combination_table.h"
+#include "contract/tables/static_load_case_table.h"
 #include "loadcomb/envelopes/cm_envl_item_dlg.h"
 #include "loadcomb/envelopes/envelope_item.h"
 

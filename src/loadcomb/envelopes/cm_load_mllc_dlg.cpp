@@ -3,7 +3,7 @@
 #include "command/dialog_class.h"
 #include "command/messages.h"
 #include "command/view_buffer.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "contract/records/envl.h"
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 #include <array>

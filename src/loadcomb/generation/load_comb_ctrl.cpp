@@ -6,7 +6,7 @@
 #include "contract/messages.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/user_interface.h"
 #include "loadcomb/generation/description.h"
 

@@ -1,6 +1,7 @@
 #include "platform/forms/active_objects.h"
 
 #include "contract/document.h"
+#include "contract/table.h"
 
 #include <algorithm>
 #include <iterator>

@@ -24,14 +24,15 @@ std::map<zel::Key, zel::RecordPtr> rowsOf(zel::ModelFile& file, const zel::Table
 
 }  // namespace
 
-int CImportFile::import(const CString& path, Table table)
+int CImportFile::import(const CString& path, const zel::TableInfo& table)
 {
+    const zel::TableInfo& loadCaseTable = zel::tableOfRecord<T_STLD_D>();
     try {
         zel::ModelFile file(path, zel::ModelFile::Access::readOnly);
-        std::map<zel::Key, zel::RecordPtr> rows = rowsOf(file, zel::tableInfo(table));
-        std::map<zel::Key, zel::RecordPtr> loadCases = rowsOf(file, zel::tableInfo(Table::STLD));
-        m_read[table] = std::move(rows);
-        m_read[Table::STLD] = std::move(loadCases);
+        std::map<zel::Key, zel::RecordPtr> rows = rowsOf(file, table);
+        std::map<zel::Key, zel::RecordPtr> loadCases = rowsOf(file, loadCaseTable);
+        m_read[table.table] = std::move(rows);
+        m_read[loadCaseTable.table] = std::move(loadCases);
         return 1;
     } catch (const zel::FileRefusal& refusal) {
         return zel::refuse(zel::Refusal::fileRead, refusal.what());

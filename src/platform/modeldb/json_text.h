@@ -1,14 +1,13 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
+#include <nlohmann/json_fwd.hpp>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace zel {
 
-/// JSON whose members keep the order in which they were written.
+/// JSON whose members keep the order in which they were written. Who makes or reads one includes <nlohmann/json.hpp>, which takes long.
 using Json = nlohmann::ordered_json;
 
 /// Something in a JSON text that can't be taken. `what()` is the place followed by a sentence: "STLD[3].name: must be a text".

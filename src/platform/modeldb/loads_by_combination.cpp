@@ -1,8 +1,9 @@
 #include "contract/document.h"
 #include "contract/messages.h"
 #include "contract/records/all.h"
+#include "contract/table.h"
 #include "contract/tables/load_combination_table.h"
-#include "contract/tables/load_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/user_interface.h"
 #include "platform/modeldb/record_values.h"
 

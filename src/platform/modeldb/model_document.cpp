@@ -1,5 +1,6 @@
 #include "platform/modeldb/model_document.h"
 
+#include "contract/record.h"
 #include "contract/user_interface.h"
 #include "platform/modeldb/record_values.h"
 #include "platform/modeldb/references.h"
@@ -79,7 +80,7 @@ std::vector<Batch> ModelDocument::everything() const
     std::vector<Batch> batches;
     for (const std::unique_ptr<StoredTable>& table : m_tables) {
         Batch batch{table->info().table, {}};
-        for (const int kind : table->kinds()) {
+        for (const int kind : kindsOf(table->info())) {
             for (const Key key : table->keys(kind))
                 batch.steps.push_back({0, key, kind, nullptr, table->find(kind, key)});
         }
@@ -341,7 +342,7 @@ int ModelDocument::convertModel(const T_UNIT_INDEX& units)
     for (const std::unique_ptr<StoredTable>& table : m_tables) {
         const TableInfo& info = table->info();
         Batch batch{info.table, {}};
-        for (const int kind : hasUnits(info) ? table->kinds() : std::vector<int>()) {
+        for (const int kind : hasUnits(info) ? kindsOf(info) : std::span<const int>()) {
             for (const Key key : table->keys(kind)) {
                 const RecordPtr before = table->find(kind, key);
                 const std::shared_ptr<void> after = info.record->copy(before.get());

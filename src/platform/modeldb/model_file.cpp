@@ -122,7 +122,7 @@ void ModelFile::readChecks()
     Statement statement(*m_database, "select code, row_count, row_hash from " + CString(checkTable));
     while (statement.step())
         m_state.checks[CString(statement.text(0))] = {statement.integer(1), static_cast<std::uint64_t>(statement.integer(2))};
-    if (m_state.checks.size() != static_cast<std::size_t>(tableCount) + 1)
+    if (m_state.checks.size() != tableList().size() + 1)
         throw damaged("its list of tables is not complete");
 }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <limits>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
 #include <unordered_map>
@@ -15,9 +16,6 @@
 namespace zel {
 
 namespace {
-
-constexpr int firstKind = 1;
-constexpr int lastKind = 5;
 
 // Heads
 
@@ -81,7 +79,7 @@ void addRow(const TableInfo& table, const Json& json, std::size_t place, std::ma
 {
     const std::string path = elementPath(std::string(table.code), place);
     JsonRecord read = recordFromJson(table, json, path);
-    const int kind = table.shape == TableShape::kinded && read.kind == 0 ? firstKind : read.kind;
+    const int kind = table.shape == TableShape::kinded && read.kind == 0 ? firstDesignKind : read.kind;
     Reading& reading = kinds[kind];
     if (read.key != 0) {
         const auto [known, fresh] = reading.keys.emplace(read.key, place);
@@ -146,10 +144,9 @@ void printRow(ITable& table, int kind, Key key, std::ostream& out)
 
 void printRows(ITable& table, std::ostream& out)
 {
-    const bool kinded = table.info().shape == TableShape::kinded;
     const char* separator = "\n  ";
     out << "[";
-    for (int kind = kinded ? firstKind : 0; kind <= (kinded ? lastKind : 0); ++kind) {
+    for (const int kind : kindsOf(table.info())) {
         for (const Key key : table.keys(kind)) {
             out << separator;
             printRow(table, kind, key, out);

@@ -1,11 +1,13 @@
 #include "platform/modeldb/record_json.h"
 
 #include "contract/nearest.h"
+#include "contract/record.h"
 #include "contract/table_handle.h"
 
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <nlohmann/json.hpp>
 #include <vector>
 
 namespace zel {
@@ -14,7 +16,6 @@ namespace {
 
 constexpr std::string_view keyMember = "key";
 constexpr std::string_view kindMember = "kind";
-constexpr int kindCount = 5;
 
 /// Longest list that is believed: a limit against texts that would fill the memory many times over.
 constexpr std::size_t listLimit = 10'000'000;
@@ -54,10 +55,10 @@ void append(Json& object, std::string_view name, Json value)
     object.get_ref<Json::object_t&>().push_back({std::string(name), std::move(value)});
 }
 
-void appendFields(Json& object, const RecordInfo& info, const void* record, std::string_view without, std::string_view alsoWithout)
+void appendFields(Json& object, const RecordInfo& info, const void* record, const FieldInfo* without, const FieldInfo* alsoWithout)
 {
     for (const FieldInfo& field : info.fields) {
-        if (field.name != without && field.name != alsoWithout)
+        if (&field != without && &field != alsoWithout)
             append(object, field.name, fieldToJson(field, record));
     }
 }
@@ -147,7 +148,7 @@ void readFields(const Json& json, const RecordInfo& info, void* record, const st
 Json fieldsToJson(const RecordInfo& info, const void* record)
 {
     Json object = Json::object();
-    appendFields(object, info, record, {}, {});
+    appendFields(object, info, record, nullptr, nullptr);
     return object;
 }
 
@@ -192,7 +193,7 @@ Key keyFromJson(const Json& json, const std::string& path)
 
 int kindFromJson(const Json& json, const std::string& path)
 {
-    return static_cast<int>(integerFromJson(json, path, 1, kindCount));
+    return static_cast<int>(integerFromJson(json, path, firstDesignKind, lastDesignKind));
 }
 
 long long integerFromJson(const Json& json, const std::string& path, long long least, long long most)

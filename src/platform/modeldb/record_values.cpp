@@ -37,11 +37,6 @@ bool layoutHasUnits(const FlatLayout& layout)
         std::any_of(layout.lists.begin(), layout.lists.end(), [](const FlatList& list) { return layoutHasUnits(*list.element); });
 }
 
-const FieldInfo* nameField(const TableInfo& table)
-{
-    return table.names == NameRule::none ? nullptr : table.record->find("name");
-}
-
 /// Bytes of a row in a fixed order, gathered for the hash.
 class RowBytes {
 public:
@@ -117,8 +112,7 @@ std::string_view notFiniteField(const TableInfo& table, const void* record)
 const CString& recordName(const TableInfo& table, const void* record)
 {
     static const CString none;
-    const FieldInfo* field = nameField(table);
-    return field != nullptr ? *static_cast<const CString*>(field->in(record)) : none;
+    return table.nameField != nullptr ? *static_cast<const CString*>(table.nameField->in(record)) : none;
 }
 
 CString foldedName(std::string_view name)
@@ -143,16 +137,15 @@ std::size_t characterCount(std::string_view text)
 
 std::int32_t recordPlace(const TableInfo& table, const void* record)
 {
-    return table.sequenceField.empty() ? 0 : *static_cast<const std::int32_t*>(table.record->find(table.sequenceField)->in(record));
+    return table.sequenceField != nullptr ? *static_cast<const std::int32_t*>(table.sequenceField->in(record)) : 0;
 }
 
 RecordPtr withKeptFields(const TableInfo& table, RecordPtr record, int kind, Key key, std::int32_t place)
 {
     std::shared_ptr<void> changed;
-    const auto keep = [&](std::string_view fieldName, auto value) {
-        if (fieldName.empty())
+    const auto keep = [&](const FieldInfo* field, auto value) {
+        if (field == nullptr)
             return;
-        const FieldInfo* field = table.record->find(fieldName);
         using Value = decltype(value);
         const void* current = changed ? changed.get() : record.get();
         if (*static_cast<const Value*>(field->in(current)) == value)

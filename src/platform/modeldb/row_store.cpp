@@ -213,8 +213,6 @@ std::vector<StoredRow> RowStore::read(const TableInfo& table)
 {
     const SqlTable& sql = sqlTable(table);
     const bool kinded = table.shape == TableShape::kinded;
-    const FieldInfo* kindField = table.kindField.empty() ? nullptr : table.record->find(table.kindField);
-    const FieldInfo* keyField = table.keyField.empty() ? nullptr : table.record->find(table.keyField);
 
     std::vector<StoredRow> rows;
     std::vector<Owner> owners;
@@ -225,13 +223,13 @@ std::vector<StoredRow> RowStore::read(const TableInfo& table)
         if (kinded)
             row.kind = narrow<std::int32_t>(statement.integer(place++));
         row.key = narrow<Key>(statement.integer(place++));
-        if (row.key == 0 || (kinded && (row.kind < 1 || row.kind > 5)) || (table.shape == TableShape::single && row.key != 1))
+        if (row.key == 0 || (kinded && (row.kind < firstDesignKind || row.kind > lastDesignKind)) || (table.shape == TableShape::single && row.key != 1))
             throw DamagedRows("a row has an impossible key");
         row.record = table.record->create();
-        if (kindField != nullptr)
-            *static_cast<std::int32_t*>(kindField->in(row.record.get())) = row.kind;
-        if (keyField != nullptr)
-            *static_cast<Key*>(keyField->in(row.record.get())) = row.key;
+        if (table.kindField != nullptr)
+            *static_cast<std::int32_t*>(table.kindField->in(row.record.get())) = row.kind;
+        if (table.keyField != nullptr)
+            *static_cast<Key*>(table.keyField->in(row.record.get())) = row.key;
         readColumns(statement, sql, row.record.get(), place);
         for (const FlatList& list : sql.layout->lists)
             list.operations->resize(list.in(row.record.get()), 0);

@@ -9,25 +9,12 @@
 
 namespace zel {
 
-namespace {
-
-constexpr int kindCount = 5;
-
-}  // namespace
-
-StoredTable::StoredTable(const TableInfo& info, ChangeSink& sink) : m_info(info), m_sink(sink), m_spaces(info.shape == TableShape::kinded ? kindCount + 1 : 1)
-{
-}
-
-std::vector<int> StoredTable::kinds() const
-{
-    return m_info.shape == TableShape::kinded ? std::vector<int>{1, 2, 3, 4, 5} : std::vector<int>{0};
-}
+StoredTable::StoredTable(const TableInfo& info, ChangeSink& sink) : m_info(info), m_sink(sink), m_spaces(static_cast<std::size_t>(kindsOf(info).back()) + 1) {}
 
 const StoredTable::Space* StoredTable::space(int kind) const
 {
-    const bool known = m_info.shape == TableShape::kinded ? kind >= 1 && kind <= kindCount : kind == 0;
-    return known ? &m_spaces[static_cast<std::size_t>(kind)] : nullptr;
+    const std::span<const int> kinds = kindsOf(m_info);
+    return kind >= kinds.front() && kind <= kinds.back() ? &m_spaces[static_cast<std::size_t>(kind)] : nullptr;
 }
 
 int StoredTable::count(int kind) const

@@ -31,9 +31,6 @@ public:
     /// Puts a checked batch into memory.
     void apply(const Batch& batch);
 
-    /// Design kinds that this table has: 1 to 5, or 0 alone.
-    [[nodiscard]] std::vector<int> kinds() const;
-
 private:
     /// Keys, names and sequence of one design kind.
     struct Space {
@@ -43,7 +40,7 @@ private:
         bool orderStale = false;
     };
 
-    [[nodiscard]] bool sequenced() const { return !m_info.sequenceField.empty(); }
+    [[nodiscard]] bool sequenced() const { return m_info.sequenceField != nullptr; }
     [[nodiscard]] bool named() const { return m_info.names != NameRule::none; }
     [[nodiscard]] const Space* space(int kind) const;
     [[nodiscard]] bool acceptable(int kind, const std::vector<Step>& steps) const;

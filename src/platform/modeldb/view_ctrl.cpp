@@ -1,5 +1,7 @@
 #include "platform/modeldb/view_ctrl.h"
 
+#include "contract/table.h"
+
 #include <algorithm>
 #include <utility>
 
