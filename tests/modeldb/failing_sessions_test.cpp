@@ -1,4 +1,5 @@
 #include "contract/tables/load_type_tables.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/units.h"
 #include "failing_disk.h"
 #include "model_fixture.h"
