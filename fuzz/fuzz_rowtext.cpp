@@ -61,7 +61,7 @@ std::vector<T_LCOM_D> run(std::string_view text, std::string_view names, unsigne
         options.eccentricCases = {{5, 6}, {13, 7}};
     if (chosen(treatment, 3))
         options.scaleFactors = {{5, 1.25}};
-    options.combType = static_cast<int>((treatment >> 4U) % 5U);
+    options.combType = zel::codes::combTypes[(treatment >> 4U) % 5U];
     Generator generator(modelOf(names, treatment), options);
     generator.readOrthogonalPairs();
     generator.readWindSets();

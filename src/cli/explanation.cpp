@@ -35,7 +35,7 @@ std::string trimmed(std::string name)
 
 std::string rowName(const RowSource& source)
 {
-    return "row " + (source.block.empty() ? "\"" + source.text + "\"" : source.block) + (source.flag == 0 ? " (service)" : " (strength)");
+    return "row " + (source.block.empty() ? "\"" + source.text + "\"" : source.block) + (source.flag == codes::service ? " (service)" : " (strength)");
 }
 
 /// One item of a combination with the numbers that were multiplied.

@@ -72,7 +72,7 @@ void setOptions(const GenerateCombinations& job, CLoadCombCtrl& control)
     control.SetScaleFactors(factors);
     control.SetEccentricCases(partners);
     control.SetOrthoOption(job.orthogonal ? 1 : 0);
-    control.SetCombType(job.combType);
+    control.SetCombType(static_cast<codes::CombType>(job.combType));
     control.SetAlphaH(job.alphaH);
 }
 

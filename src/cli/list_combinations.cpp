@@ -1,18 +1,12 @@
 #include "cli/commands.h"
 #include "cli/output.h"
 
+#include "contract/design_kind.h"
 #include "contract/table.h"
 #include "contract/table_list.h"
 #include "platform/modeldb/model_document.h"
 
 namespace zel::cli {
-
-namespace {
-
-constexpr int firstKind = 1;
-constexpr int lastKind = 5;
-
-}  // namespace
 
 int listCombinations(const ListCombinations& job)
 {
@@ -20,7 +14,7 @@ int listCombinations(const ListCombinations& job)
     ITable& table = document->table(Table::LCOM);
     std::vector<RecordPtr> held;  // keeps the records that are printed
     std::vector<PrintedCombination> printed;
-    for (int kind = job.kind.value_or(firstKind); kind <= job.kind.value_or(lastKind); ++kind) {
+    for (int kind = job.kind.value_or(firstDesignKind); kind <= job.kind.value_or(lastDesignKind); ++kind) {
         for (const Key key : table.keys(kind)) {
             held.push_back(table.find(kind, key));
             const auto* record = static_cast<const T_LCOM_D*>(held.back().get());

@@ -2,6 +2,7 @@
 
 #include "contract/units.h"
 #include "contract/version.h"
+#include "loadcomb/tables/code_table.h"
 
 #include <functional>
 #include <iostream>
@@ -111,7 +112,12 @@ CLI::Option* addFormat(CLI::App& command, Format& format)
 
 void addGenerate(CLI::App& app, Job& job)
 {
-    static const std::map<std::string, int> types{{"strength", 0}, {"special", 1}, {"vertical", 2}, {"underground", 3}, {"underground-special", 4}};
+    std::map<std::string, int> types;
+    std::string typeNames;
+    for (const zel::codes::CombType type : zel::codes::combTypes) {
+        types.emplace(zel::codes::nameOf(type), static_cast<int>(type));
+        typeNames.append(typeNames.empty() ? "" : "|").append(zel::codes::nameOf(type));
+    }
     CLI::App& command = addCommand(app, "generate", "Generate the load combinations of a design code",
                                    "zel generate tower.qvx --code \"KDS 41 20 : 2022\" --replace --orthogonal --scale EX=1.25,EXe");
     auto options = std::make_shared<GenerateCombinations>();
@@ -122,8 +128,8 @@ void addGenerate(CLI::App& app, Job& job)
     command.add_flag("--add")->description("add to the combinations of the kind (the default)")->excludes(replace);
     command.add_option("--type", options->combType, "type of the combinations")
         ->transform(CLI::CheckedTransformer(types).description(""))
-        ->type_name("strength|special|vertical|underground|underground-special")
-        ->default_str("strength");
+        ->type_name(typeNames)
+        ->default_str(std::string(zel::codes::nameOf(zel::codes::CombType::strength)));
     command.add_flag("--orthogonal", options->orthogonal, "orthogonal effect by the 100:30 rule");
     command.add_option("--alpha-h", options->alphaH, "alpha_H of horizontal earth pressure")->capture_default_str();
     command.add_option("--scale", options->scales, "scale factor of a response spectrum case and its eccentric case; a case by name or #KEY; may be repeated")

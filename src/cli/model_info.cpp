@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include "contract/table_list.h"
 #include "contract/units.h"
 #include "platform/modeldb/file_format.h"
 #include "platform/modeldb/json_text.h"
@@ -21,10 +22,8 @@ struct TableCount {
 
 int countOf(ITable& table)
 {
-    if (table.info().shape != TableShape::kinded)
-        return table.count(0);
     int count = 0;
-    for (int kind = 1; kind <= 5; ++kind)
+    for (const int kind : kindsOf(table.info()))
         count += table.count(kind);
     return count;
 }

@@ -90,7 +90,7 @@ void readOption(Job& job, const std::string& name, const Json& value)
     else if (name == "mode")
         job.mode = static_cast<int>(integerFromJson(value, path, 0, 1));
     else if (name == "combType")
-        job.options.combType = static_cast<int>(integerFromJson(value, path, 0, 4));
+        job.options.combType = codes::combTypes[integerFromJson(value, path, 0, std::size(codes::combTypes) - 1)];
     else if (name == "orthoOption")
         job.options.orthoOption = flagFrom(value, path);
     else if (name == "alphaH")

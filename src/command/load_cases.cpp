@@ -1,5 +1,6 @@
 #include "command/load_cases.h"
 
+#include "contract/load_types.h"
 #include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
@@ -32,7 +33,7 @@ Key loadCaseKey(const CString& name)
 
 CString staticCaseText(const CString& name)
 {
-    return name + "(ST)";
+    return name + CString(staticCaseMark);
 }
 
 CString staticCaseName(CString text)

@@ -50,10 +50,13 @@ std::span<const TableInfo> tableList()
 
 std::span<const int> kindsOf(const TableInfo& table)
 {
-    static constexpr std::array designKinds{1, 2, 3, 4, 5};
-    static_assert(designKinds.front() == firstDesignKind && designKinds.back() == lastDesignKind);
+    static constexpr auto kinds = [] {
+        std::array<int, designKinds.size()> numbers{};
+        std::ranges::transform(designKinds, numbers.begin(), [](DesignKind kind) { return static_cast<int>(kind); });
+        return numbers;
+    }();
     static constexpr std::array noKind{0};
-    return table.shape == TableShape::kinded ? std::span<const int>(designKinds) : std::span<const int>(noKind);
+    return table.shape == TableShape::kinded ? std::span<const int>(kinds) : std::span<const int>(noKind);
 }
 
 const TableInfo* findTable(std::string_view code)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/design_kind.h"
+
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -22,10 +24,6 @@ constexpr std::int32_t updateCode(Table table, Change change)
 {
     return firstUpdateCode + 4 * static_cast<std::int32_t>(table) + static_cast<std::int32_t>(change);
 }
-
-/// Design kinds of a kinded table: 1 general, 2 steel, 3 concrete, 4 footing, 5 SRC.
-inline constexpr int firstDesignKind = 1;
-inline constexpr int lastDesignKind = 5;
 
 enum class TableShape {
     keyed,   ///< any number of records, each under a key

@@ -1,5 +1,6 @@
 #include "journal/model_commands.h"
 
+#include "contract/design_kind.h"
 #include "contract/nearest.h"
 #include "contract/table_handle.h"
 #include "contract/units.h"
@@ -16,8 +17,6 @@ namespace zel {
 
 namespace {
 
-constexpr int firstKind = 1;
-constexpr int lastKind = 5;
 constexpr Key singleKey = 1;
 
 /// One `db` command with the table that it names.
@@ -39,11 +38,14 @@ struct TableCommand {
             return kindFromJson(command.at("kind"), "kind");
         if (command.has("record") && command.at("record").is_object() && command.at("record").contains("kind"))
             return kindFromJson(command.at("record").at("kind"), "record.kind");
-        return firstKind;
+        return firstDesignKind;
     }
 
     /// All kinds, or the one that the command names.
-    [[nodiscard]] std::pair<int, int> kinds() const { return isKinded() && !command.has("kind") ? std::pair(firstKind, lastKind) : std::pair(kind(), kind()); }
+    [[nodiscard]] std::pair<int, int> kinds() const
+    {
+        return isKinded() && !command.has("kind") ? std::pair(firstDesignKind, lastDesignKind) : std::pair(kind(), kind());
+    }
 
     void needNames() const
     {

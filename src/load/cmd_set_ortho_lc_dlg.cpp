@@ -1,5 +1,6 @@
 #include "load/cmd_set_ortho_lc_dlg.h"
 
+#include "contract/load_types.h"
 #include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
@@ -34,7 +35,7 @@ int CCmdSetOrthoLCDlg::OnInitDialog()
 
 void CCmdSetOrthoLCDlg::Initial_LCaseComboBox()
 {
-    const auto isEarthquake = [](const T_STLD_D& loadCase) { return loadCase.type == "E"; };
+    const auto isEarthquake = [](const T_STLD_D& loadCase) { return loadCase.type == zel::load_type::earthquake; };
     loadCase1.fill(isEarthquake);
     loadCase2.fill(isEarthquake);
 }

@@ -2,6 +2,7 @@
 
 #include "command/load_cases.h"
 #include "command/messages.h"
+#include "contract/load_types.h"
 #include "contract/number_text.h"
 #include "contract/tables/static_load_case_table.h"
 #include "load/load_case_underground_dlg.h"
@@ -24,7 +25,7 @@ std::vector<CString> namesOfEarthquakes()
     CDataStld().GetDataList(records);
     std::vector<CString> names;
     for (const T_STLD_D& record : records) {
-        if (record.type == "E")
+        if (record.type == zel::load_type::earthquake)
             names.push_back(record.name);
     }
     return names;

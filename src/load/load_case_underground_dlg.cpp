@@ -2,6 +2,7 @@
 
 #include "command/load_cases.h"
 #include "command/messages.h"
+#include "contract/load_types.h"
 #include "contract/messages.h"
 #include "contract/tables/static_load_case_table.h"
 #include "load/under_seis_factor.h"
@@ -67,7 +68,7 @@ void CLoadCaseUndergroundDlg::ReadRecord()
     CDataStld().GetList(keys, records);
     int proposed = 0;
     for (std::size_t i = 0; i < keys.size() && proposed < proposedCases; ++i) {
-        if (records[i].type != "E")
+        if (records[i].type != zel::load_type::earthquake)
             continue;
         for (const int direction : {0, 1})
             m_record.groups.push_back({keys[i], direction, {}, {}});
@@ -233,9 +234,9 @@ void CLoadCaseUndergroundDlg::OnItemchangedCmdLoadcombScList()
 void CLoadCaseUndergroundDlg::SetListCtrl_Seis()
 {
     seismicList.ResetContent();
-    zel::addLoadCases(seismicList, [](const T_STLD_D& record) { return record.type == "EEP"; });
+    zel::addLoadCases(seismicList, [](const T_STLD_D& record) { return record.type == zel::load_type::seismicEarth; });
     staticList.ResetContent();
-    zel::addLoadCases(staticList, [](const T_STLD_D& record) { return record.type == "EH"; });
+    zel::addLoadCases(staticList, [](const T_STLD_D& record) { return record.type == zel::load_type::horizontalEarth; });
 }
 
 void CLoadCaseUndergroundDlg::SetAllCheck_CheckBoxList(bool check)

@@ -1,5 +1,6 @@
 #include "load/load_case_wind_direct_dlg.h"
 
+#include "contract/load_types.h"
 #include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ bool sameCases(const T_LCWD_BASE& a, const T_LCWD_BASE& b)
     return a.along == b.along && a.across == b.across && a.torsion == b.torsion && std::abs(a.gd - b.gd) <= sameFactor && std::abs(a.k - b.k) <= sameFactor;
 }
 
-void fillWithNone(CComboBox& list, const char* type)
+void fillWithNone(CComboBox& list, std::string_view type)
 {
     list.ResetContent();
     list.AddString(noCase());
@@ -66,10 +67,10 @@ void CLoadCaseWindDirectDlg::InitCtrl()
 void CLoadCaseWindDirectDlg::InitCtrl_LoadCaseCmb()
 {
     along.ResetContent();
-    zel::addLoadCases(along, [](const T_STLD_D& loadCase) { return loadCase.type == "W"; });
+    zel::addLoadCases(along, [](const T_STLD_D& loadCase) { return loadCase.type == zel::load_type::wind; });
     along.SetCurSel(std::min(along.GetCount() - 1, 1));
-    fillWithNone(across, "WA");
-    fillWithNone(torsion, "WT");
+    fillWithNone(across, zel::load_type::acrossWind);
+    fillWithNone(torsion, zel::load_type::torsionalWind);
 }
 
 void CLoadCaseWindDirectDlg::SetListCtrlHeader()
@@ -235,15 +236,15 @@ void CLoadCaseWindDirectDlg::UpdateBuffer(const CViewBuff& buffer)
                                  changed = true;
                                  ClearSets(
                                      [key = before.currentKey, &type = now.currentRecord.type](T_LCWD_BASE& set) {
-                                         if (set.along == key && type != "W") {
+                                         if (set.along == key && type != zel::load_type::wind) {
                                              set.along = 0;
                                              return false;  // the set goes
                                          }
-                                         if (set.across == key && type != "WA") {
+                                         if (set.across == key && type != zel::load_type::acrossWind) {
                                              set.across = 0;
                                              return true;
                                          }
-                                         if (set.torsion == key && type != "WT") {
+                                         if (set.torsion == key && type != zel::load_type::torsionalWind) {
                                              set.torsion = 0;
                                              return true;
                                          }

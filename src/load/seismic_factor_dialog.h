@@ -1,6 +1,7 @@
 #pragma once
 
 #include "command/set_dialog.h"
+#include "contract/load_types.h"
 
 #include "contract/tables/static_load_case_table.h"
 
@@ -36,7 +37,7 @@ protected:
 
     void Initial_LCaseComboBox() override
     {
-        Form().loadCase.fill([](const T_STLD_D& loadCase) { return loadCase.type == "E"; });
+        Form().loadCase.fill([](const T_STLD_D& loadCase) { return loadCase.type == load_type::earthquake; });
     }
 
     int GetLoadCaseType(int line) { return Form().loadCase.GetLoadCaseType(line); }

@@ -8,57 +8,74 @@ namespace {
 
 using Names = CArray<CString, CString&>;
 
-/// The codes of the list that pass `test`.
-Names codes(bool (*test)(const CString&))
-{
-    Names all;
-    CDBLib::GetConLcomCodeNameList(all);
-    Names passed;
-    for (const CString& name : all) {
-        if (test(name))
-            passed.push_back(name);
-    }
-    return passed;
-}
+/// The catalogue with codes of its own, one for each thing that a table may read.
+class DesignCodes : public testing::Test {
+protected:
+    static constexpr zel::DesignCode handedIn[] = {
+        {"plain"}, {"wind", true, false, false}, {"Seismic : 1", false, true, false}, {"underground", false, false, true}, {"all", true, true, true},
+    };
 
-TEST(DesignCodes, AreSixteenInTheOrderOfTheForm)
+    DesignCodes() { zel::setDesignCodes(handedIn); }
+    DesignCodes(const DesignCodes&) = delete;
+    DesignCodes& operator=(const DesignCodes&) = delete;
+    ~DesignCodes() override { zel::setDesignCodes({}); }
+
+    static Names names()
+    {
+        Names found{"old"};
+        CDBLib::GetConLcomCodeNameList(found);
+        return found;
+    }
+
+    /// The codes of the list that pass `test`.
+    static Names codes(bool (*test)(const CString&))
+    {
+        Names passed;
+        for (const CString& name : names()) {
+            if (test(name))
+                passed.push_back(name);
+        }
+        return passed;
+    }
+};
+
+TEST_F(DesignCodes, AreThoseThatWereHandedInInTheirOrder)
 {
-    const Names expected{"AIK-USD94",  "KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022", "KCI-USD12", "KBC-USD09", "KBC-USD05",  "KCI-USD99",
-                         "KSCE-USD96", "ACI318-89", "ACI318-95",        "ACI318-99",        "ACI318-02", "BS8110-97", "GB50010-02", "CSA-A23.3-94"};
-    Names names{"old"};
-    CDBLib::GetConLcomCodeNameList(names);
-    EXPECT_EQ(names, expected);
-    CDBLib::GetConCodeNameList(names);
-    EXPECT_EQ(names, expected);
+    const Names expected{"plain", "wind", "Seismic : 1", "underground", "all"};
+    EXPECT_EQ(names(), expected);
+    Names concrete{"old"};
+    CDBLib::GetConCodeNameList(concrete);
+    EXPECT_EQ(concrete, expected);
     EXPECT_EQ(codes(CDBLib::IsConCodeName), expected);
 }
 
-TEST(DesignCodes, WindSetsAreReadByThreeCodes)
+TEST_F(DesignCodes, TellWhatTheirTablesRead)
 {
-    EXPECT_EQ(codes(CDBLib::IsConCode_WindLcom), (Names{"KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022"}));
+    EXPECT_EQ(codes(CDBLib::IsConCode_WindLcom), (Names{"wind", "all"}));
+    EXPECT_EQ(codes(CDBLib::IsConCode_SeisLcom), (Names{"Seismic : 1", "all"}));
+    EXPECT_EQ(codes(CDBLib::IsConCode_Ortho), (Names{"Seismic : 1", "all"}));
+    EXPECT_EQ(codes(CDBLib::IsConCode_UnderGroundLcom), (Names{"underground", "all"}));
 }
 
-TEST(DesignCodes, SeismicFactorsAndOrthogonalPairsAreReadBySixCodes)
+TEST_F(DesignCodes, TakeThePlaceOfThoseBefore)
 {
-    const Names expected{"KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022", "KCI-USD12", "KBC-USD09", "KBC-USD05"};
-    EXPECT_EQ(codes(CDBLib::IsConCode_SeisLcom), expected);
-    EXPECT_EQ(codes(CDBLib::IsConCode_Ortho), expected);
+    static constexpr zel::DesignCode others[] = {{"other"}};
+    zel::setDesignCodes(others);
+    EXPECT_EQ(names(), (Names{"other"}));
+    EXPECT_FALSE(CDBLib::IsConCodeName("plain"));
+    zel::setDesignCodes({});
+    EXPECT_EQ(names(), Names());
 }
 
-TEST(DesignCodes, UndergroundSetsAreReadByTwoCodes)
+TEST_F(DesignCodes, ANameIsKnownAsItStandsOnly)
 {
-    EXPECT_EQ(codes(CDBLib::IsConCode_UnderGroundLcom), (Names{"KDS 41 30 : 2018", "KDS 41 20 : 2022"}));
-}
-
-TEST(DesignCodes, ANameIsKnownAsItStandsOnly)
-{
-    EXPECT_FALSE(CDBLib::IsConCodeName("aik-usd94"));
-    EXPECT_FALSE(CDBLib::IsConCodeName("KDS 41 20: 2022"));
-    EXPECT_FALSE(CDBLib::IsConCodeName(""));
-    EXPECT_FALSE(CDBLib::IsConCode_WindLcom("KBC"));
-    EXPECT_FALSE(CDBLib::IsConCode_SeisLcom("KBC"));
-    EXPECT_FALSE(CDBLib::IsConCode_UnderGroundLcom("KDS"));
-    EXPECT_FALSE(CDBLib::IsConCode_Ortho(""));
+    for (const char* name : {"ALL", "al", "all ", "Seismic: 1", ""}) {
+        EXPECT_FALSE(CDBLib::IsConCodeName(name)) << name;
+        EXPECT_FALSE(CDBLib::IsConCode_WindLcom(name)) << name;
+        EXPECT_FALSE(CDBLib::IsConCode_SeisLcom(name)) << name;
+        EXPECT_FALSE(CDBLib::IsConCode_UnderGroundLcom(name)) << name;
+        EXPECT_FALSE(CDBLib::IsConCode_Ortho(name)) << name;
+    }
 }
 
 }  // namespace

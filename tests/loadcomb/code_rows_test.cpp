@@ -9,7 +9,6 @@ namespace {
 using namespace zel::codes;
 using zel::loadcomb::countRows;
 using zel::loadcomb::RowValues;
-using zel::loadcomb::typeFact;
 using zel::loadcomb::writeRows;
 using zel::loadcomb::WrittenRow;
 
@@ -29,15 +28,20 @@ Facts factsOf(std::initializer_list<Word> words)
     return facts;
 }
 
+Facts typeFact(int number)
+{
+    return zel::loadcomb::typeFact(static_cast<CombType>(number));
+}
+
 constexpr WindScale scale{{{"0.85", 0.85}, {"0.65", 0.65}, {"1.3", 1.3}, {"(0.75*0.85)", 0.6375}}};
 
 /// One line a row: "1 | 0.9DL + 1.3WL | DL 0.9, WL 1.3".
-Lines written(std::span<const Row> rows, Facts facts = 0, const RowValues& values = {}, bool liveRoofIsSnow = false)
+Lines written(std::span<const Row> rows, Facts facts = 0, const RowValues& values = {}, Pass pass = asPrinted)
 {
-    const Part part{"part", Reads::nothing, "", rows, liveRoofIsSnow};
+    const Part part{"part", Reads::nothing, "", rows, pass};
     Lines lines;
     writeRows(part, scale, facts, values, [&lines](const WrittenRow& row) {
-        std::string line = std::to_string(row.flag) + " | " + row.text + " |";
+        std::string line = std::to_string(static_cast<int>(row.flag)) + " | " + row.text + " |";
         for (const WrittenRow::Factor& factor : row.factors)
             line.append(" ").append(factor.group).append(" ").append(shortest(factor.factor));
         lines.push_back(line);
@@ -113,9 +117,20 @@ TEST(PrintedRows, TheSecondPassMeansSnowWhereTheRowsSayLiveRoof)
     };
     const Lines first{"1 | DL + LR | DL 1 LR 1.4", "1 | DL | DL 1"};
     EXPECT_EQ(written(rows, factsOf({Word::LR})), first);
-    // The text is turned later, by the flag; groups and conditions are turned here.
-    EXPECT_EQ(written(rows, factsOf({Word::SL}), {}, true), (Lines{"11 | DL + LR | DL 1 SL 1.4"}));
-    EXPECT_EQ(written(rows, factsOf({Word::LR}), {}, true), (Lines{"11 | LL | LL 1"}));
+    EXPECT_EQ(written(rows, factsOf({Word::SL}), {}, liveRoofIsSnow), (Lines{"1 | DL + SL | DL 1 SL 1.4"}));
+    EXPECT_EQ(written(rows, factsOf({Word::LR}), {}, liveRoofIsSnow), (Lines{"1 | LL | LL 1"}));
+}
+
+TEST(PrintedRows, AServiceRowOfTheSecondPassStaysAServiceRowAndItsXMeansSnowToo)
+{
+    static constexpr Row rows[] = {
+        {"1", service, "", "DL + LR", {{"DL", 1.0}, {"LR", 1.0}}},
+        {"2", service, "", "DL + X", {{"DL", 1.0}, {"X", 0.5}}},
+    };
+    EXPECT_EQ(written(rows, 0, {}, liveRoofIsSnow), (Lines{
+        "0 | DL + SL | DL 1 SL 1",
+        "0 | DL + SL | DL 1 SL 0.5", "0 | DL + SL | DL 1 SL 0.5", "0 | DL + RL | DL 1 RL 0.5",
+    }));
 }
 
 TEST(PrintedRows, IncrementsAreForSpecialTypesAndNeverForServiceRows)
@@ -127,7 +142,7 @@ TEST(PrintedRows, IncrementsAreForSpecialTypesAndNeverForServiceRows)
     };
     for (int type : {1, 4})
         EXPECT_EQ(written(rows, typeFact(type)), (Lines{"1 | DL | DL 2"})) << type;
-    for (int type : {0, 2, 3, 9, -1})
+    for (int type : {0, 2, 3, 5, 6, 9, -1})
         EXPECT_EQ(written(rows, typeFact(type)), (Lines{"1 | DL | DL 3"})) << type;
 }
 
@@ -140,6 +155,54 @@ TEST(PrintedRows, AreCountedWithSignsAndXWrittenOut)
     };
     static constexpr Part parts[] = {{"part", Reads::nothing, "", rows}};
     EXPECT_EQ(countRows(CodeTable{parts}), 1 + 2 + 6);
+}
+
+TEST(PrintedRows, ANumberThatIsNoTypeOfCombinationsIsNoFact)
+{
+    for (int type : {0, 1, 2, 3, 4})
+        EXPECT_NE(typeFact(type), 0U) << type;
+    for (int type : {-21, -1, 5, 6, 7, 19, 100})
+        EXPECT_EQ(typeFact(type), 0U) << type;
+}
+
+/// One line a listed row: "S1 | service | DL + 0.85WL | when | of the part | title | clause".
+Lines listed(const CodeTable& table)
+{
+    Lines lines;
+    for (const zel::loadcomb::ListedRow& row : zel::loadcomb::listRows(table)) {
+        std::string line(row.block);
+        for (const std::string_view part : {std::string_view(row.flag == service ? "service" : "strength"), std::string_view(row.formula), row.condition,
+                                            row.partCondition, row.part, row.clause})
+            line.append(" | ").append(part);
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+TEST(PrintedRows, AreListedWhateverTheirConditionsWithSignsXAndWindNumbersWrittenOut)
+{
+    static constexpr Row rows[] = {
+        {"S1", service, "no LL", "DL ± w1WL", {{"DL", 1.0}, {"WL", 1.0, w1}}},
+        {"U1", strength, "increments", "1.2DL + X", {{"DL", 1.2, plusSpectrum}, {"X", 1.0}}},
+    };
+    static constexpr Part parts[] = {
+        {"First", Reads::nothing, "vertical", rows, asPrinted, "2.3.1"},
+        {"With snow", Reads::nothing, "", rows, liveRoofIsSnow},
+    };
+    const CodeTable table{parts, scale};
+    EXPECT_EQ(listed(table), (Lines{
+        "S1 | service | DL + 0.85WL | no LL | vertical | First | 2.3.1",
+        "S1 | service | DL - 0.85WL | no LL | vertical | First | 2.3.1",
+        "U1 | strength | 1.2DL + LR | increments | vertical | First | 2.3.1",
+        "U1 | strength | 1.2DL + SL | increments | vertical | First | 2.3.1",
+        "U1 | strength | 1.2DL + RL | increments | vertical | First | 2.3.1",
+        "S1 | service | DL + 0.85WL | no LL |  | With snow | ",
+        "S1 | service | DL - 0.85WL | no LL |  | With snow | ",
+        "U1 | strength | 1.2DL + SL | increments |  | With snow | ",
+        "U1 | strength | 1.2DL + SL | increments |  | With snow | ",
+        "U1 | strength | 1.2DL + RL | increments |  | With snow | ",
+    }));
+    EXPECT_EQ(countRows(table), 10);
 }
 
 struct ConditionCase {

@@ -111,6 +111,24 @@ TEST(Rewriting, OfManyFormulasOfARowIsThatOfEachByItself)
     }
 }
 
+TEST(Rewriting, CutsNoSharedPartInsideParentheses)
+{
+    // A pair three characters apart goes, wherever the formulas begin to differ.
+    const struct {
+        std::string first, second, rewritten;
+    } rows[] = {
+        {"( 1) + W1", "( 2) + W2", " 1 + W1"},
+        {"W1 + (1 )", "W2 + (2 )", "W1 + 1 "},
+        {"D + (+ 1) + W1", "D + (+ 2) + W2", "D +  1 + W1"},
+    };
+    for (const auto& row : rows) {
+        std::string text = row.first;
+        SharedRewriting(row.first, row.second).rewrite(text);
+        EXPECT_EQ(text, after(rewriteDescription, row.first)) << row.first;
+        EXPECT_EQ(text, row.rewritten);
+    }
+}
+
 TEST(DescriptionLength, SeventyNineCharactersStayAndEightyAreCut)
 {
     const std::string longest(79, 'x');

@@ -193,7 +193,7 @@ TEST(OverstrengthFactors, StandInTextAndFactorOfSpecialSeismicLoads)
     some.of.seismic->shortPeriodCoefficient = 0.5;
     some.of.seismic->verticalLoadFactor = 0.2;
     some.of.seismic->overStrengthFactors = {{key(some.of, "EX"), 2.5}};
-    some.options.combType = 1;
+    some.options.combType = zel::codes::CombType::special;
     some.scale("EX", 1.25);
     zel::loadcomb::Generator generator(some.of, some.options);
     generator.readSeismicFactors();
@@ -209,7 +209,7 @@ TEST(OverstrengthFactors, AreNotUsedInServiceRows)
     some.of.seismic.emplace();
     some.of.seismic->shortPeriodCoefficient = 0.5;
     some.of.seismic->overStrengthFactors = {{key(some.of, "EX"), 2.5}};
-    some.options.combType = 1;
+    some.options.combType = zel::codes::CombType::special;
     zel::loadcomb::Generator generator(some.of, some.options);
     generator.readSeismicFactors();
     EXPECT_EQ(generated::add(generator, some.of, 0, "DL + 0.7(SUF)EL", {{"DL", 1.0}, {"EL", 0.7}})[0], "0 | DL 1, EX 0.7 | D + 0.7EX");
@@ -222,7 +222,7 @@ TEST(OverstrengthFactors, StandBehindTheScaleFactorOfOrthogonalMembers)
     some.of.seismic->shortPeriodCoefficient = 0.5;
     some.of.seismic->verticalLoadFactor = 0.2;
     some.of.seismic->overStrengthFactors = {{key(some.of, "EX"), 2.0}, {key(some.of, "EY"), 4.0}};
-    some.options.combType = 1;
+    some.options.combType = zel::codes::CombType::special;
     some.orthogonal().eccentric("EX", "EXT");
     zel::loadcomb::Generator generator(some.of, some.options);
     generator.readOrthogonalPairs();

@@ -5,6 +5,7 @@
 namespace {
 
 using generated::addTo;
+using generated::Generator;
 using generated::GeneratorOptions;
 using generated::key;
 using generated::Lines;
@@ -107,6 +108,37 @@ struct FlagCase {
 constexpr FlagCase flags[] = {
     {0, "DL + LR", 0}, {1, "DL + LR", 1}, {11, "DL + SL", 1}, {31, "DL + SL", 1}, {21, "DL + LR", 1}, {30, "DL + SL", 0},
 };
+
+TEST(Rows, AServiceRowOfTheSecondPassIsStoredAsServiceAndReadsSnow)
+{
+    namespace codes = zel::codes;
+    static constexpr codes::Row rows[] = {
+        {"S", codes::service, "", "DL + (LL+LR)", {{"DL", 1.0}, {"LL", 1.0}, {"LR", 0.5}}},
+        {"U", codes::strength, "", "1.2DL + 1.6LR", {{"DL", 1.2}, {"LR", 1.6}}},
+    };
+    static constexpr codes::Part parts[] = {{"With snow", codes::Reads::nothing, "SL", rows, codes::liveRoofIsSnow}};
+    const auto of = model("DL:D LL:L roof:LR snow:S");
+    Generator generator(of, {});
+    generator.runTable(codes::CodeTable{parts});
+    EXPECT_EQ(generated::lines(generator.rows(), of), (Lines{
+        "0 | DL 1, LL 1, snow 0.5 | D + (L+S)",
+        "1 | DL 1.2, snow 1.6 | 1.2D + 1.6S",
+    }));
+}
+
+TEST(Rows, AServiceRowOfTheSecondPassTakesNoOverStrength)
+{
+    namespace codes = zel::codes;
+    static constexpr codes::Row rows[] = {{"S", codes::service, "", "DL + (SUF)(OMG)EL", {{"DL", 1.0}, {"EL", 1.0}}}};
+    static constexpr codes::Part parts[] = {{"With snow", codes::Reads::nothing, "", rows, codes::liveRoofIsSnow}};
+    const auto of = model("DL:D EX:E");
+    Generator generator(of, {});
+    generator.state().combType = codes::CombType::special;
+    generator.state().overstrength[2] = 2.5;
+    generator.runTable(codes::CodeTable{parts});
+    ASSERT_EQ(generator.rows().size(), 1U);
+    EXPECT_EQ(generated::items(generator.rows().front().items, of), "DL 1, EX 1");
+}
 
 TEST(Rows, AFlagWithTensReadsSnowForLiveRoof)
 {

@@ -82,7 +82,7 @@ void addSets(GeneratorModel& of)
 GeneratorOptions optionsOf(const Job& job, const GeneratorModel& of)
 {
     GeneratorOptions options;
-    options.combType = job.combType;
+    options.combType = static_cast<zel::codes::CombType>(job.combType);
     options.orthoOption = job.orthogonal;
     options.alphaH = 0.875;
     if (key(of, "QX") != 0)

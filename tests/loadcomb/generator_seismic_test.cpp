@@ -13,10 +13,11 @@ using generated::Lines;
 using generated::model;
 using generated::run;
 
+/// @param combType  0 strength, 1 special, 2 vertical, 3 underground, 4 underground special
 GeneratorOptions ofType(int combType)
 {
     GeneratorOptions options;
-    options.combType = combType;
+    options.combType = static_cast<zel::codes::CombType>(combType);
     return options;
 }
 
@@ -51,7 +52,7 @@ TEST(SeismicFactors, WithoutThemTheTypeFallsBack)
         of.undergroundSeismic->verticalLoadFactor = row.verticalLoadFactor;
         Generator generator(of, ofType(row.asked));
         generator.readSeismicFactors();
-        EXPECT_EQ(generator.state().combType, row.becomes) << row.what;
+        EXPECT_EQ(static_cast<int>(generator.state().combType), row.becomes) << row.what;
     }
 }
 
@@ -60,7 +61,7 @@ TEST(SeismicFactors, ARecordThatCannotBeReadLeavesZeros)
     for (const auto& [asked, becomes] : {std::pair{1, 0}, std::pair{2, 0}, std::pair{4, 3}}) {
         Generator generator(model("DL:D"), ofType(asked));
         generator.readSeismicFactors();
-        EXPECT_EQ(generator.state().combType, becomes);
+        EXPECT_EQ(static_cast<int>(generator.state().combType), becomes);
         EXPECT_EQ(generator.state().shortPeriodCoefficient, 0.0);
     }
 }

@@ -60,7 +60,7 @@ std::vector<std::string_view> words(std::string_view text)
 Rows rowsOf(const zel::codes::CodeTable& table, std::string_view groups, int type)
 {
     const std::vector<std::string_view> present = words(groups);
-    zel::codes::Facts facts = zel::loadcomb::typeFact(type);
+    zel::codes::Facts facts = zel::loadcomb::typeFact(static_cast<zel::codes::CombType>(type));
     for (const std::string_view group : present) {
         facts |= zel::codes::fact(zel::codes::wordOf(group));
         if (group == "LR" || group == "SL" || group == "RL")
@@ -73,7 +73,7 @@ Rows rowsOf(const zel::codes::CodeTable& table, std::string_view groups, int typ
         zel::loadcomb::writeRows(part, table.wind, facts, {alphaH, S, V, verticalForceFactor}, [&found, &present](const WrittenRow& row) {
             if (!isFed(row, present))
                 return;
-            HandedRow handed{row.flag == 0 ? service : strength, row.text, {}};
+            HandedRow handed{row.flag, row.text, {}};
             for (const WrittenRow::Factor& factor : row.factors)
                 handed.factors.emplace_back(factor.group, factor.factor);
             found.push_back(handed);

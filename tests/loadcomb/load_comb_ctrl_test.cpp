@@ -233,7 +233,7 @@ TEST_F(GenerateFromModel, SpecialSeismicLoadsAreAskedForByTheirType)
     T_SLCF_D seismic;
     seismic.shortPeriodCoefficient = 0.5;
     ASSERT_NE(CDataSlcf().Add(seismic), 0);
-    control.SetCombType(1);
+    control.SetCombType(zel::codes::CombType::special);
     control.SetScaleFactors({{2, 1.25}});
     ASSERT_EQ(control.Generate(addMode, "KDS 41 20 : 2022"), 1);
     EXPECT_EQ(stored().back().description, "0.9D - 1.0(1.25)(1.0)EX - (0.2)(0.5)D");

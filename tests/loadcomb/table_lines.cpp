@@ -86,7 +86,7 @@ std::vector<Line> linesOf(const CodeTable& table, std::string_view groups, Word 
 {
     const GeneratorModel model = modelOf(groups);
     GeneratorOptions options;
-    options.combType = static_cast<int>(type) - static_cast<int>(Word::typeStrength);
+    options.combType = static_cast<CombType>(static_cast<int>(type) - static_cast<int>(Word::typeStrength));
     Generator generator(model, options);
     generator.trace();
     generator.runTable(table);

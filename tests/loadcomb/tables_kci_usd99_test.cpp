@@ -80,6 +80,44 @@ TEST(KciUsd99, PressuresStandWithAndWithoutLiveLoad)
     }));
 }
 
+TEST(KciUsd99, WithRoofLiveLoadWindEarthquakeAndPressuresActTogetherWithBoth)
+{
+    EXPECT_EQ(lines(kci_usd99, "DL LL LR WL EL FP EP WP"), (Lines{
+        "service 1: DL 1, LL 1, LR 1",
+        "service 2: DL 2/3, LL 2/3, LR 2/3, WL 2/3",
+        "service 3: DL 2/3, LL 2/3, LR 2/3, WL -2/3",
+        "service 7: DL 2/3, WL 2/3",
+        "service 8: DL 2/3, WL -2/3",
+        "service 9: DL 2/3, LL 2/3, LR 2/3, EL 2/3",
+        "service 10: DL 2/3, LL 2/3, LR 2/3, EL -2/3",
+        "service 13: DL 2/3, EL 2/3",
+        "service 14: DL 2/3, EL -2/3",
+        "strength 15: DL 1.4, LL 1.7, LR 1.7",
+        "strength 16: DL 0.75*1.4, LL 1.275, LR 1.275, WL 1.275",
+        "strength 17: DL 0.75*1.4, LL 1.275, LR 1.275, WL -1.275",
+        "strength 21: DL 0.75*1.4, WL 1.275",
+        "strength 22: DL 0.75*1.4, WL -1.275",
+        "strength 23: DL 0.9, WL 1.3",
+        "strength 24: DL 0.9, WL -1.3",
+        "strength 25: DL 0.75*1.4, LL 1.275, LR 1.275, EL 1.35",
+        "strength 26: DL 0.75*1.4, LL 1.275, LR 1.275, EL -1.35",
+        "strength 29: DL 0.75*1.4, EL 1.35",
+        "strength 30: DL 0.75*1.4, EL -1.35",
+        "strength 31: DL 0.9, EL 1.4",
+        "strength 32: DL 0.9, EL -1.4",
+        "strength 33: DL 0.75*1.4, LL 1.275, LR 1.275",
+        "strength 35: DL 1.4",
+        "strength 36: DL 1.5, LL 1.7, LR 1.7, FP 1.5",
+        "strength 37: DL 0.9, LL 1.7, LR 1.7, FP 1.5",
+        "strength 40: DL 1.5, FP 1.5",
+        "strength 41: DL 0.9, FP 1.5",
+        "strength 42: DL 1.4, LL 1.7, LR 1.7, EP 1.8, WP 1.8",
+        "strength 43: DL 0.9, LL 1.7, LR 1.7, EP 1.8, WP 1.8",
+        "strength 46: DL 1.4, EP 1.8, WP 1.8",
+        "strength 47: DL 0.9, EP 1.8, WP 1.8",
+    }));
+}
+
 TEST(KciUsd99, AFullModelGetsTheRowsWithRoofLiveLoad)
 {
     EXPECT_EQ(rowNumbers(kci_usd99, tables::everyGroup), "service 1-3 7-10 13-14 strength 15-17 21-26 29-33 35-37 40-43 46-47");

@@ -1,6 +1,7 @@
 #include "desktop/views/model_tree_model.h"
 
 #include "contract/document.h"
+#include "contract/load_types.h"
 #include "contract/table.h"
 
 #include <QApplication>
@@ -223,7 +224,9 @@ QMimeData* ModelTreeModel::mimeData(const QModelIndexList& indexes) const
     std::sort(cases.begin(), cases.end(), [](const QModelIndex& a, const QModelIndex& b) { return a.row() < b.row(); });
     QString lines;
     for (const QModelIndex& index : cases)
-        lines += QStringLiteral("1\t%1\t%2(ST)\t1\n").arg(keyAt(index)).arg(text(index));
+        lines += QStringLiteral("1\t%1\t%2%3\t1\n")
+                     .arg(keyAt(index))
+                     .arg(text(index), QString::fromUtf8(zel::staticCaseMark.data(), static_cast<qsizetype>(zel::staticCaseMark.size())));
     auto* data = new QMimeData;
     data->setText(lines);
     data->setData(loadCaseMimeType(), lines.toUtf8());

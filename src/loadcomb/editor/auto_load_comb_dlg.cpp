@@ -5,6 +5,7 @@
 #include "command/messages.h"
 #include "contract/design_codes.h"
 #include "contract/document.h"
+#include "contract/load_types.h"
 #include "contract/tables/load_set_tables.h"
 #include "contract/tables/static_load_case_table.h"
 #include "load/cmd_set_ortho_lc_dlg.h"
@@ -13,6 +14,7 @@
 #include "load/load_case_wind_direct_dlg.h"
 #include "loadcomb/editor/load_comb_alpha_h_dlg.h"
 #include "loadcomb/generation/load_comb_ctrl.h"
+#include "loadcomb/tables/code_registry.h"
 
 #include <algorithm>
 
@@ -22,8 +24,7 @@ namespace {
 constexpr double smallestFactor = 1.0;
 constexpr double greatestFactor = 10.0;
 
-// Types of combinations, as the radios stand.
-enum CombType { specialType = 1, verticalType = 2, undergroundType = 3, undergroundSpecialType = 4 };
+using zel::codes::CombType;
 
 template <class... Names> bool isOneOf(const CString& code, Names... names)
 {
@@ -85,7 +86,7 @@ void CCMAutoLoadCombDlg::SetRules()
         which.enabledWhen(rule);
     };
     const auto hasUnderground = [this] { return CDBLib::IsConCode_UnderGroundLcom(code()); };
-    const auto isUnderground = [this] { return combType.GetSel() == undergroundType || combType.GetSel() == undergroundSpecialType; };
+    const auto isUnderground = [this] { return selectedType() == CombType::underground || selectedType() == CombType::undergroundSpecial; };
 
     // The underground types take their scale-ups from their own set.
     scaleUp.enabledWhen([this, isUnderground] { return !CDBLib::IsConCode_SeisLcom(code()) || !isUnderground(); });
@@ -98,7 +99,7 @@ void CCMAutoLoadCombDlg::SetRules()
     group(types, [this] { return CDBLib::IsConCode_SeisLcom(code()); });
     underground.visibleWhen(hasUnderground);
     undergroundSpecial.visibleWhen(hasUnderground);
-    seismicFactors.enabledWhen([this] { return combType.GetSel() == specialType || combType.GetSel() == verticalType; });
+    seismicFactors.enabledWhen([this] { return selectedType() == CombType::special || selectedType() == CombType::vertical; });
     undergroundSets.visibleWhen(hasUnderground);
     undergroundSets.enabledWhen(isUnderground);
 
@@ -139,7 +140,7 @@ void CCMAutoLoadCombDlg::FillEarthquakeCases()
 {
     for (CComboBox* combo : {&rsLoadCase, &esLoadCase}) {
         combo->ResetContent();
-        zel::addLoadCases(*combo, [](const T_STLD_D& loadCase) { return loadCase.type == "E"; });
+        zel::addLoadCases(*combo, [](const T_STLD_D& loadCase) { return loadCase.type == zel::load_type::earthquake; });
         combo->SetCurSel(combo->GetCount() > 0 ? 0 : -1);
     }
 }
@@ -160,7 +161,8 @@ void CCMAutoLoadCombDlg::ReadScaleUps()
 
 bool CCMAutoLoadCombDlg::hasVerticalPressure() const
 {
-    return isOneOf(code(), "KBC-USD09", "KCI-USD12");
+    const zel::codes::CodeEntry* entry = zel::codes::findCode(code());
+    return entry != nullptr && zel::codes::takesAlphaH(*entry->table);
 }
 
 zel::Key CCMAutoLoadCombDlg::eccentricCase() const
@@ -324,7 +326,7 @@ bool CCMAutoLoadCombDlg::Generate(double alpha) const
     control.SetScaleFactors(m_factors);
     control.SetEccentricCases(m_eccentricKeys);
     control.SetOrthoOption(orthogonal.GetCheck() ? 1 : 0);
-    control.SetCombType(combType.GetSel());
+    control.SetCombType(selectedType());
     control.SetAlphaH(alpha);
     control.SetLoadCode(static_cast<int>(loadCode.selectedData()));
     return control.Generate(mode.GetSel(), code()) != 0;

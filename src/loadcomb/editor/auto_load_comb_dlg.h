@@ -3,6 +3,7 @@
 #include "contract/export.h"
 #include "contract/forms/forms.h"
 #include "load/scale_up_form.h"
+#include "loadcomb/tables/code_table.h"
 
 /// Select Default Load Combination: the options of a generation of load combinations, the scale-up factors of response spectrum
 /// load cases, which are remembered in the model, and the ways to the sets that the generator reads. OK generates.
@@ -22,6 +23,8 @@ private:
 
     // What is chosen.
     [[nodiscard]] CString code() const { return designCode.GetWindowText(); }
+    /// The radios stand in the order of the types.
+    [[nodiscard]] zel::codes::CombType selectedType() const { return static_cast<zel::codes::CombType>(combType.GetSel()); }
     [[nodiscard]] bool hasVerticalPressure() const;
     [[nodiscard]] zel::Key responseCase() const { return static_cast<zel::Key>(rsLoadCase.selectedData()); }
     /// 0 without accidental eccentricity.

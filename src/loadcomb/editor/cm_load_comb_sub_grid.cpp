@@ -2,6 +2,7 @@
 
 #include "command/load_cases.h"
 #include "command/messages.h"
+#include "contract/load_types.h"
 #include "contract/number_text.h"
 #include "contract/tables/static_load_case_table.h"
 #include "loadcomb/editor/lcomb_editor_rows.h"
@@ -11,7 +12,6 @@
 namespace {
 
 constexpr std::int32_t staticCase = 1;
-constexpr std::string_view caseMark = "(ST)";
 
 CString trimmed(const CString& text)
 {
@@ -26,8 +26,8 @@ zel::Key droppedCase(const CArray<CString>& fields)
     if (fields.size() <= nameField || zel::number::readInteger(fields[type]) != staticCase)
         return 0;
     CString name = fields[nameField];
-    if (name.ends_with(caseMark))
-        name.resize(name.size() - caseMark.size());
+    if (name.ends_with(zel::staticCaseMark))
+        name.resize(name.size() - zel::staticCaseMark.size());
     return zel::loadCaseKey(name);
 }
 

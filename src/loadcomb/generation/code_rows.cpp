@@ -10,6 +10,7 @@ namespace {
 
 using codes::Facts;
 using codes::Part;
+using codes::Pass;
 using codes::Row;
 using codes::With;
 using codes::Word;
@@ -28,14 +29,63 @@ bool namesX(const Row& row)
     return std::any_of(std::begin(row.pairs), std::end(row.pairs), isX);
 }
 
-bool hasBothSigns(const Row& row)
-{
-    return row.text.find(codes::plusMinus) != std::string_view::npos;
-}
-
 int windMark(With with)
 {
     return with < With::w1 ? -1 : static_cast<int>(with) - static_cast<int>(With::w1);
+}
+
+/// A group of a row as the pass of its part means it.
+std::string_view meant(std::string_view group, Pass pass)
+{
+    return pass == Pass::liveRoofIsSnow && group == "LR" ? std::string_view("SL") : group;
+}
+
+/// Gives each row of a part to `use`, with the group that its X stands for, in the order in which rows are added: those with an X that
+/// follow each other in one block are walked together.
+template <class Use> void walk(const Part& part, const Use& use)
+{
+    for (std::size_t i = 0; i < part.rows.size();) {
+        if (!namesX(part.rows[i])) {
+            use(part.rows[i++], std::string_view());
+            continue;
+        }
+        const std::size_t first = i;
+        while (i < part.rows.size() && namesX(part.rows[i]) && part.rows[i].block == part.rows[first].block)
+            ++i;
+        for (const std::string_view x : eachGroupMeans) {
+            for (const Row& row : part.rows.subspan(first, i - first))
+                use(row, x);
+        }
+    }
+}
+
+struct Sign {
+    std::string_view text;
+    double factor;
+};
+constexpr Sign plusThenMinus[] = {{"+", 1.0}, {"-", -1.0}};
+constexpr Sign noSign[] = {{"", 1.0}};
+
+/// The signs that a row is written out with.
+std::span<const Sign> signsOf(const Row& row)
+{
+    return row.text.find(codes::plusMinus) != std::string_view::npos ? std::span<const Sign>(plusThenMinus) : std::span<const Sign>(noSign);
+}
+
+/// The formula of a row for one sign and one group in the place of X.
+std::string formulaOf(const Part& part, const codes::WindScale& wind, const Row& row, std::string_view x, const Sign& sign)
+{
+    std::string text(row.text);
+    replaceAll(text, codes::plusMinus, sign.text);
+    if (!x.empty())
+        replaceAll(text, eachGroup, x);
+    if (part.pass == Pass::liveRoofIsSnow)
+        replaceAll(text, "LR", meant("LR", part.pass));
+    for (const codes::Pair& pair : row.pairs) {
+        if (const int mark = windMark(pair.with); mark >= 0)
+            replaceAll(text, windMarks[mark], wind.w[mark].text);
+    }
+    return text;
 }
 
 class RowWriter {
@@ -43,7 +93,7 @@ public:
     RowWriter(const Part& part, const codes::WindScale& wind, Facts facts, const RowValues& values, const std::function<void(const WrittenRow&)>& add)
         : m_part(part), m_wind(wind), m_facts(facts), m_values(values), m_add(add)
     {
-        if (part.liveRoofIsSnow) {
+        if (part.pass == Pass::liveRoofIsSnow) {
             m_facts &= ~codes::fact(Word::LR);
             if ((facts & codes::fact(Word::SL)) != 0)
                 m_facts |= codes::fact(Word::LR);
@@ -54,55 +104,36 @@ public:
 
     void writeAll() const
     {
-        const std::span<const Row> rows = m_part.rows;
-        for (std::size_t i = 0; i < rows.size();) {
-            if (!namesX(rows[i])) {
-                write(rows[i++], {});
-                continue;
-            }
-            const std::size_t first = i;
-            while (i < rows.size() && namesX(rows[i]) && rows[i].block == rows[first].block)
-                ++i;
-            for (const std::string_view x : eachGroupMeans) {
-                for (const Row& row : rows.subspan(first, i - first))
-                    write(row, x);
-            }
-        }
+        walk(m_part, [this](const Row& row, std::string_view x) {
+            if (!isMet(row))
+                return;
+            for (const Sign& sign : signsOf(row))
+                write(row, x, sign);
+        });
     }
 
 private:
-    void write(const Row& row, std::string_view x) const
+    [[nodiscard]] bool isMet(const Row& row) const
     {
         const bool increments = row.flag != codes::service && (m_facts & (codes::fact(Word::typeSpecial) | codes::fact(Word::typeUndergroundSpecial))) != 0;
-        if (!row.when.met(increments ? m_facts | codes::fact(Word::increments) : m_facts))
-            return;
-        if (!hasBothSigns(row)) {
-            writeSigned(row, x, {}, 1.0);
-            return;
-        }
-        writeSigned(row, x, "+", 1.0);
-        writeSigned(row, x, "-", -1.0);
+        return row.when.met(increments ? m_facts | codes::fact(Word::increments) : m_facts);
     }
 
-    void writeSigned(const Row& row, std::string_view x, std::string_view sign, double signFactor) const
+    void write(const Row& row, std::string_view x, const Sign& sign) const
     {
         WrittenRow written;
         written.block = row.block;
-        written.flag = static_cast<int>(row.flag) + (m_part.liveRoofIsSnow ? 10 : 0);
-        written.text = row.text;
-        replaceAll(written.text, codes::plusMinus, sign);
-        if (!x.empty())
-            replaceAll(written.text, eachGroup, x);
+        written.flag = row.flag;
+        written.clause = m_part.clause;
+        written.text = formulaOf(m_part, m_wind, row, x, sign);
         const std::string_view governed = codes::signedTerm(row.text);
         for (const codes::Pair& pair : row.pairs) {
             double factor = factorOf(pair);
             if (factor == 0.0)
                 continue;
             if (!pair.group.name.empty() && governed.find(pair.group.name) != std::string_view::npos)
-                factor *= signFactor;
-            written.factors.push_back({groupOf(pair, x), factor});
-            if (const int mark = windMark(pair.with); mark >= 0)
-                replaceAll(written.text, windMarks[mark], m_wind.w[mark].text);
+                factor *= sign.factor;
+            written.factors.push_back({meant(isX(pair) ? x : pair.group.name, m_part.pass), factor});
         }
         m_add(written);
     }
@@ -126,13 +157,6 @@ private:
         }
     }
 
-    [[nodiscard]] std::string_view groupOf(const codes::Pair& pair, std::string_view x) const
-    {
-        if (isX(pair))
-            return x;
-        return m_part.liveRoofIsSnow && pair.group.name == "LR" ? std::string_view("SL") : pair.group.name;
-    }
-
     const Part& m_part;
     const codes::WindScale& m_wind;
     Facts m_facts;
@@ -148,21 +172,27 @@ void writeRows(const codes::Part& part, const codes::WindScale& wind, codes::Fac
     RowWriter(part, wind, facts, values, add).writeAll();
 }
 
-codes::Facts typeFact(int combType)
+codes::Facts typeFact(codes::CombType type)
 {
-    if (combType < 0 || combType > 4)
-        return 0;
-    return codes::fact(static_cast<Word>(static_cast<int>(Word::typeStrength) + combType));
+    const bool isType = std::ranges::find(codes::combTypes, type) != std::end(codes::combTypes);
+    return isType ? codes::fact(codes::wordOf(type)) : 0;
+}
+
+std::vector<ListedRow> listRows(const codes::CodeTable& table)
+{
+    std::vector<ListedRow> list;
+    for (const Part& part : table.parts) {
+        walk(part, [&](const Row& row, std::string_view x) {
+            for (const Sign& sign : signsOf(row))
+                list.push_back({row.block, row.flag, formulaOf(part, table.wind, row, x, sign), part.when.text, row.when.text, part.title, part.clause});
+        });
+    }
+    return list;
 }
 
 int countRows(const codes::CodeTable& table)
 {
-    int count = 0;
-    for (const Part& part : table.parts) {
-        for (const Row& row : part.rows)
-            count += (hasBothSigns(row) ? 2 : 1) * (namesX(row) ? static_cast<int>(std::size(eachGroupMeans)) : 1);
-    }
-    return count;
+    return static_cast<int>(listRows(table).size());
 }
 
 }  // namespace zel::loadcomb

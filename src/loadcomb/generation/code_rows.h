@@ -25,7 +25,8 @@ struct WrittenRow {
         double factor = 0.0;
     };
     std::string_view block;
-    int flag = 1;  ///< 0 service, 1 strength; 10 more in a part with `liveRoofIsSnow`
+    codes::Flag flag = codes::strength;
+    std::string_view clause;  ///< of the printed code; "" where the table names none
     std::string text;
     std::vector<Factor> factors;
 };
@@ -35,10 +36,24 @@ struct WrittenRow {
 ZEL_CMD_API void writeRows(const codes::Part& part, const codes::WindScale& wind, codes::Facts facts, const RowValues& values,
                            const std::function<void(const WrittenRow&)>& add);
 
-/// The fact of a type of combinations, 0 to 4; no fact for any other number.
-ZEL_CMD_API codes::Facts typeFact(int combType);
+/// The fact of a type of combinations; no fact for a number that is none.
+ZEL_CMD_API codes::Facts typeFact(codes::CombType type);
 
-/// Number of rows that a table prints, with "±" and X written out.
+/// A row of a code as a list of its rows shows it.
+struct ListedRow {
+    std::string_view block;
+    codes::Flag flag = codes::strength;
+    std::string formula;             ///< "1.2(DL+EV) + 1.6LR + 0.65WL"; (SUF), (OMG), (SPC), (ZEL), (APH) and (VER) stand for numbers of the model
+    std::string_view partCondition;  ///< when the row's part is used, in the words of `code_table.h`; "" for always
+    std::string_view condition;      ///< when the row itself is used
+    std::string_view part;           ///< title
+    std::string_view clause;         ///< of the printed code; "" where the table names none
+};
+
+/// All rows of a table in the order of the table, with "±", X and the wind numbers written out, whatever their conditions.
+ZEL_CMD_API std::vector<ListedRow> listRows(const codes::CodeTable& table);
+
+/// Number of rows that a table prints, with "±" and X written out: the number of `listRows`.
 ZEL_CMD_API int countRows(const codes::CodeTable& table);
 
 }  // namespace zel::loadcomb

@@ -1,5 +1,7 @@
 #include "loadcomb/generation/combination_list.h"
 
+#include "contract/design_kind.h"
+
 #include <bit>
 #include <charconv>
 #include <limits>
@@ -8,7 +10,8 @@ namespace zel::loadcomb {
 
 namespace {
 
-constexpr std::string_view kindLetters = "gscfr";  // of kinds 1 to 5
+constexpr std::string_view kindLetters = "gscfr";  // of the design kinds
+static_assert(kindLetters.size() == designKinds.size());
 constexpr std::string_view commonName = "LCB";
 constexpr std::size_t numberWidth = 3;
 
@@ -49,11 +52,11 @@ std::int64_t leadingInteger(std::string_view text)
 
 std::string combinationName(int kind, std::int64_t number)
 {
-    if (kind < 1 || kind > static_cast<int>(kindLetters.size()))
+    if (!isDesignKind(kind))
         return {};
     char digits[24];
     const std::string_view shown(digits, static_cast<std::size_t>(std::to_chars(digits, digits + sizeof digits, number).ptr - digits));
-    std::string name(1, kindLetters[static_cast<std::size_t>(kind) - 1]);
+    std::string name(1, kindLetters[static_cast<std::size_t>(kind - firstDesignKind)]);
     name.append(commonName).append(shown);
     if (shown.size() < numberWidth)
         name.append(numberWidth - shown.size(), ' ');

@@ -1,5 +1,6 @@
 #include "loadcomb/generation/expansion.h"
 
+#include "loadcomb/generation/cut_text.h"
 #include "loadcomb/generation/number_token.h"
 #include "loadcomb/generation/replace_each.h"
 
@@ -20,33 +21,6 @@ std::uint32_t partnerOf(const KeyPairs& pairs, std::uint32_t key)
     const auto found = pairs.find(key);
     return found == pairs.end() ? 0 : found->second;
 }
-
-/// A text cut at a token, to be put together with many replacements.
-class CutText {
-public:
-    CutText(std::string_view text, std::string_view token)
-    {
-        std::size_t from = 0;
-        for (std::size_t at = text.find(token); at != std::string_view::npos; at = text.find(token, from)) {
-            m_pieces.push_back(text.substr(from, at - from));
-            from = at + token.size();
-        }
-        m_pieces.push_back(text.substr(from));
-        m_size = text.size();
-    }
-
-    void joinWith(std::string_view replacement, std::string& joined) const
-    {
-        joined.reserve(m_size + replacement.size() * (m_pieces.size() - 1));
-        joined.assign(m_pieces.front());
-        for (std::size_t i = 1; i < m_pieces.size(); ++i)
-            joined.append(replacement).append(m_pieces[i]);
-    }
-
-private:
-    std::vector<std::string_view> m_pieces;
-    std::size_t m_size = 0;
-};
 
 }  // namespace
 
@@ -122,7 +96,7 @@ void RowExpansion::plainForm(const _CCmd_Loadcase& group, double factor)
         for (const std::uint32_t key : group.cases)
             draft.items.push_back({1, key, factor});
         if (group.name == "DL") {
-            if (m_state.combType == CombType::special || m_state.combType == CombType::undergroundSpecial) {
+            if (m_state.isSpecial()) {
                 // Meant so: the token of the period coefficient shows where the vertical factor is expected, and the other way round.
                 replaceAll(draft.text, "ZEL", tokenNumber(m_state.shortPeriodCoefficient));
                 replaceAll(draft.text, "SPC", tokenNumber(m_state.verticalLoadFactor));

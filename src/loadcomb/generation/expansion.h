@@ -21,15 +21,12 @@ using KeyPairs = std::map<std::uint32_t, std::uint32_t>;
 /// By load case and sign (+1, -1): the keys of the cases that act with it.
 using UndergroundSets = std::map<std::pair<std::uint32_t, int>, std::set<std::uint32_t>>;
 
-/// Types of combinations.
-namespace CombType {
-inline constexpr int strength = 0, special = 1, vertical = 2, underground = 3, undergroundSpecial = 4;
-}
+using codes::CombType;
 
 /// All that steers the expansion of rows. What concerns one row is set anew for each.
 struct ZEL_CMD_API ExpansionState {
     bool orthoOption = false;
-    int combType = CombType::strength;
+    CombType combType = CombType::strength;
     KeyFactors scaleFactors;                             ///< (SUF) values
     KeyPairs eccentricCases;                             ///< an earthquake case to its eccentric partner
     KeyPairs orthoPairs;                                 ///< in both directions
@@ -48,8 +45,10 @@ struct ZEL_CMD_API ExpansionState {
     bool tracing = false;                                  ///< keep the choices of each draft
 
     [[nodiscard]] bool exists(std::uint32_t key) const { return names.count(key) != 0; }
+    [[nodiscard]] bool isUnderground() const { return combType == CombType::underground || combType == CombType::undergroundSpecial; }
+    [[nodiscard]] bool isSpecial() const { return combType == CombType::special || combType == CombType::undergroundSpecial; }
     /// Over-strength factors are used for special seismic loads, and never in service rows.
-    [[nodiscard]] bool usesOverstrength() const { return !serviceRow && (combType == CombType::special || combType == CombType::undergroundSpecial); }
+    [[nodiscard]] bool usesOverstrength() const { return !serviceRow && isSpecial(); }
     /// The (SUF) value s of a case; 1.0 if it has none.
     [[nodiscard]] double scaleOf(std::uint32_t key) const;
     /// The (OMG) value g of a case; 1.0 if it has none or none applies.
@@ -98,7 +97,9 @@ public:
     [[nodiscard]] Drafts& drafts() { return m_drafts; }
 
 private:
+    struct EarthquakeCase;
     struct Member;
+    struct OrthogonalPair;
 
     void start();
     [[nodiscard]] Draft copyOf(const Draft& draft, std::size_t moreItems) const;
@@ -111,8 +112,9 @@ private:
     [[nodiscard]] std::vector<T_LCOM_ITEM> undergroundItems(std::uint32_t key, double factor, double g) const;
 
     void orthogonalEarthquakes(const _CCmd_Loadcase& group, double factor);
-    void addOrthogonal(Drafts& to, std::size_t from, const Member& first, const Member& second, double factor);
-    void addMember(Draft& draft, std::string& text, const Member& member, double factor) const;
+    [[nodiscard]] EarthquakeCase earthquakeCase(std::uint32_t key, bool eccentric) const;
+    static OrthogonalPair orthogonalPair(const Member& first, const Member& second, double factor);
+    void addOrthogonal(Drafts& to, std::size_t from, const std::vector<OrthogonalPair>& pairs) const;
 
     ExpansionState& m_state;
     std::string m_text;

@@ -1,5 +1,6 @@
 #include "loadcomb/generation/generator.h"
 
+#include "contract/design_kind.h"
 #include "loadcomb/generation/number_token.h"
 #include "loadcomb/generation/row_text.h"
 #include "loadcomb/generation/wind_combinations.h"
@@ -12,7 +13,6 @@ namespace zel::loadcomb {
 
 namespace {
 
-constexpr int generalKind = 1;
 constexpr int flagWithTens = 11;
 
 /// The row's own copies of the groups that have a factor other than 0, with their factors.
@@ -118,7 +118,7 @@ bool Generator::dispatch(std::string_view codeName)
     if (m_model.cases.empty())
         return false;
     readOrthogonalPairs();
-    const codes::CodeEntry* code = m_kind == generalKind ? codes::findCode(codeName) : nullptr;
+    const codes::CodeEntry* code = m_kind == static_cast<int>(DesignKind::general) ? codes::findCode(codeName) : nullptr;
     if (code != nullptr)
         runTable(m_loadCode == 0 && code->tableOfLoadCode0 != nullptr ? *code->tableOfLoadCode0 : *code->table);
     return true;
@@ -143,7 +143,7 @@ void Generator::runTable(const codes::CodeTable& table)
             pairs.clear();
             for (const WrittenRow::Factor& factor : row.factors)
                 pairs.push_back({factor.factor, factor.group.empty() ? nullptr : &m_groups[static_cast<std::size_t>(codes::wordOf(factor.group))]});
-            addRow(row.flag, row.text, pairs, row.block);
+            addRow(row.flag, row.text, pairs, {row.block, row.clause});
         });
     }
 }
@@ -166,7 +166,7 @@ void Generator::readWindSets()
 
 void Generator::readUndergroundSets()
 {
-    if (m_state.combType != CombType::underground && m_state.combType != CombType::undergroundSpecial)
+    if (!m_state.isUnderground())
         return;
     m_state.scaleFactors.clear();
     m_state.eccentricCases.clear();
@@ -188,7 +188,7 @@ void Generator::readUndergroundSets()
 
 void Generator::readSeismicFactors()
 {
-    int& type = m_state.combType;
+    CombType& type = m_state.combType;
     if ((type == CombType::special || type == CombType::vertical) && m_model.seismic) {
         m_state.shortPeriodCoefficient = m_model.seismic->shortPeriodCoefficient;
         m_state.verticalLoadFactor = m_model.seismic->verticalLoadFactor;
@@ -215,17 +215,8 @@ void Generator::noteOutcome(RowResult result, std::string missing)
     m_outcomes.back().missing = std::move(missing);
 }
 
-void Generator::addRow(int serviceOrStrength, std::string_view rowText, std::span<const RowFactor> pairs, std::string_view block)
+void Generator::addRow(int serviceOrStrength, std::string_view rowText, std::span<const RowFactor> pairs)
 {
-    RowGroups row(pairs);
-    m_state.serviceRow = serviceOrStrength == 0;
-    RowOutcome& outcome = m_outcomes.emplace_back();
-    outcome.source = {std::string(block), std::string(rowText), serviceOrStrength, {}};
-    for (std::size_t i = 0; i < row.groups.size(); ++i)
-        outcome.source.factors.emplace_back(row.groups[i].name, row.factors[i]);
-    if (row.groups.empty())
-        return noteOutcome(RowResult::noFactors);
-
     std::string text(rowText);
     int flag = serviceOrStrength;
     if (flag >= flagWithTens) {
@@ -233,13 +224,24 @@ void Generator::addRow(int serviceOrStrength, std::string_view rowText, std::spa
         if (tens == 1 || tens == 3)
             replaceAll(text, "LR", "SL");
         flag %= 10;
-        outcome.source.text = text;
-        outcome.source.flag = flag;
     }
+    addRow(flag == 0 ? codes::service : codes::strength, text, pairs);
+}
 
+void Generator::addRow(codes::Flag flag, std::string_view rowText, std::span<const RowFactor> pairs, const RowPlace& place)
+{
+    RowGroups row(pairs);
+    m_state.serviceRow = flag == codes::service;
+    RowOutcome& outcome = m_outcomes.emplace_back();
+    outcome.source = {std::string(place.block), std::string(place.clause), std::string(rowText), flag, {}};
+    for (std::size_t i = 0; i < row.groups.size(); ++i)
+        outcome.source.factors.emplace_back(row.groups[i].name, row.factors[i]);
+    if (row.groups.empty())
+        return noteOutcome(RowResult::noFactors);
+
+    std::string text(rowText);
     m_state.extraItems.clear();
-    const bool isUnderground = m_state.combType == CombType::underground || m_state.combType == CombType::undergroundSpecial;
-    m_state.underground = isUnderground ? undergroundRatio(row) : 1.0;
+    m_state.underground = m_state.isUnderground() ? undergroundRatio(row) : 1.0;
 
     const int level = analyseText(text, row.groups);
     const Feasibility feasibility = testFeasibility(text, row.groups, level);
@@ -265,7 +267,7 @@ void Generator::addRow(int serviceOrStrength, std::string_view rowText, std::spa
         return noteOutcome(drafts.started ? RowResult::noOrthogonalPair : RowResult::setWithoutCases);
     const SharedRewriting rewriting(drafts.list.front().text, drafts.list.back().text);
     for (std::size_t i = 0; i < drafts.list.size(); ++i)
-        finish(std::move(drafts.list[i]), flag != 0, m_state.tracing ? std::move(drafts.choices[i]) : Choices(), rewriting);
+        finish(std::move(drafts.list[i]), flag == codes::strength, m_state.tracing ? std::move(drafts.choices[i]) : Choices(), rewriting);
     if (m_outcomes.back().combinations == 0)
         noteOutcome(RowResult::onlyDuplicates);
 }

@@ -31,8 +31,8 @@ struct GeneratorModel {
 
 /// What the user chose.
 struct GeneratorOptions {
-    int kind = 1;              ///< design kind, 1 to 5; only kind 1 has code tables
-    int combType = 0;          ///< type of combinations, 0 to 4
+    int kind = 1;  ///< design kind, 1 to 5; only kind 1 has code tables
+    codes::CombType combType = codes::CombType::strength;
     bool orthoOption = false;  ///< the 100:30 rule
     double alphaH = 1.0;
     KeyFactors scaleFactors;
@@ -44,6 +44,12 @@ struct GeneratorOptions {
 struct RowFactor {
     double factor = 0.0;                    ///< exactly 0 for no pair
     const _CCmd_Loadcase* group = nullptr;  ///< null for no pair
+};
+
+/// Where a row stands in the table of its code.
+struct RowPlace {
+    std::string_view block;
+    std::string_view clause;  ///< of the printed code; "" where the table names none
 };
 
 /// Turns a code's rows into combinations over the load cases of a model. Needs no database.
@@ -70,9 +76,11 @@ public:
     void runTable(const codes::CodeTable& table);
 
     /// Adds what a row gives: analysis of the text, feasibility, expansion, description, name, storing.
-    /// @param serviceOrStrength  0 service, 1 strength; from 11 on a tens digit of 1 or 3 reads "SL" for "LR" in the text, and the units count
     /// @param pairs  at most twelve in tables; here any number
-    void addRow(int serviceOrStrength, std::string_view text, std::span<const RowFactor> pairs, std::string_view block = {});
+    void addRow(codes::Flag flag, std::string_view text, std::span<const RowFactor> pairs, const RowPlace& place = {});
+    /// The same with the flag as a number, which may hold a pass as well.
+    /// @param serviceOrStrength  0 service, 1 strength; from 11 on a tens digit of 1 or 3 reads "SL" for "LR" in the text, and the units count
+    void addRow(int serviceOrStrength, std::string_view text, std::span<const RowFactor> pairs);
 
     // The readings of a run, each by itself.
     void readOrthogonalPairs();

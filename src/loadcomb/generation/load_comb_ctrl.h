@@ -30,8 +30,7 @@ public:
     void SetEccentricCases(const std::map<std::uint32_t, std::uint32_t>& partners);
     /// The orthogonal effect by the 100:30 rule; not 0 for yes.
     void SetOrthoOption(int option) { m_options.orthoOption = option != 0; }
-    /// Type of combinations: 0 strength, 1 special seismic, 2 vertical seismic, 3 underground, 4 underground special.
-    void SetCombType(int type) { m_options.combType = type; }
+    void SetCombType(zel::codes::CombType type) { m_options.combType = type; }
     void SetAlphaH(double alphaH) { m_options.alphaH = alphaH; }
     /// Stores 1 whatever it is given: the choice of "Load Code" does not reach the tables, and that is meant.
     void SetLoadCode(int /*code*/) { m_options.loadCode = 1; }

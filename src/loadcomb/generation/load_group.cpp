@@ -1,12 +1,18 @@
 #include "loadcomb/generation/load_group.h"
 
+#include "contract/load_types.h"
+
 #include <string>
 
 namespace {
 
+namespace load_type = zel::load_type;
+
 // The type text of the cases of each group, in the order of the groups.
 constexpr std::string_view groupTypes[zel::codes::groupCount] = {
-    "D", "L", "LR", "W", "E", "S", "EEP", "R", "FP", "EP", "WP", "EH", "EV",
+    load_type::dead,          load_type::live, load_type::roofLive,      load_type::wind,          load_type::earthquake, load_type::snow,
+    load_type::seismicEarth,  load_type::rain, load_type::fluidPressure, load_type::earthPressure, load_type::streamFlow, load_type::horizontalEarth,
+    load_type::verticalEarth,
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/records/lcom.h"
+#include "loadcomb/tables/code_table.h"
 
 #include <cstdint>
 #include <string>
@@ -30,9 +31,10 @@ using Choices = std::vector<Choice>;
 
 /// A row of a code as it was added.
 struct RowSource {
-    std::string block;  ///< the row's number or block in the table of the code
+    std::string block;   ///< the row's number or block in the table of the code
+    std::string clause;  ///< of the printed code; "" where the table names none
     std::string text;
-    int flag = 1;                                         ///< 0 service, 1 strength
+    codes::Flag flag = codes::strength;
     std::vector<std::pair<std::string, double>> factors;  ///< by group name, in order, without pairs that are none
 };
 

@@ -1,5 +1,6 @@
 #include "loadcomb/generation/wind_combinations.h"
 
+#include "contract/load_types.h"
 #include "loadcomb/generation/number_token.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ public:
     std::vector<T_LCOM_D> combine(const std::vector<LoadCase>& cases)
     {
         for (const LoadCase& loadCase : cases) {
-            if (loadCase.type != "W")
+            if (loadCase.type != load_type::wind)
                 continue;
             bool hasSet = false;
             for (const T_LCWD_BASE& set : m_sets.sets) {

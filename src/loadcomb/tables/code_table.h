@@ -8,9 +8,8 @@
 //
 // To add a code
 //   1. Write `tables/<code>.h` (lower case, "_" for each blank, point and hyphen: "ACI318-02" is aci318_02.h) like
-//      bs8110_97.h: a head that names the edition, what is covered and what is left out; one array of rows; the parts;
-//      the table; the checks.
-//   2. Include it in code_registry.h and give it one line there.
+//      bs8110_97.h: a head that says what is covered and what is left out; one array of rows; the parts; the table; the checks.
+//   2. Include it in code_registry.h and give it one line there, with its edition.
 //
 // A row
 //
@@ -25,7 +24,7 @@
 //              X                                          one of LR, SL, RL has cases
 //              strength special vertical underground underground-special     the type of combinations that is asked for
 //              increments                                 special or underground-special, in a row that is not `service`
-//              first-pass                                 not in a part with `liveRoofIsSnow`
+//              first-pass                                 not in a part of the pass `liveRoofIsSnow`
 //            "EP or WP, EL or no WL": EP or WP has cases, and EL has cases or WL has none. A row whose text names a group without
 //            cases outside parentheses drops out by itself and needs no condition for that.
 // text       The formula. It steers the expansion: a group outside parentheses must have cases, of a set in parentheses one must.
@@ -49,6 +48,10 @@ using enum Flag;
 enum class With : std::uint8_t { nothing, alphaH, plusSpectrum, minusSpectrum, verticalForce, w1, w2, w3, w4 };
 using enum With;
 
+/// The types of combinations that a run may be asked for. The numbers are those of forms and of batches.
+enum class CombType : int { strength = 0, special = 1, vertical = 2, underground = 3, undergroundSpecial = 4 };
+inline constexpr CombType combTypes[] = {CombType::strength, CombType::special, CombType::vertical, CombType::underground, CombType::undergroundSpecial};
+
 /// The load groups, in the order in which the generator makes them, and the facts that conditions ask for.
 enum class Word : std::uint8_t {
     DL, LL, LR, WL, EL, SL, EEP, RL, FP, EP, WP, EH, EV,
@@ -63,6 +66,11 @@ inline constexpr int groupCount = 13;
 /// A set of words, bit n for word n.
 using Facts = std::uint32_t;
 constexpr Facts fact(Word word) { return Facts{1} << static_cast<unsigned>(word); }
+
+/// The word of a type of combinations: "underground-special".
+constexpr Word wordOf(CombType type) { return static_cast<Word>(static_cast<int>(Word::typeStrength) + static_cast<int>(type)); }
+constexpr std::string_view nameOf(CombType type) { return wordTexts[static_cast<std::size_t>(wordOf(type))]; }
+static_assert(nameOf(combTypes[0]) == "strength" && nameOf(combTypes[std::size(combTypes) - 1]) == "underground-special");
 
 /// The word that `text` is. A text that is none does not compile (and throws where it is not evaluated by the compiler).
 constexpr Word wordOf(std::string_view text)
@@ -172,13 +180,18 @@ inline constexpr double near1_05 = 0.75 * 1.4;
 
 static_assert(twoThirds == 2.0 / 3.0 && over1_35 == 1.0 / 1.35 && near1_05 == 1.0499999999999998);
 
+/// How the rows of a part are read: as they stand, or once more with text, pairs and conditions meaning SL where they say LR.
+enum class Pass : std::uint8_t { asPrinted, liveRoofIsSnow };
+using enum Pass;
+
 /// Rows that are added one after the other, if `when` holds after the reading.
 struct Part {
     std::string_view title;
     Reads reads = Reads::nothing;
     Condition when;
     std::span<const Row> rows;
-    bool liveRoofIsSnow = false;    ///< a second pass: the text, the pairs and the conditions mean SL where the rows say LR
+    Pass pass = asPrinted;
+    std::string_view clause{};    ///< of the printed code, where it is known: "2.3.2"
 };
 
 /// The number that stands for w1 to w4, as the text shows it and as the factor takes it.
@@ -195,6 +208,30 @@ struct CodeTable {
     std::span<const Part> parts;
     WindScale wind{};    ///< only where the rows name w1 to w4
 };
+
+/// Whether a part of the table reads that of the model: what a form has to offer for the code.
+constexpr bool readsOf(const CodeTable& table, Reads what)
+{
+    for (const Part& part : table.parts) {
+        if (reads(part.reads, what))
+            return true;
+    }
+    return false;
+}
+
+/// Whether a factor of the table takes alpha_H.
+constexpr bool takesAlphaH(const CodeTable& table)
+{
+    for (const Part& part : table.parts) {
+        for (const Row& row : part.rows) {
+            for (const Pair& pair : row.pairs) {
+                if (pair.with == alphaH)
+                    return true;
+            }
+        }
+    }
+    return false;
+}
 
 /// Rows `first` to `last` of a printed table, counted from 1, both included.
 constexpr std::span<const Row> rows(std::span<const Row> table, std::size_t first, std::size_t last)

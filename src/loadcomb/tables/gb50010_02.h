@@ -56,7 +56,7 @@ static_assert(textsNameTheirGroups(gb50010_02_rows) && signsAreClear(gb50010_02_
 inline constexpr Part gb50010_02_parts[] = {
     // title                reads           when  rows
     {"Strength",            Reads::nothing, "",   gb50010_02_rows},
-    {"Strength, with snow", Reads::nothing, "SL", gb50010_02_rows, true},
+    {"Strength, with snow", Reads::nothing, "SL", gb50010_02_rows, liveRoofIsSnow},
 };
 
 inline constexpr CodeTable gb50010_02{gb50010_02_parts};

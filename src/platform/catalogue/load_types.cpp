@@ -1,8 +1,12 @@
 #include "contract/load_db.h"
 
+#include "contract/load_types.h"
+
 #include <string_view>
 
 namespace {
+
+namespace load_type = zel::load_type;
 
 struct LoadType {
     std::string_view code;
@@ -10,24 +14,24 @@ struct LoadType {
 };
 
 constexpr LoadType loadTypes[] = {
-    {"USER", "User Defined Load"},
-    {"D", "Dead Load"},
-    {"L", "Live Load"},
-    {"LR", "Roof Live Load"},
-    {"W", "Wind Load on Structure"},
-    {"WA", "Across Wind Load"},
-    {"WT", "Torsional Wind Load"},
-    {"E", "Earthquake"},
-    {"S", "Snow Load"},
-    {"R", "Rain Load"},
-    {"IL", "Live Load Impact"},
-    {"B", "Buoyancy"},
-    {"FP", "Fluid Pressure"},
-    {"EP", "Earth Pressure"},
-    {"WP", "Stream Flow Pressure"},
-    {"EH", "Horizontal Earth Pressure"},
-    {"EV", "Vertical Earth Pressure"},
-    {"EEP", "Seismic Earth Pressure"},
+    {load_type::user, "User Defined Load"},
+    {load_type::dead, "Dead Load"},
+    {load_type::live, "Live Load"},
+    {load_type::roofLive, "Roof Live Load"},
+    {load_type::wind, "Wind Load on Structure"},
+    {load_type::acrossWind, "Across Wind Load"},
+    {load_type::torsionalWind, "Torsional Wind Load"},
+    {load_type::earthquake, "Earthquake"},
+    {load_type::snow, "Snow Load"},
+    {load_type::rain, "Rain Load"},
+    {load_type::liveImpact, "Live Load Impact"},
+    {load_type::buoyancy, "Buoyancy"},
+    {load_type::fluidPressure, "Fluid Pressure"},
+    {load_type::earthPressure, "Earth Pressure"},
+    {load_type::streamFlow, "Stream Flow Pressure"},
+    {load_type::horizontalEarth, "Horizontal Earth Pressure"},
+    {load_type::verticalEarth, "Vertical Earth Pressure"},
+    {load_type::seismicEarth, "Seismic Earth Pressure"},
 };
 
 CString displayName(const LoadType& type)

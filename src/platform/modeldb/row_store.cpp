@@ -223,7 +223,7 @@ std::vector<StoredRow> RowStore::read(const TableInfo& table)
         if (kinded)
             row.kind = narrow<std::int32_t>(statement.integer(place++));
         row.key = narrow<Key>(statement.integer(place++));
-        if (row.key == 0 || (kinded && (row.kind < firstDesignKind || row.kind > lastDesignKind)) || (table.shape == TableShape::single && row.key != 1))
+        if (row.key == 0 || (kinded && !isDesignKind(row.kind)) || (table.shape == TableShape::single && row.key != 1))
             throw DamagedRows("a row has an impossible key");
         row.record = table.record->create();
         if (table.kindField != nullptr)
