@@ -93,7 +93,7 @@ Findings lookAt(std::string_view text)
         switch (text[i]) {
         case '(':
             open = i;
-            found.brackets |= text.substr(i, alphaToken.size()) == alphaToken;
+            found.brackets |= at(text, i + 1) == alphaToken[1] && text.substr(i, alphaToken.size()) == alphaToken;
             break;
         case ')':
             found.brackets |= open != nowhere && static_cast<std::ptrdiff_t>(i - open) < shortestPair;

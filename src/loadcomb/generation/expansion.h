@@ -4,6 +4,7 @@
 #include "contract/records/lcom.h"
 #include "loadcomb/generation/load_group.h"
 #include "loadcomb/generation/origin.h"
+#include "loadcomb/generation/orthogonal_pairs.h"
 
 #include <cstdint>
 #include <map>
@@ -43,6 +44,7 @@ struct ZEL_CMD_API ExpansionState {
     std::vector<T_LCOM_D> windCombinations;
     std::unordered_map<std::uint32_t, std::string> names;  ///< of all load cases of the model
     bool tracing = false;                                  ///< keep the choices of each draft
+    OrthogonalPairs orthogonalPairs;                       ///< over the cases of the last earthquake row
 
     [[nodiscard]] bool exists(std::uint32_t key) const { return names.count(key) != 0; }
     [[nodiscard]] bool isUnderground() const { return combType == CombType::underground || combType == CombType::undergroundSpecial; }
@@ -97,10 +99,6 @@ public:
     [[nodiscard]] Drafts& drafts() { return m_drafts; }
 
 private:
-    struct EarthquakeCase;
-    struct Member;
-    struct OrthogonalPair;
-
     void start();
     [[nodiscard]] Draft copyOf(const Draft& draft, std::size_t moreItems) const;
     /// Replaces the list: `make` is called with each draft in turn and adds what comes of it.
@@ -112,9 +110,7 @@ private:
     [[nodiscard]] std::vector<T_LCOM_ITEM> undergroundItems(std::uint32_t key, double factor, double g) const;
 
     void orthogonalEarthquakes(const _CCmd_Loadcase& group, double factor);
-    [[nodiscard]] EarthquakeCase earthquakeCase(std::uint32_t key, bool eccentric) const;
-    static OrthogonalPair orthogonalPair(const Member& first, const Member& second, double factor);
-    void addOrthogonal(Drafts& to, std::size_t from, const std::vector<OrthogonalPair>& pairs) const;
+    void addOrthogonal(Drafts& to, std::size_t from, const std::vector<OrthogonalPair>& pairs, double factor) const;
 
     ExpansionState& m_state;
     std::string m_text;
