@@ -1,6 +1,7 @@
 #include "command/dialog_class.h"
 
 #include "command/dialog_table.h"
+#include "contract/forms/dialog_names.h"
 
 #include <algorithm>
 #include <vector>
@@ -28,7 +29,7 @@ const DialogClass* findDialogClass(std::string_view name)
 bool enterDialogClass(const DialogClass& dialogClass)
 {
     dialogClasses().push_back(dialogClass);
-    return true;
+    return enterDialogName(*dialogClass.type, dialogClass.name);
 }
 
 bool hasDialogClass(std::string_view name)

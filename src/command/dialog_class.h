@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string_view>
+#include <typeinfo>
 
 /// How a dialog makes itself known to the entries of this library. Its source file says
 ///
@@ -78,13 +79,14 @@ public:
 /// A dialog class of this library.
 struct DialogClass {
     std::string_view name;
+    const std::type_info* type;
     std::unique_ptr<CInternationalDlg> (*make)();  ///< with no parent
 };
 
 /// The dialog class of that name; null if it is not built yet.
 const DialogClass* findDialogClass(std::string_view name);
 
-/// Enters a dialog class. Always true, so that a constant can stand for it.
+/// Enters a dialog class, and its name for journals. Always true, so that a constant can stand for it.
 bool enterDialogClass(const DialogClass& dialogClass);
 
 }  // namespace zel
@@ -92,5 +94,5 @@ bool enterDialogClass(const DialogClass& dialogClass);
 #define ZEL_DIALOG(Class)                                                                                                                                      \
     namespace {                                                                                                                                                \
     [[maybe_unused]] const bool entered##Class =                                                                                                               \
-        zel::enterDialogClass({#Class, []() -> std::unique_ptr<CInternationalDlg> { return std::make_unique<Class>(); }});                                     \
+        zel::enterDialogClass({#Class, &typeid(Class), []() -> std::unique_ptr<CInternationalDlg> { return std::make_unique<Class>(); }});                     \
     }

@@ -1,9 +1,12 @@
 #include "load/cmd_set_ortho_lc_dlg.h"
 
+#include "contract/forms/dialog_names.h"
 #include "contract/load_types.h"
 #include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
+
+ZEL_DIALOG_NAME(CCmdSetOrthoLCDlg)
 
 namespace {
 

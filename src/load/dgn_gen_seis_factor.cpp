@@ -1,5 +1,9 @@
 #include "load/dgn_gen_seis_factor.h"
 
+#include "contract/forms/dialog_names.h"
+
+ZEL_DIALOG_NAME(CDgnGenSeisFactor)
+
 CDgnGenSeisFactor::CDgnGenSeisFactor(CWnd* parent) : SeismicFactorDialog(14283, "Factors for Seismic Design", &T_SLCF_D::overStrengthFactors, parent) {}
 
 CDgnGenSeisFactor::~CDgnGenSeisFactor() = default;

@@ -2,10 +2,13 @@
 
 #include "command/load_cases.h"
 #include "command/messages.h"
+#include "contract/forms/dialog_names.h"
 #include "contract/load_types.h"
 #include "contract/messages.h"
 #include "contract/tables/static_load_case_table.h"
 #include "load/under_seis_factor.h"
+
+ZEL_DIALOG_NAME(CLoadCaseUndergroundDlg)
 
 namespace {
 

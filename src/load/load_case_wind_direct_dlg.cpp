@@ -1,10 +1,13 @@
 #include "load/load_case_wind_direct_dlg.h"
 
+#include "contract/forms/dialog_names.h"
 #include "contract/load_types.h"
 #include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 #include <cmath>
+
+ZEL_DIALOG_NAME(CLoadCaseWindDirectDlg)
 
 namespace {
 

@@ -1,5 +1,9 @@
 #include "load/under_seis_factor.h"
 
+#include "contract/forms/dialog_names.h"
+
+ZEL_DIALOG_NAME(CUnderSeisFactor)
+
 CUnderSeisFactor::CUnderSeisFactor(CWnd* parent) : SeismicFactorDialog(14112, "Factors for Seismic Design", &T_SIFT_D::overStrengthFactors, parent) {}
 
 CUnderSeisFactor::~CUnderSeisFactor() = default;

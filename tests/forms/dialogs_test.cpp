@@ -1,5 +1,6 @@
 #include "forms/sample_form.h"
 
+#include "contract/forms/dialog_names.h"
 #include "contract/forms/dlg_modeless_mgr.h"
 #include "contract/forms/open_dialogs.h"
 #include "platform/modeldb/model_document.h"
@@ -36,6 +37,8 @@ protected:
         return 1;
     }
 };
+
+ZEL_DIALOG_NAME(Question)
 
 TEST(ModalDialog, RunsUntilItEndsAndReturnsItsCode)
 {
@@ -333,10 +336,21 @@ TEST_F(ModelessDialogs, WithoutAnIdEndAndFreeThemselves)
     auto* dialog = new Basemat(living);
     EXPECT_EQ(dialog->Create(), 1);
     dialog->ShowWindow();
-    EXPECT_EQ(dialog->ClassName(), "Basemat");
     EXPECT_EQ(zel::activeDialog(), dialog);
     EXPECT_TRUE(dialog->cancel.press());
     EXPECT_FALSE(living);
+}
+
+TEST(DialogNames, AreThoseThatWereEnteredWhateverTheCompilerCallsTheClass)
+{
+    struct Basemat : CInternationalDlg {
+        Basemat() : CInternationalDlg(31001, "Assign Basemat") {}
+    };
+    struct Derived : Basemat {};
+    EXPECT_EQ(Basemat().ClassName(), "Dialog31001");
+    zel::enterDialogName(typeid(Basemat), "CModelAssignBasemat");
+    EXPECT_EQ(Basemat().ClassName(), "CModelAssignBasemat");
+    EXPECT_EQ(Derived().ClassName(), "Dialog31001") << "a class has no name by its base";
 }
 
 TEST(MovableDialog, KeepsWhereItIsToOpen)

@@ -1,3 +1,4 @@
+#include "contract/forms/dialog_names.h"
 #include "contract/forms/find_control.h"
 #include "contract/forms/forms.h"
 
@@ -49,6 +50,8 @@ public:
     CButton modify{*this, "modify", "&Modify/Show"};
     CListCtrl list{*this, "list"};
 };
+
+ZEL_DIALOG_NAME(Twins)
 
 const zel::Control* found(const Twins& form, const char* name)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/forms/dialog_names.h"
 #include "contract/forms/forms.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/modeldb/model_document.h"
@@ -48,6 +49,8 @@ private:
     void OnName() { ran.push_back("name"); }
     void OnEnd() { DestroyWindow(); }
 };
+
+ZEL_DIALOG_NAME(SampleForm)
 
 /// An open SampleForm and a user interface without a screen.
 class OpenForm {

@@ -31,7 +31,7 @@ std::vector<std::string> with(std::vector<std::string> list, const std::vector<s
 
 // Which folder may know what: the arrows of the build file, include by include.
 const Layer layers[] = {
-    {"src/contract/forms/", {"contract/"}, {"muParser", "cxxabi.h"}},
+    {"src/contract/forms/", {"contract/"}, {"muParser"}},
     {"src/contract/", {"contract/"}, {}},
     {"src/command/", commandLibrary, {}},
     {"src/loadcomb/", commandLibrary, {}},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/forms/dialog_names.h"
 #include "contract/forms/find_control.h"
 #include "contract/forms/open_dialogs.h"
 #include "forms/grid_fixture.h"
@@ -47,6 +48,8 @@ public:
     CDlgTabCtrl tabs{*this, "tabs"};
     CButton done{*this, "done", "Done"};
 };
+
+ZEL_DIALOG_NAME(GridForm)
 
 /// A host that lets a person answer modal dialogs by further steps.
 class RecordedHost final : public zel::HeadlessUserInterface {
@@ -196,7 +199,7 @@ protected:
     }
     void press(std::string_view name)
     {
-        EXPECT_TRUE(hand.press(at(name)));
+        EXPECT_TRUE(hand.act(at(name), {zel::Verb::press}));
         settle();
     }
 

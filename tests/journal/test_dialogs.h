@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/forms/dialog_names.h"
 #include "contract/forms/forms.h"
 #include "contract/user_interface.h"
 
@@ -103,5 +104,8 @@ private:
         GSaveHistoryFormatNF("%s", "past");
     }
 };
+
+ZEL_DIALOG_NAME(Question)
+ZEL_DIALOG_NAME(Form)
 
 }  // namespace journal_test

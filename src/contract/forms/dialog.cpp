@@ -2,33 +2,18 @@
 
 #include "contract/forms/buttons.h"
 #include "contract/forms/control.h"
+#include "contract/forms/dialog_names.h"
 #include "contract/forms/window_list.h"
 #include "contract/user_interface.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
+#include <string>
 #include <typeinfo>
-#if __has_include(<cxxabi.h>)
-#include <cxxabi.h>
-#endif
 
 using zel::Control;
 using zel::Taken;
 
 namespace {
-
-/// The name of a type as it is written in the source, with its namespaces.
-CString readableName(const std::type_info& type)
-{
-#if __has_include(<cxxabi.h>)
-    int status = 0;
-    const std::unique_ptr<char, decltype(&std::free)> name(abi::__cxa_demangle(type.name(), nullptr, nullptr, &status), &std::free);
-    if (status == 0)
-        return name.get();
-#endif
-    return type.name();
-}
 
 void collect(const std::vector<Control*>& own, std::vector<Control*>& all)
 {
@@ -63,9 +48,8 @@ CDialog::~CDialog()
 
 CString CDialog::ClassName() const
 {
-    const CString name = readableName(typeid(*this));
-    const std::size_t colon = name.rfind("::");
-    return colon == CString::npos ? name : name.substr(colon + 2);
+    const std::string_view name = zel::dialogName(typeid(*this));
+    return name.empty() ? "Dialog" + std::to_string(m_templateId) : CString(name);
 }
 
 std::vector<Control*> CDialog::controls() const

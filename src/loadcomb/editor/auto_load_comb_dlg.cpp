@@ -5,6 +5,7 @@
 #include "command/messages.h"
 #include "contract/design_codes.h"
 #include "contract/document.h"
+#include "contract/forms/dialog_names.h"
 #include "contract/load_types.h"
 #include "contract/tables/load_set_tables.h"
 #include "contract/tables/static_load_case_table.h"
@@ -17,6 +18,8 @@
 #include "loadcomb/tables/code_registry.h"
 
 #include <algorithm>
+
+ZEL_DIALOG_NAME(CCMAutoLoadCombDlg)
 
 namespace {
 

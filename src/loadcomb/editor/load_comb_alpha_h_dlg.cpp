@@ -1,5 +1,9 @@
 #include "loadcomb/editor/load_comb_alpha_h_dlg.h"
 
+#include "contract/forms/dialog_names.h"
+
+ZEL_DIALOG_NAME(CCMLoadCombAlphaHDlg)
+
 namespace {
 
 constexpr double defaultHeight = 2.0;

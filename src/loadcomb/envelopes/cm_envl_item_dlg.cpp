@@ -1,10 +1,13 @@
 #include "loadcomb/envelopes/cm_envl_item_dlg.h"
 
 #include "command/messages.h"
+#include "contract/forms/dialog_names.h"
 #include "contract/tables/envelope_table.h"
 #include "loadcomb/envelopes/envelope_item.h"
 
 #include <algorithm>
+
+ZEL_DIALOG_NAME(CCMEnvlItemDlg)
 
 CCMEnvlItemDlg::CCMEnvlItemDlg(CWnd* parent) : CDlgMove(31004, "Define Envelope", parent)
 {
