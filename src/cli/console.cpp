@@ -8,7 +8,7 @@
 namespace zel::cli {
 
 // Texts come with their keys, so that both can be kept.
-Console::Console() : m_former(setUserInterface(this))
+Console::Console() : ForwardingUserInterface(nullptr), m_former(setUserInterface(this))
 {
     MessageCatalogue::builtIn().showKeys(true);
 }
@@ -46,11 +46,6 @@ int Console::messageBox(const CString& text, unsigned type)
     else
         m_messages.push_back({text.substr(1, end - 1), text.substr(end + 1)});
     return type == MB_YESNO ? IDYES : IDOK;
-}
-
-void Console::runModal(CDialog& dialog)
-{
-    dialog.EndDialog(IDCANCEL);
 }
 
 }  // namespace zel::cli

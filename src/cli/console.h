@@ -1,7 +1,6 @@
 #pragma once
 
-#include "contract/user_interface.h"
-#include "platform/os/machine.h"
+#include "platform/forms/forwarding_user_interface.h"
 
 #include <string>
 #include <vector>
@@ -16,7 +15,7 @@ struct ToldMessage {
 
 /// The user interface of a job that runs without dialogs: it keeps what the model would tell a user, answers every
 /// question with OK or Yes, and opens nothing. It is installed while it lives.
-class Console : public IUserInterface {
+class Console : public ForwardingUserInterface {
 public:
     Console();
     ~Console() override;
@@ -28,22 +27,6 @@ public:
     void forget() { m_messages.clear(); }
 
     int messageBox(const CString& text, unsigned type) override;
-    bool openFile(const CString& /*filter*/, CString& /*path*/) override { return false; }
-    void runModal(CDialog& dialog) override;
-    void dialogOpened(CDialog& /*dialog*/) override {}
-    void dialogActivated(CDialog& /*dialog*/) override {}
-    void dialogClosed(CDialog& /*dialog*/) override {}
-    void sendCommand(unsigned /*number*/) override {}
-    void postCommand(unsigned /*number*/) override {}
-    void showPreferences(int /*page*/) override {}
-    void output(const CString& /*line*/) override {}
-    void history(const CString& /*line*/) override {}
-    void busy(const CString& /*text*/) override {}
-    bool startProcess(const CString& /*commandLine*/) override { return false; }
-    [[nodiscard]] CString programFolder() const override { return os::programFolder(); }
-    [[nodiscard]] std::chrono::system_clock::time_point now() const override { return std::chrono::system_clock::now(); }
-    [[nodiscard]] std::uint64_t physicalMemory() const override { return os::physicalMemory(); }
-    void modelingMode(int /*mode*/) override {}
 
 private:
     IUserInterface* m_former;

@@ -64,12 +64,12 @@ Json rowName(int row)
     return row == CTBGrid::append ? Json("append") : Json(row);
 }
 
-Json entryName(const std::vector<CString>& entries, int index)
+UserValue entryName(const std::vector<CString>& entries, int index)
 {
     const bool there = index >= 0 && index < static_cast<int>(entries.size());
     if (there && entryNamed(entries, entries[static_cast<std::size_t>(index)]) == index)
         return entries[static_cast<std::size_t>(index)];
-    return index;
+    return static_cast<double>(index);
 }
 
 }  // namespace zel

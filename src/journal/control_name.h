@@ -15,6 +15,6 @@ namespace zel {
 /// A row as a journal names it: its number from 0, or "append".
 [[nodiscard]] Json rowName(int row);
 /// What is entered to choose the entry at `index`: its text where that leads to it, else its number.
-[[nodiscard]] Json entryName(const std::vector<CString>& entries, int index);
+[[nodiscard]] UserValue entryName(const std::vector<CString>& entries, int index);
 
 }  // namespace zel

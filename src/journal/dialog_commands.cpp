@@ -3,10 +3,9 @@
 #include "contract/forms/control.h"
 #include "contract/forms/find_control.h"
 #include "contract/forms/open_dialogs.h"
-#include "journal/grid_commands.h"
+#include "journal/step_arguments.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 namespace zel {
@@ -39,62 +38,19 @@ Control& namedControl(const CDialog& dialog, const std::string& name)
     throw JsonFault("control", found.error);
 }
 
-void need(const Taken& taken)
+/// @throws JsonFault  when the verb has no meaning for the control
+void needFit(const Control& control, const VerbRow& verb, const std::string& calledAs)
 {
-    if (!taken)
-        throw JsonFault(taken.refusal);
+    if (!verb.isFor(control))
+        throw JsonFault("control", "\"" + calledAs + "\" " + verb.misfit());
 }
 
-struct KeyName {
-    const char* name;
-    UserKey key;
-};
-
-UserKey keyNamed(const std::string& name)
+UserStep readStep(const JournalCommand& command, const VerbRow& verb, const Control& control)
 {
-    static constexpr std::array<KeyName, 3> names{{{"Enter", UserKey::enter}, {"Escape", UserKey::escape}, {"Tab", UserKey::tab}}};
-    for (const KeyName& each : names) {
-        if (name == each.name)
-            return each.key;
-    }
-    throw JsonFault("value", "there is no key \"" + name + "\"; there are Enter, Escape and Tab");
-}
-
-Taken chooseTab(Control& control, const JournalCommand& command)
-{
-    if (control.kind() != Kind::tabs)
-        throw JsonFault("control", "\"" + command.text("control") + "\" has no tabs");
-    return control.choose(command.value("value"));
-}
-
-Taken spinOnce(Control& control, const JournalCommand& command)
-{
-    const int delta = command.integer("delta");
-    if (delta != 1 && delta != -1)
-        throw JsonFault("delta", "must be 1 for a click up or -1 for a click down");
-    return control.spin(delta);
-}
-
-Taken handPicked(Control& control, const JournalCommand& command)
-{
-    return control.pick(command.has("keys") ? command.keys("keys") : std::vector<Key>(), command.has("closed") && command.flag("closed"));
-}
-
-constexpr std::array<ControlCommand, 8> controlCommands{{
-    {"set", [](Control& control, const JournalCommand& command) { return control.set(command.value("value")); }},
-    {"press", [](Control& control, const JournalCommand&) { return control.press(); }},
-    {"select", [](Control& control, const JournalCommand& command) { return control.select(command.rows("rows")); }},
-    {"double_click", [](Control& control, const JournalCommand& command) { return control.doubleClick(command.integer("row")); }},
-    {"tick", [](Control& control, const JournalCommand& command) { return control.tick(command.integer("row"), command.flag("value")); }},
-    {"spin", spinOnce},
-    {"tab", chooseTab},
-    {"pick", handPicked},
-}};
-
-const ControlCommand* findCommand(std::span<const ControlCommand> commands, std::string_view name)
-{
-    const auto found = std::find_if(commands.begin(), commands.end(), [name](const ControlCommand& each) { return each.name == name; });
-    return found != commands.end() ? &*found : nullptr;
+    UserStep step{verb.verb};
+    for (const StepArgument* argument : verb.arguments)
+        argument->read(command, control, step);
+    return step;
 }
 
 }  // namespace
@@ -118,19 +74,25 @@ CDialog& addressedDialog(const JournalCommand& command)
     return *dialog;
 }
 
-void actOnControl(CDialog& dialog, const JournalCommand& command)
+void need(const Taken& taken)
 {
-    const ControlCommand* found = findCommand(controlCommands, command.name());
-    if (found == nullptr)
-        found = findCommand(gridCommands(), command.name());
-    if (found == nullptr)
+    if (!taken)
+        throw JsonFault(taken.refusal);
+}
+
+void actOnControl(const CDialog& dialog, const JournalCommand& command, const VerbRow& verb)
+{
+    if (verb.run == nullptr)
         throw JsonFault("do", "\"" + command.name() + "\" is no command of a control");
-    need(found->run(namedControl(dialog, command.text("control")), command));
+    const std::string& name = command.text("control");
+    Control& control = namedControl(dialog, name);
+    needFit(control, verb, name);
+    need(verb.run(control, readStep(command, verb, control)));
 }
 
 void pressKey(CDialog& dialog, const JournalCommand& command)
 {
-    const UserKey key = keyNamed(command.text("value"));
+    const UserKey key = keyOf(command);
     need(command.has("control") ? namedControl(dialog, command.text("control")).key(key) : dialog.userKey(key));
 }
 

@@ -8,7 +8,6 @@
 #include "journal/journal_events.h"
 #include "journal/model_commands.h"
 #include "journal/open_commands.h"
-#include "platform/os/machine.h"
 
 #include <algorithm>
 #include <array>
@@ -20,73 +19,23 @@ namespace zel {
 
 namespace {
 
-/// A command's fields beyond `do` and `dialog`.
-struct CommandForm {
-    std::string_view name;
-    std::vector<std::string_view> fields;
-};
-
-const std::vector<CommandForm>& commandForms()
+/// The verb of a command. A mistyped field would be left out in silence, and the command would do something else.
+/// @throws JsonFault  with the nearest name of a verb or a field
+const VerbRow& verbOf(const JournalCommand& command)
 {
-    static const std::vector<CommandForm> forms{
-        {"modal", {"number", "args", "flag"}},
-        {"modeless", {"id"}},
-        {"open", {"class", "args"}},
-        {"set", {"control", "value"}},
-        {"press", {"control"}},
-        {"select", {"control", "rows"}},
-        {"double_click", {"control", "row"}},
-        {"tick", {"control", "row", "value"}},
-        {"spin", {"control", "delta"}},
-        {"tab", {"control", "value"}},
-        {"cell", {"control", "row", "column", "text"}},
-        {"current", {"control", "row", "column"}},
-        {"leave_row", {"control"}},
-        {"escape", {"control"}},
-        {"delete_rows", {"control", "rows"}},
-        {"paste", {"control", "row", "column", "text"}},
-        {"drag_rows", {"control", "rows", "to"}},
-        {"drop", {"control", "row", "column", "text"}},
-        {"key", {"control", "value"}},
-        {"pick", {"control", "keys", "closed"}},
-        {"answer", {"with"}},
-        {"file", {"path"}},
-        {"close", {}},
-        {"activate", {}},
-        {"form", {}},
-        {"dialogs", {}},
-        {"db", {"op", "table", "kind", "key", "name", "keys", "names", "record", "newKey", "after"}},
-        {"units", {"length", "force"}},
-        {"view", {"select", "mode"}},
-        {"undo", {}},
-        {"redo", {}},
-    };
-    return forms;
-}
-
-/// A mistyped field would be left out in silence, and the command would do something else.
-void checkFields(const JournalCommand& command)
-{
-    std::vector<std::string_view> names;
-    const CommandForm* form = nullptr;
-    for (const CommandForm& each : commandForms()) {
-        names.push_back(each.name);
-        if (each.name == command.name())
-            form = &each;
-    }
-    if (form == nullptr)
+    const VerbRow* verb = findVerb(command.name());
+    if (verb == nullptr) {
+        std::vector<std::string_view> names;
+        for (const VerbRow& each : verbTable())
+            names.push_back(each.name);
         throw JsonFault("do", "there is no command \"" + command.name() + "\"" + didYouMean(command.name(), names));
+    }
     for (const auto& member : command.json().get_ref<const Json::object_t&>()) {
         const std::string& field = member.first;
-        if (field != "do" && field != "dialog" && std::find(form->fields.begin(), form->fields.end(), field) == form->fields.end())
-            throw JsonFault(field, command.name() + " has no such field" + didYouMean(field, form->fields));
+        if (field != "do" && field != "dialog" && std::ranges::find(verb->fields, field) == verb->fields.end())
+            throw JsonFault(field, command.name() + " has no such field" + didYouMean(field, verb->fields));
     }
-}
-
-void need(const Taken& taken)
-{
-    if (!taken)
-        throw JsonFault(taken.refusal);
+    return *verb;
 }
 
 Json openDialogNames()
@@ -100,7 +49,8 @@ Json openDialogNames()
 }  // namespace
 
 JournalPlayer::JournalPlayer(CDBDoc& document, std::istream& script, std::ostream& transcript, JournalOptions options)
-    : m_document(document),
+    : ForwardingUserInterface(options.watching, options.watching, userInterface()),
+      m_document(document),
       m_script(script),
       m_transcript(transcript),
       m_options(std::move(options)),
@@ -202,50 +152,48 @@ void JournalPlayer::carryOut(const std::string& line)
 std::optional<Json> JournalPlayer::perform(const JournalCommand& command)
 {
     const UserAction action;  // dialogs that are closed meanwhile live to its end
-    checkFields(command);
-    const std::string& name = command.name();
-    if (name == "modal") {
-        const int value = runModalDialog(m_document, command);
-        event(returnedEvent(value));
+    const VerbRow& verb = verbOf(command);
+    switch (verb.verb) {
+    case Verb::modal:
+        event(returnedEvent(runModalDialog(m_document, command)));
         return {};
-    }
-    if (name == "modeless")
+    case Verb::modeless:
         return openModelessDialog(command);
-    if (name == "open") {
+    case Verb::open:
         openDialogOfClass(command);
         return {};
-    }
-    if (name == "answer")
+    case Verb::answer:
         return queueAnswer(command);
-    if (name == "file")
+    case Verb::file:
         return queueFile(command);
-    if (name == "dialogs")
+    case Verb::dialogs:
         return openDialogNames();
-    if (name == "db")
+    case Verb::db:
         return actOnTable(m_document, command);
-    if (name == "units")
+    case Verb::units:
         return changeUnits(m_document, command);
-    if (name == "view")
+    case Verb::view:
         return view(command);
-    if (name == "undo")
+    case Verb::undo:
         return m_document.Undo();
-    if (name == "redo")
+    case Verb::redo:
         return m_document.Redo();
-    if (name == "activate")
+    case Verb::form:
+        return formToJson(addressedDialog(command));
+    case Verb::close:
+        need(addressedDialog(command).userClose());
+        return {};
+    case Verb::activate:
         (void)command.at("dialog");
-
-    CDialog& dialog = addressedDialog(command);
-    if (name == "form")
-        return formToJson(dialog);
-    if (name == "close")
-        need(dialog.userClose());
-    else if (name == "activate")
-        need(dialog.userActivate());
-    else if (name == "key")
-        pressKey(dialog, command);
-    else
-        actOnControl(dialog, command);
-    return {};
+        need(addressedDialog(command).userActivate());
+        return {};
+    case Verb::key:
+        pressKey(addressedDialog(command), command);
+        return {};
+    default:
+        actOnControl(addressedDialog(command), command, verb);
+        return {};
+    }
 }
 
 void JournalPlayer::runPostedCommands()
@@ -310,7 +258,7 @@ std::optional<Json> JournalPlayer::view(const JournalCommand& command)
     return {};
 }
 
-// IUserInterface
+// ForwardingUserInterface
 
 int JournalPlayer::messageBox(const CString& text, unsigned type)
 {
@@ -358,19 +306,19 @@ void JournalPlayer::runModal(CDialog& dialog)
 void JournalPlayer::dialogOpened(CDialog& dialog)
 {
     event(openedEvent(dialog));
-    show(&IUserInterface::dialogOpened, dialog);
+    ForwardingUserInterface::dialogOpened(dialog);
 }
 
 void JournalPlayer::dialogActivated(CDialog& dialog)
 {
     event(activatedEvent(dialog));
-    show(&IUserInterface::dialogActivated, dialog);
+    ForwardingUserInterface::dialogActivated(dialog);
 }
 
 void JournalPlayer::dialogClosed(CDialog& dialog)
 {
     event(closedEvent(dialog));
-    show(&IUserInterface::dialogClosed, dialog);
+    ForwardingUserInterface::dialogClosed(dialog);
 }
 
 void JournalPlayer::sendCommand(unsigned number)
@@ -390,21 +338,16 @@ void JournalPlayer::showPreferences(int /*page*/)
     // They are the host's own: no script could close them again.
 }
 
-void JournalPlayer::busy(const CString& text)
-{
-    show(&IUserInterface::busy, text);
-}
-
 void JournalPlayer::output(const CString& line)
 {
     event(outputEvent(line));
-    show(&IUserInterface::output, line);
+    ForwardingUserInterface::output(line);
 }
 
 void JournalPlayer::history(const CString& line)
 {
     event(historyEvent(line));
-    show(&IUserInterface::history, line);
+    ForwardingUserInterface::history(line);
 }
 
 bool JournalPlayer::startProcess(const CString& commandLine)
@@ -413,31 +356,16 @@ bool JournalPlayer::startProcess(const CString& commandLine)
     return true;  // a script starts no outside program: nobody sits before its window
 }
 
-CString JournalPlayer::programFolder() const
-{
-    return m_former != nullptr ? m_former->programFolder() : os::programFolder();
-}
-
-std::chrono::system_clock::time_point JournalPlayer::now() const
-{
-    return m_former != nullptr ? m_former->now() : std::chrono::system_clock::now();
-}
-
-std::uint64_t JournalPlayer::physicalMemory() const
-{
-    return m_former != nullptr ? m_former->physicalMemory() : os::physicalMemory();
-}
-
 void JournalPlayer::gridWarning(Control& grid, const CString& text)
 {
     event(warningEvent(grid, text));
-    show(&IUserInterface::gridWarning, grid, text);
+    ForwardingUserInterface::gridWarning(grid, text);
 }
 
 void JournalPlayer::modelingMode(int mode)
 {
     event(modeEvent(mode));
-    show(&IUserInterface::modelingMode, mode);
+    ForwardingUserInterface::modelingMode(mode);
 }
 
 // CDBUpdateConnector

@@ -2,11 +2,11 @@
 
 #include "contract/document.h"
 #include "contract/notices.h"
-#include "contract/user_interface.h"
 #include "journal/host_commands.h"
 #include "journal/journal_command.h"
 #include "journal/journal_reply.h"
 #include "journal/journal_script.h"
+#include "platform/forms/forwarding_user_interface.h"
 #include "platform/forms/headless_user_interface.h"
 
 #include <deque>
@@ -14,7 +14,6 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
-#include <utility>
 
 namespace zel {
 
@@ -43,7 +42,7 @@ struct JournalOptions {
 ///
 /// A modal dialog runs inside the command that opened it: the player goes on reading there until the dialog has ended. The
 /// reply to a command is written when the player is about to read the next one.
-class JournalPlayer final : private IUserInterface, private CDBUpdateConnector {
+class JournalPlayer final : private ForwardingUserInterface, private CDBUpdateConnector {
 public:
     JournalPlayer(CDBDoc& document, std::istream& script, std::ostream& transcript, JournalOptions options = {});
     ~JournalPlayer() override;
@@ -68,19 +67,13 @@ private:
     void runPostedCommands();
     void runHostCommand(unsigned number);
     void event(Json what);
-    /// Tells who watches, if anybody does.
-    template <class... Parameters, class... Arguments> void show(void (IUserInterface::*what)(Parameters...), Arguments&&... arguments)
-    {
-        if (m_options.watching != nullptr)
-            (m_options.watching->*what)(std::forward<Arguments>(arguments)...);
-    }
 
     // Commands.
     std::optional<Json> queueAnswer(const JournalCommand& command);
     std::optional<Json> queueFile(const JournalCommand& command);
     std::optional<Json> view(const JournalCommand& command);
 
-    // IUserInterface
+    // ForwardingUserInterface
     int messageBox(const CString& text, unsigned type) override;
     bool openFile(const CString& filter, CString& path) override;
     void runModal(CDialog& dialog) override;
@@ -92,11 +85,7 @@ private:
     void showPreferences(int page) override;
     void output(const CString& line) override;
     void history(const CString& line) override;
-    void busy(const CString& text) override;
     bool startProcess(const CString& commandLine) override;
-    [[nodiscard]] CString programFolder() const override;
-    [[nodiscard]] std::chrono::system_clock::time_point now() const override;
-    [[nodiscard]] std::uint64_t physicalMemory() const override;
     void gridWarning(Control& grid, const CString& text) override;
     void modelingMode(int mode) override;
 

@@ -7,7 +7,6 @@
 #include "journal/journal_events.h"
 #include "journal/model_commands.h"
 #include "journal/step_commands.h"
-#include "platform/os/machine.h"
 
 #include <algorithm>
 #include <iterator>
@@ -41,7 +40,7 @@ void JournalRecorder::append(Held& held, Held more)
 }
 
 JournalRecorder::JournalRecorder(CDBDoc& document, std::ostream& journal, RecorderOptions options)
-    : m_document(document), m_journal(journal), m_options(std::move(options)), m_former(setUserInterface(this))
+    : ForwardingUserInterface(userInterface()), m_document(document), m_journal(journal), m_options(std::move(options)), m_former(setUserInterface(this))
 {
 }
 
@@ -72,12 +71,12 @@ void JournalRecorder::writeStart(const HostCommands& host)
         if (id.empty())
             note("The dialog \"" + (*dialog)->GetWindowText() + "\" was open. No command opens it here.");
         else
-            begin(with(commandNamed("modeless"), "id", id));
+            begin(with(commandNamed(Verb::modeless), "id", id));
     }
     if (const T_SELECTION selection = m_document.GetViewCtrl()->selection(); selection != T_SELECTION{})
-        begin(with(commandNamed("view"), "select", selectionToJson(selection)));
+        begin(with(commandNamed(Verb::view), "select", selectionToJson(selection)));
     if (host.isPost())
-        begin(with(commandNamed("view"), "mode", "model"));
+        begin(with(commandNamed(Verb::view), "mode", "model"));
     writeHeld();
 }
 
@@ -229,127 +228,85 @@ void JournalRecorder::answered(Json answer)
     answers.push_back(std::move(answer));
 }
 
-// IUserInterface
+// ForwardingUserInterface
 
 int JournalRecorder::messageBox(const CString& text, unsigned type)
 {
     const bool question = type == MB_YESNO;
-    const int answer = m_former != nullptr ? m_former->messageBox(text, type) : (question ? IDYES : IDOK);
+    const int answer = ForwardingUserInterface::messageBox(text, type);
     const char* name = !question ? "ok" : answer == IDNO ? "no" : "yes";
     if (question)  // an OK box takes no answer of a script that was meant for a question
-        answered(with(commandNamed("answer"), "with", name));
+        answered(with(commandNamed(Verb::answer), "with", name));
     event(messageEvent(text, question, name));
     return answer;
 }
 
 bool JournalRecorder::openFile(const CString& filter, CString& path)
 {
-    const bool chosen = m_former != nullptr && m_former->openFile(filter, path);
-    answered(with(commandNamed("file"), "path", chosen ? Json(path) : Json()));
+    const bool chosen = ForwardingUserInterface::openFile(filter, path);
+    answered(with(commandNamed(Verb::file), "path", chosen ? Json(path) : Json()));
     event(fileEvent(filter, chosen ? std::optional<CString>(path) : std::nullopt));
     return chosen;
-}
-
-void JournalRecorder::runModal(CDialog& dialog)
-{
-    if (m_former != nullptr)
-        m_former->runModal(dialog);
 }
 
 void JournalRecorder::dialogOpened(CDialog& dialog)
 {
     event(openedEvent(dialog));
-    if (m_former != nullptr)
-        m_former->dialogOpened(dialog);
+    ForwardingUserInterface::dialogOpened(dialog);
 }
 
 void JournalRecorder::dialogActivated(CDialog& dialog)
 {
     event(activatedEvent(dialog));
-    if (m_former != nullptr)
-        m_former->dialogActivated(dialog);
+    ForwardingUserInterface::dialogActivated(dialog);
 }
 
 void JournalRecorder::dialogClosed(CDialog& dialog)
 {
     event(closedEvent(dialog));
-    if (m_former != nullptr)
-        m_former->dialogClosed(dialog);
+    ForwardingUserInterface::dialogClosed(dialog);
 }
 
 void JournalRecorder::sendCommand(unsigned number)
 {
     event(hostCommandEvent(number, false));
-    if (m_former != nullptr)
-        m_former->sendCommand(number);
+    ForwardingUserInterface::sendCommand(number);
 }
 
 void JournalRecorder::postCommand(unsigned number)
 {
     event(hostCommandEvent(number, true));
-    if (m_former != nullptr)
-        m_former->postCommand(number);
-}
-
-void JournalRecorder::showPreferences(int page)
-{
-    if (m_former != nullptr)
-        m_former->showPreferences(page);
+    ForwardingUserInterface::postCommand(number);
 }
 
 void JournalRecorder::output(const CString& line)
 {
     event(outputEvent(line));
-    if (m_former != nullptr)
-        m_former->output(line);
+    ForwardingUserInterface::output(line);
 }
 
 void JournalRecorder::history(const CString& line)
 {
     event(historyEvent(line));
-    if (m_former != nullptr)
-        m_former->history(line);
-}
-
-void JournalRecorder::busy(const CString& text)
-{
-    if (m_former != nullptr)
-        m_former->busy(text);
+    ForwardingUserInterface::history(line);
 }
 
 bool JournalRecorder::startProcess(const CString& commandLine)
 {
     event(processEvent(commandLine));
-    return m_former != nullptr && m_former->startProcess(commandLine);
-}
-
-CString JournalRecorder::programFolder() const
-{
-    return m_former != nullptr ? m_former->programFolder() : os::programFolder();
-}
-
-std::chrono::system_clock::time_point JournalRecorder::now() const
-{
-    return m_former != nullptr ? m_former->now() : std::chrono::system_clock::now();
-}
-
-std::uint64_t JournalRecorder::physicalMemory() const
-{
-    return m_former != nullptr ? m_former->physicalMemory() : os::physicalMemory();
+    return ForwardingUserInterface::startProcess(commandLine);
 }
 
 void JournalRecorder::gridWarning(Control& grid, const CString& text)
 {
     event(warningEvent(grid, text));
-    if (m_former != nullptr)
-        m_former->gridWarning(grid, text);
+    ForwardingUserInterface::gridWarning(grid, text);
 }
 
 void JournalRecorder::modelingMode(int mode)
 {
     event(modeEvent(mode));
-    if (m_former != nullptr)
-        m_former->modelingMode(mode);
+    ForwardingUserInterface::modelingMode(mode);
 }
 
 // CDBUpdateConnector

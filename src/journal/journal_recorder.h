@@ -2,9 +2,9 @@
 
 #include "contract/document.h"
 #include "contract/notices.h"
-#include "contract/user_interface.h"
 #include "journal/journal_reply.h"
 #include "journal/recorder_ticket.h"
+#include "platform/forms/forwarding_user_interface.h"
 
 #include <functional>
 #include <iosfwd>
@@ -29,7 +29,7 @@ struct RecorderOptions {
 ///
 /// A command is written when the next one begins, because answers to what it asks belong before it. Until then it may be changed
 /// or taken back. A line that is written has left the program.
-class JournalRecorder final : private IUserInterface, private CDBUpdateConnector {
+class JournalRecorder final : private ForwardingUserInterface, private CDBUpdateConnector {
 public:
     JournalRecorder(CDBDoc& document, std::ostream& journal, RecorderOptions options = {});
     ~JournalRecorder() override;
@@ -85,20 +85,14 @@ private:
     // IUserInterface
     int messageBox(const CString& text, unsigned type) override;
     bool openFile(const CString& filter, CString& path) override;
-    void runModal(CDialog& dialog) override;
     void dialogOpened(CDialog& dialog) override;
     void dialogActivated(CDialog& dialog) override;
     void dialogClosed(CDialog& dialog) override;
     void sendCommand(unsigned number) override;
     void postCommand(unsigned number) override;
-    void showPreferences(int page) override;
     void output(const CString& line) override;
     void history(const CString& line) override;
-    void busy(const CString& text) override;
     bool startProcess(const CString& commandLine) override;
-    [[nodiscard]] CString programFolder() const override;
-    [[nodiscard]] std::chrono::system_clock::time_point now() const override;
-    [[nodiscard]] std::uint64_t physicalMemory() const override;
     void gridWarning(Control& grid, const CString& text) override;
     void modelingMode(int mode) override;
 

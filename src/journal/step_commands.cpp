@@ -5,71 +5,50 @@
 #include "contract/forms/open_dialogs.h"
 #include "contract/forms/tabs.h"
 #include "journal/control_name.h"
+#include "journal/step_arguments.h"
+
+#include <string>
 
 namespace zel {
 
-namespace {
-
-const char* keyText(UserKey key)
+Json commandNamed(Verb verb)
 {
-    switch (key) {
-    case UserKey::enter:
-        return "Enter";
-    case UserKey::escape:
-        return "Escape";
-    case UserKey::tab:
-        break;
-    }
-    return "Tab";
+    return Json::object({{"do", std::string(rowOf(verb).name)}});
 }
 
-}  // namespace
-
-Json commandNamed(const char* name)
-{
-    return Json::object({{"do", name}});
-}
-
-Json commandTo(const char* name, const CDialog& dialog)
+Json commandTo(Verb verb, const CDialog& dialog)
 {
     const CDialog& form = dialog.root();
-    Json command = commandNamed(name);
+    Json command = commandNamed(verb);
     if (&form != activeDialog())
         command["dialog"] = form.ClassName();
     return command;
 }
 
-Json commandTo(const char* name, const Control& control)
+Json commandOf(const UserStep& step, const Control& control)
 {
-    return with(commandTo(name, control.dialog()), "control", controlName(control));
+    Json command = with(commandTo(step.verb, control.dialog()), "control", controlName(control));
+    for (const StepArgument* argument : rowOf(step.verb).arguments)
+        command[std::string(argument->name)] = argument->write(step, control);
+    return command;
 }
 
-Json commandAt(const char* name, const CTBGrid& grid, int row, int column)
+Json keyCommand(const CDialog& dialog, UserKey key)
 {
-    return with(with(commandTo(name, grid), "row", rowName(row)), "column", columnName(grid, column));
+    return with(commandTo(Verb::key, dialog), "value", keyName(key));
 }
 
-Json keyCommand(const CDialog& dialog, const Control* control, UserKey key)
-{
-    return with(control != nullptr ? commandTo("key", *control) : commandTo("key", dialog), "value", keyText(key));
-}
-
-Json chooseCommand(const Control& control, int index)
+UserStep choosing(const Control& control, int index)
 {
     if (const auto* combo = dynamic_cast<const CComboBox*>(&control))
-        return with(commandTo("set", control), "value", entryName(combo->items(), index));
+        return {.verb = Verb::set, .value = entryName(combo->items(), index)};
     if (const auto* tabs = dynamic_cast<const CDlgTabCtrl*>(&control)) {
         std::vector<CString> titles;
         for (int i = 0; i < tabs->GetPageCount(); ++i)
             titles.push_back(tabs->GetTitle(i));
-        return with(commandTo("tab", control), "value", entryName(titles, index));
+        return {.verb = Verb::tab, .value = entryName(titles, index)};
     }
-    return with(commandTo("select", control), "rows", Json::array({index}));
-}
-
-Json toJson(const UserValue& value)
-{
-    return std::visit([](const auto& each) { return Json(each); }, value);
+    return {.verb = Verb::select, .rows = {index}};
 }
 
 }  // namespace zel

@@ -152,7 +152,7 @@ template <class Act> Taken UserHand::moveFocus(const CDialog& form, Act act)
     finish();
     auto* grid = dynamic_cast<CTBBrowserWnd*>(form.GetFocus());
     const bool edited = grid != nullptr && grid->IsEdit();
-    const Json leaving = edited && m_recorder != nullptr ? commandTo("leave_row", *grid) : Json();
+    const Json leaving = edited && m_recorder != nullptr ? commandOf({Verb::leaveRow}, *grid) : Json();
     const JournalRecorder::Ticket ticket = begin(nothing);
     Taken taken = act();
     if (edited && grid->IsWindow() && !grid->IsEdit()) {
@@ -210,7 +210,7 @@ void UserHand::forgetCell(Typing& typing)
 {
     const auto& grid = static_cast<const CTBBrowserWnd&>(*typing.control);
     const bool clicked = typing.opened && typing.moved && !isFrozen(grid, typing.column);
-    if (!clicked || !replace(typing.ticket, [&] { return commandAt("current", grid, typing.row, typing.column); }))
+    if (!clicked || !replace(typing.ticket, [&] { return commandOf({.verb = Verb::current, .row = typing.row, .column = typing.column}, grid); }))
         takeBack(typing.ticket);
     typing.ticket = 0;
     typing.typed = false;
@@ -225,7 +225,7 @@ CDialog* UserHand::modeless(unsigned id)
     CDialog* opened = nullptr;
     if (row == modelessDialogs.end())
         return opened;
-    (void)step([&] { return with(commandNamed("modeless"), "id", std::string(row->name)); },
+    (void)step([&] { return with(commandNamed(Verb::modeless), "id", std::string(row->name)); },
                [&](JournalRecorder::Ticket ticket) {
                    opened = CMD_DoModeless(id, nullptr);
                    if (m_recorder != nullptr)
@@ -238,7 +238,7 @@ CDialog* UserHand::modeless(unsigned id)
 int UserHand::modal(unsigned number)
 {
     int code = 0;
-    (void)step([&] { return with(commandNamed("modal"), "number", number); },
+    (void)step([&] { return with(commandNamed(Verb::modal), "number", number); },
                [&](JournalRecorder::Ticket) {
                    code = CMD_DoModal(number, nullptr, 0);
                    if (m_recorder != nullptr)
@@ -251,7 +251,7 @@ int UserHand::modal(unsigned number)
 bool UserHand::open(std::string_view className)
 {
     const std::string name(className);
-    return step([&] { return with(commandNamed("open"), "class", name); },
+    return step([&] { return with(commandNamed(Verb::open), "class", name); },
                 [&](JournalRecorder::Ticket) -> Taken {
                     try {
                         openDialogOfClass(name, 0);
@@ -277,23 +277,23 @@ template <class Describe, class Change> int UserHand::change(Describe describe, 
 
 int UserHand::undo(CDBDoc& document)
 {
-    return change([] { return commandNamed("undo"); }, [&] { return document.Undo(); });
+    return change([] { return commandNamed(Verb::undo); }, [&] { return document.Undo(); });
 }
 
 int UserHand::redo(CDBDoc& document)
 {
-    return change([] { return commandNamed("redo"); }, [&] { return document.Redo(); });
+    return change([] { return commandNamed(Verb::redo); }, [&] { return document.Redo(); });
 }
 
 int UserHand::units(CDBDoc& document, const T_UNIT_INDEX& index)
 {
-    return change([&] { return with(with(commandNamed("units"), "length", lengthUnitName(index.length)), "force", forceUnitName(index.force)); },
+    return change([&] { return with(with(commandNamed(Verb::units), "length", lengthUnitName(index.length)), "force", forceUnitName(index.force)); },
                   [&] { return document.GetUnitCtrl()->SetUnitIndexCurrent(index, 1); });
 }
 
 void UserHand::select(CDBDoc& document, const T_SELECTION& selection)
 {
-    (void)step([&] { return with(commandNamed("view"), "select", selectionToJson(selection)); },
+    (void)step([&] { return with(commandNamed(Verb::view), "select", selectionToJson(selection)); },
                [&](JournalRecorder::Ticket) {
                    document.GetViewCtrl()->select(selection, true);
                    return Taken{};
@@ -302,7 +302,7 @@ void UserHand::select(CDBDoc& document, const T_SELECTION& selection)
 
 void UserHand::mode(CDBDoc& document, HostCommands& commands, bool post)
 {
-    (void)step([&] { return with(commandNamed("view"), "mode", post ? "model" : "post"); },  // the mode that is left
+    (void)step([&] { return with(commandNamed(Verb::view), "mode", post ? "model" : "post"); },  // the mode that is left
                [&](JournalRecorder::Ticket) {
                    commands.leave(!post);
                    document.notify(nullptr, post ? Hint::leaveModel : Hint::leavePost, nullptr);
@@ -316,7 +316,7 @@ Taken UserHand::activate(CDialog& dialog)
 {
     if (activeDialog() == &dialog.root())
         return dialog.reach();
-    return step([&] { return commandTo("activate", dialog); }, [&](JournalRecorder::Ticket) { return dialog.userActivate(); });
+    return step([&] { return commandTo(Verb::activate, dialog); }, [&](JournalRecorder::Ticket) { return dialog.userActivate(); });
 }
 
 Taken UserHand::close(CDialog& dialog)
@@ -324,7 +324,7 @@ Taken UserHand::close(CDialog& dialog)
     if (Taken free = locked(); !free)
         return free;
     return stepThatMayClose(
-        dialog, [&] { return commandTo("close", dialog); }, [&](JournalRecorder::Ticket) { return dialog.userClose(); });
+        dialog, [&] { return commandTo(Verb::close, dialog); }, [&](JournalRecorder::Ticket) { return dialog.userClose(); });
 }
 
 Taken UserHand::key(CDialog& dialog, UserKey key)
@@ -333,12 +333,13 @@ Taken UserHand::key(CDialog& dialog, UserKey key)
         return free;
     const bool typed = isTypedInto(dialog);
     if (auto* grid = typed ? dynamic_cast<CTBBrowserWnd*>(m_typing.control) : nullptr)
-        return this->key(*grid, key);
+        return this->act(*grid, {.verb = Verb::key, .key = key});
     Control* focused = typed ? m_typing.control : dialog.GetFocus();
     if (focused != nullptr && !(focused->IsWindowVisible() && focused->IsWindowEnabled()))
         focused = nullptr;
-    const auto describe = [&] { return keyCommand(dialog, focused, key); };
-    const auto act = [&](JournalRecorder::Ticket) { return focused != nullptr ? focused->key(key) : dialog.userKey(key); };
+    const UserStep pressed{.verb = Verb::key, .key = key};
+    const auto describe = [&] { return focused != nullptr ? commandOf(pressed, *focused) : keyCommand(dialog, key); };
+    const auto act = [&](JournalRecorder::Ticket) { return focused != nullptr ? perform(*focused, pressed) : dialog.userKey(key); };
     return key == UserKey::escape ? stepThatMayClose(dialog, describe, act) : step(describe, act);
 }
 
@@ -367,7 +368,7 @@ Taken UserHand::type(CEdit& field, const CString& text)
         if (Taken focused = focus(field); !focused)
             return focused;
     }
-    const auto setTo = [&field](const CString& value) { return [&field, value] { return with(commandTo("set", field), "value", value); }; };
+    const auto setTo = [&field](const CString& value) { return [&field, value] { return commandOf({.verb = Verb::set, .value = value}, field); }; };
     const Typing former = std::exchange(m_typing, {});  // commands may come while it is being typed
     const bool goesOn = former.control == &field && replace(former.ticket, setTo(text));
     Typing typing{&field, &field.dialog().root(), goesOn ? former.ticket : begin(setTo(text)), text};
@@ -386,54 +387,26 @@ Taken UserHand::type(CEdit& field, const CString& text)
     return taken;
 }
 
-Taken UserHand::set(Control& control, const UserValue& value)
+Taken UserHand::act(Control& control, const UserStep& what)
 {
-    return step([&] { return with(commandTo("set", control), "value", toJson(value)); }, [&](JournalRecorder::Ticket) { return control.set(value); });
-}
-
-Taken UserHand::press(Control& control)
-{
-    return step([&] { return commandTo("press", control); }, [&](JournalRecorder::Ticket) { return control.press(); });
+    if (Taken free = locked(); !free)
+        return free;
+    if (!rowOf(what.verb).isFor(control))
+        return perform(control, what);  // refuses it
+    const auto describe = [&] { return commandOf(what, control); };
+    const auto act = [&](JournalRecorder::Ticket) { return perform(control, what); };
+    const bool escapes = what.verb == Verb::escape || (what.verb == Verb::key && what.key == UserKey::escape);
+    const bool givesCellUp = escapes && m_typing.control == &control && dynamic_cast<CTBBrowserWnd*>(&control) != nullptr;
+    return givesCellUp ? giveUp(describe, act) : step(describe, act);
 }
 
 Taken UserHand::choose(Control& control, int index)
 {
-    return step([&] { return chooseCommand(control, index); }, [&](JournalRecorder::Ticket) { return control.choose(static_cast<double>(index)); });
-}
-
-Taken UserHand::select(Control& control, const std::vector<int>& rows)
-{
-    return step([&] { return with(commandTo("select", control), "rows", rows); }, [&](JournalRecorder::Ticket) { return control.select(rows); });
-}
-
-Taken UserHand::doubleClick(Control& control, int row)
-{
-    return step([&] { return with(commandTo("double_click", control), "row", row); }, [&](JournalRecorder::Ticket) { return control.doubleClick(row); });
-}
-
-Taken UserHand::tick(Control& control, int row, bool on)
-{
-    return step([&] { return with(with(commandTo("tick", control), "row", row), "value", on); },
-                [&](JournalRecorder::Ticket) { return control.tick(row, on); });
-}
-
-Taken UserHand::spin(Control& control, int delta)
-{
-    return step([&] { return with(commandTo("spin", control), "delta", delta); }, [&](JournalRecorder::Ticket) { return control.spin(delta); });
-}
-
-Taken UserHand::pick(Control& control, const std::vector<Key>& keys, bool closed)
-{
-    return step([&] { return with(with(commandTo("pick", control), "keys", keys), "closed", closed); },
-                [&](JournalRecorder::Ticket) { return control.pick(keys, closed); });
+    return step([&] { return commandOf(choosing(control, index), control); },
+                [&](JournalRecorder::Ticket) { return control.choose(static_cast<double>(index)); });
 }
 
 // Grids
-
-Taken UserHand::clickCell(CTBBrowserWnd& grid, int row, int column)
-{
-    return step([&] { return commandAt("current", grid, row, column); }, [&](JournalRecorder::Ticket) { return grid.clickCell(row, column); });
-}
 
 Taken UserHand::openCell(CTBBrowserWnd& grid, int row, int column)
 {
@@ -445,7 +418,7 @@ Taken UserHand::openCell(CTBBrowserWnd& grid, int row, int column)
     const Cell refused = openCellOf(grid);  // what is open still
     const bool moved = currentCell(grid) != wanted || !grid.GetSelectedRows().empty();
     JournalRecorder::Ticket ticket = 0;
-    Taken taken = step([&] { return commandAt("current", grid, row, column); },
+    Taken taken = step([&] { return commandOf({.verb = Verb::current, .row = row, .column = column}, grid); },
                        [&](JournalRecorder::Ticket given) {
                            ticket = given;
                            return grid.openCell(row, column);
@@ -471,7 +444,7 @@ Taken UserHand::typeText(CTBBrowserWnd& grid, const CString& text)
     }
     m_typing.text = text;
     m_typing.typed = true;
-    const auto describe = [&] { return with(commandAt("cell", grid, m_typing.row, m_typing.column), "text", text); };
+    const auto describe = [&] { return commandOf({.verb = Verb::cell, .row = m_typing.row, .column = m_typing.column, .text = text}, grid); };
     if (!replace(m_typing.ticket, describe))
         m_typing.ticket = begin(describe);
     return {};
@@ -487,60 +460,9 @@ Taken UserHand::leaveCell(CTBBrowserWnd& grid)
     const Cell open = openCellOf(grid);
     if (open.column < 0)
         return grid.leaveCell();
-    return step([&] { return with(commandAt("cell", grid, open.row, open.column), "text", grid.TextAt(grid.GetEditRow(), grid.GetOpenCell())); },
+    const CString text = grid.TextAt(grid.GetEditRow(), grid.GetOpenCell());
+    return step([&] { return commandOf({.verb = Verb::cell, .row = open.row, .column = open.column, .text = text}, grid); },
                 [&](JournalRecorder::Ticket) { return grid.leaveCell(); });
-}
-
-Taken UserHand::typeCell(CTBBrowserWnd& grid, int row, int column, const CString& text)
-{
-    return step([&] { return with(commandAt("cell", grid, row, column), "text", text); },
-                [&](JournalRecorder::Ticket) { return grid.typeCell(row, column, text); });
-}
-
-Taken UserHand::leaveRow(CTBBrowserWnd& grid)
-{
-    return step([&] { return commandTo("leave_row", grid); }, [&](JournalRecorder::Ticket) { return grid.leaveRow(); });
-}
-
-Taken UserHand::escape(CTBBrowserWnd& grid)
-{
-    if (Taken free = locked(); !free)
-        return free;
-    const auto describe = [&] { return commandTo("escape", grid); };
-    const auto act = [&](JournalRecorder::Ticket) { return grid.escape(); };
-    return m_typing.control == &grid ? giveUp(describe, act) : step(describe, act);
-}
-
-Taken UserHand::key(CTBBrowserWnd& grid, UserKey key)
-{
-    if (Taken free = locked(); !free)
-        return free;
-    const auto describe = [&] { return keyCommand(grid.dialog(), &grid, key); };
-    const auto act = [&](JournalRecorder::Ticket) { return static_cast<Control&>(grid).key(key); };
-    return key == UserKey::escape && m_typing.control == &grid ? giveUp(describe, act) : step(describe, act);
-}
-
-Taken UserHand::deleteRows(CTBBrowserWnd& grid, const std::vector<int>& rows)
-{
-    return step([&] { return with(commandTo("delete_rows", grid), "rows", rows); }, [&](JournalRecorder::Ticket) { return grid.deleteRows(rows); });
-}
-
-Taken UserHand::paste(CTBBrowserWndEx& grid, int row, int column, const CString& text)
-{
-    return step([&] { return with(commandAt("paste", grid, row, column), "text", text); },
-                [&](JournalRecorder::Ticket) { return grid.paste(row, column, text); });
-}
-
-Taken UserHand::dragRows(CTBBrowserWndEx& grid, const std::vector<int>& rows, int to)
-{
-    return step([&] { return with(with(commandTo("drag_rows", grid), "rows", rows), "to", rowName(to)); },
-                [&](JournalRecorder::Ticket) { return grid.dragRows(rows, to); });
-}
-
-Taken UserHand::dropText(CTBBrowserWnd& grid, int row, int column, const CString& text)
-{
-    return step([&] { return with(commandAt("drop", grid, row, column), "text", text); },
-                [&](JournalRecorder::Ticket) { return grid.dropText(row, column, text); });
 }
 
 Taken UserHand::dragColumns(CTBBrowserWndEx& grid, int first, int last, int to)
@@ -555,7 +477,7 @@ Taken UserHand::resizeColumn(CTBBrowserWnd& grid, int column, int width)
 
 Taken UserHand::goToCell(CTBBrowserWnd& grid, int row, int column)
 {
-    return currentCell(grid) == Cell{row, column} ? locked() : clickCell(grid, row, column);
+    return currentCell(grid) == Cell{row, column} ? locked() : act(grid, {.verb = Verb::current, .row = row, .column = column});
 }
 
 Taken UserHand::doubleClickCell(CTBBrowserWnd& grid, int row, int column)
@@ -564,7 +486,7 @@ Taken UserHand::doubleClickCell(CTBBrowserWnd& grid, int row, int column)
         return there;
     const auto act = [&](JournalRecorder::Ticket) { return grid.doubleClickCell(row, column); };
     if (currentCell(grid) == Cell{row, column})  // the command double-clicks the row at the current cell
-        return step([&] { return with(commandTo("double_click", grid), "row", row); }, act);
+        return step([&] { return commandOf({.verb = Verb::doubleClick, .row = row}, grid); }, act);
     return unrecorded("A cell was double-clicked. No command does that.", [&] { return act(0); });
 }
 

@@ -6,6 +6,7 @@
 #include "contract/records/unit_index.h"
 #include "contract/view_ctrl.h"
 #include "journal/recorder_ticket.h"
+#include "journal/user_step.h"
 
 #include <string>
 #include <string_view>
@@ -70,31 +71,17 @@ public:
     Taken leave(Control& control);
     /// Replaces the text of a field as typing does; written when the field is left.
     Taken type(CEdit& field, const CString& text);
-    Taken set(Control& control, const UserValue& value);
-    Taken press(Control& control);
+    /// Takes a step that a journal has a verb for.
+    Taken act(Control& control, const UserStep& what);
+    /// Chooses an entry of a combo box, a tab or a row of a list, which keeps the focus.
     Taken choose(Control& control, int index);
-    Taken select(Control& control, const std::vector<int>& rows);
-    Taken doubleClick(Control& control, int row);
-    Taken tick(Control& control, int row, bool on);
-    Taken spin(Control& control, int delta);
-    Taken pick(Control& control, const std::vector<Key>& keys, bool closed);
 
     // Grids.
 
-    Taken clickCell(CTBBrowserWnd& grid, int row, int column);
     Taken openCell(CTBBrowserWnd& grid, int row, int column);
     /// Types into the open cell; written, as an edit of the whole cell, when it is left.
     Taken typeText(CTBBrowserWnd& grid, const CString& text);
     Taken leaveCell(CTBBrowserWnd& grid);
-    /// Opens, types and leaves.
-    Taken typeCell(CTBBrowserWnd& grid, int row, int column, const CString& text);
-    Taken leaveRow(CTBBrowserWnd& grid);
-    Taken escape(CTBBrowserWnd& grid);
-    Taken key(CTBBrowserWnd& grid, UserKey key);
-    Taken deleteRows(CTBBrowserWnd& grid, const std::vector<int>& rows);
-    Taken paste(CTBBrowserWndEx& grid, int row, int column, const CString& text);
-    Taken dragRows(CTBBrowserWndEx& grid, const std::vector<int>& rows, int to);
-    Taken dropText(CTBBrowserWnd& grid, int row, int column, const CString& text);
     /// Without a journal command: they change nothing of the model.
     Taken dragColumns(CTBBrowserWndEx& grid, int first, int last, int to);
     Taken resizeColumn(CTBBrowserWnd& grid, int column, int width);

@@ -228,7 +228,7 @@ TEST_F(JournalsInTheWindow, NoInputMixesInAndEscapeStops)
         ASSERT_NE(panel, nullptr);
         EXPECT_TRUE(panel->windowTitle().startsWith("Playing long.jsonl"));
         FormWindow& cases = form("CCMLoadCaseDlg");
-        refused = !window.hand().press(control(cases, "Add"));
+        refused = !window.hand().act(control(cases, "Add"), {zel::Verb::press});
         QTest::keyClick(panel, Qt::Key_Escape);
     });
     zel::desktop::Playback playback;

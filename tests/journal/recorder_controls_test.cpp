@@ -70,18 +70,18 @@ TEST_F(RecordedControls, WhatIsTypedIsWrittenWhenTheRecordingStops)
 TEST_F(RecordedControls, ChoicesAreWrittenByTheirTexts)
 {
     const Recording recording = record([this] {
-        EXPECT_TRUE(hand.set(form->tick, true));
-        EXPECT_TRUE(hand.set(form->right, true));
+        EXPECT_TRUE(hand.act(form->tick, {.verb = zel::Verb::set, .value = true}));
+        EXPECT_TRUE(hand.act(form->right, {.verb = zel::Verb::set, .value = true}));
         EXPECT_TRUE(hand.choose(form->shape, 1));
-        EXPECT_TRUE(hand.set(form->shape, CString("Round")));
-        EXPECT_TRUE(hand.set(form->firstValue, 2.5));
-        EXPECT_TRUE(hand.select(form->rows, {1}));
-        EXPECT_TRUE(hand.doubleClick(form->rows, 0));
-        EXPECT_TRUE(hand.select(form->table, {0}));
-        EXPECT_TRUE(hand.select(form->table, {}));
-        EXPECT_TRUE(hand.tick(form->ticks, 1, true));
-        EXPECT_TRUE(hand.spin(form->spin, -1));
-        EXPECT_TRUE(hand.pick(form->picked, {3, 5}, true));
+        EXPECT_TRUE(hand.act(form->shape, {.verb = zel::Verb::set, .value = CString("Round")}));
+        EXPECT_TRUE(hand.act(form->firstValue, {.verb = zel::Verb::set, .value = 2.5}));
+        EXPECT_TRUE(hand.act(form->rows, {.verb = zel::Verb::select, .rows = {1}}));
+        EXPECT_TRUE(hand.act(form->rows, {.verb = zel::Verb::doubleClick, .row = 0}));
+        EXPECT_TRUE(hand.act(form->table, {.verb = zel::Verb::select, .rows = {0}}));
+        EXPECT_TRUE(hand.act(form->table, {.verb = zel::Verb::select, .rows = {}}));
+        EXPECT_TRUE(hand.act(form->ticks, {.verb = zel::Verb::tick, .row = 1, .on = true}));
+        EXPECT_TRUE(hand.act(form->spin, {.verb = zel::Verb::spin, .delta = -1}));
+        EXPECT_TRUE(hand.act(form->picked, {.verb = zel::Verb::pick, .keys = {3, 5}, .closed = true}));
     });
     EXPECT_THAT(recording.lines(),
                 ElementsAre(R"({"do": "set", "control": "Tick", "value": true})", R"({"do": "set", "control": "Right", "value": true})",
@@ -109,11 +109,11 @@ TEST_F(RecordedControls, AnEntryWhoseTextStandsTwiceIsWrittenByItsPlace)
 TEST_F(RecordedControls, ARefusedStepLeavesNothing)
 {
     const Recording recording = record([this] {
-        EXPECT_FALSE(hand.press(form->off));
-        EXPECT_FALSE(hand.press(form->away));
+        EXPECT_FALSE(hand.act(form->off, {zel::Verb::press}));
+        EXPECT_FALSE(hand.act(form->away, {zel::Verb::press}));
         EXPECT_FALSE(hand.choose(form->shape, 7));
         press("Tell");
-        EXPECT_FALSE(hand.press(form->off));
+        EXPECT_FALSE(hand.act(form->off, {zel::Verb::press}));
     });
     EXPECT_THAT(recording.lines(), ElementsAre(R"({"do": "press", "control": "Tell"})"));
 }
@@ -228,7 +228,7 @@ TEST_F(RecordedControls, CommandsForTheHostAreNoStepsOfTheUser)
         EXPECT_EQ(front().ClassName(), "CCMLoadCaseDlg");
         EXPECT_TRUE(hand.close(front()));
         press("Send");
-        EXPECT_TRUE(hand.press(form->tell));
+        EXPECT_TRUE(hand.act(form->tell, {zel::Verb::press}));
         EXPECT_TRUE(hand.activate(*form));
         EXPECT_TRUE(hand.activate(*form));
         press("Lines");
@@ -243,7 +243,7 @@ TEST_F(RecordedControls, WhileTheHandIsLockedNothingIsTaken)
 {
     const Recording recording = recordOnly([this] {
         hand.setLocked(true);
-        EXPECT_FALSE(hand.press(form->tell));
+        EXPECT_FALSE(hand.act(form->tell, {zel::Verb::press}));
         EXPECT_FALSE(hand.type(form->name, "X"));
         EXPECT_FALSE(hand.focus(form->name));
         EXPECT_FALSE(hand.close(*form));

@@ -40,8 +40,8 @@ TEST_F(RecordedGrids, OpeningTypingAndLeavingACellIsOneCommand)
 {
     const Recording recording = record([this] {
         edit(1, length, "2*3");
-        EXPECT_TRUE(hand.typeCell(form->grid, 1, kind, "column"));
-        EXPECT_TRUE(hand.leaveRow(form->grid));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::cell, .row = 1, .column = kind, .text = "column"}));
+        EXPECT_TRUE(hand.act(form->grid, {zel::Verb::leaveRow}));
     });
     EXPECT_THAT(recording.lines(),
                 ElementsAre(R"({"do": "cell", "control": "members", "row": 1, "column": "Length", "text": "2*3"})",
@@ -54,7 +54,7 @@ TEST_F(RecordedGrids, TheRowForNewEntriesIsCalledAppend)
 {
     const Recording recording = record([this] {
         edit(CTBGrid::append, name, "A0");
-        EXPECT_TRUE(hand.key(form->grid, zel::UserKey::enter));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::key, .key = zel::UserKey::enter}));
     });
     EXPECT_THAT(recording.lines(),
                 ElementsAre(R"({"do": "cell", "control": "members", "row": "append", "column": "Name", "text": "A0"})",
@@ -70,9 +70,9 @@ TEST_F(RecordedGrids, ACellThatWasRefusedStaysOpenInBoth)
         typeInto("7");
         EXPECT_TRUE(hand.leaveCell(form->grid));
         edit(0, length, "-2");
-        EXPECT_TRUE(hand.escape(form->grid));
+        EXPECT_TRUE(hand.act(form->grid, {zel::Verb::escape}));
         EXPECT_LT(form->grid.GetOpenCell(), 0);
-        EXPECT_TRUE(hand.leaveRow(form->grid));
+        EXPECT_TRUE(hand.act(form->grid, {zel::Verb::leaveRow}));
     });
     EXPECT_EQ(form->grid.line(1), "1|B1|7|beam|1");
     EXPECT_EQ(recording.lines()[3], R"({"do": "escape", "control": "members"})");
@@ -84,7 +84,7 @@ TEST_F(RecordedGrids, ARefusedCellThatIsLeftAgainIsRefusedAgain)
         edit(0, length, "-1");
         EXPECT_TRUE(hand.leaveCell(form->grid));
         EXPECT_EQ(host.warnings.size(), 2U);
-        EXPECT_TRUE(hand.press(form->done));
+        EXPECT_TRUE(hand.act(form->done, {zel::Verb::press}));
     });
 }
 
@@ -93,10 +93,10 @@ TEST_F(RecordedGrids, ACellThatIsGivenUpWasOnlyClicked)
     const Recording recording = record([this] {
         EXPECT_TRUE(hand.openCell(form->grid, 2, length));
         typeInto("9");
-        EXPECT_TRUE(hand.escape(form->grid));
+        EXPECT_TRUE(hand.act(form->grid, {zel::Verb::escape}));
         EXPECT_TRUE(hand.openCell(form->grid, 2, length));  // it is the current one already
         typeInto("8");
-        EXPECT_TRUE(hand.key(form->grid, zel::UserKey::escape));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::key, .key = zel::UserKey::escape}));
         EXPECT_TRUE(hand.openCell(form->grid, 2, length));
         EXPECT_TRUE(hand.leaveCell(form->grid));
     });
@@ -111,7 +111,7 @@ TEST_F(RecordedGrids, GivingACellUpLeavesTheOthersOfItsRow)
         typeInto("Z");
         EXPECT_TRUE(hand.key(*form, zel::UserKey::escape));
         EXPECT_TRUE(form->grid.IsEdit());
-        EXPECT_TRUE(hand.leaveRow(form->grid));
+        EXPECT_TRUE(hand.act(form->grid, {zel::Verb::leaveRow}));
     });
     EXPECT_EQ(form->grid.line(1), "1|B1|9|beam|1");
     EXPECT_EQ(recording.lines().size(), 3U);
@@ -122,7 +122,7 @@ TEST_F(RecordedGrids, WhatIsTypedIntoACellIsWrittenBeforeTheNextCommand)
     const Recording recording = record([this] {
         EXPECT_TRUE(hand.openCell(form->grid, 0, length));
         typeInto("5");
-        EXPECT_TRUE(hand.press(form->done));
+        EXPECT_TRUE(hand.act(form->done, {zel::Verb::press}));
     });
     EXPECT_THAT(recording.lines(),
                 ElementsAre(R"({"do": "cell", "control": "members", "row": 0, "column": "Length", "text": "5"})", R"({"do": "press", "control": "Done"})"));
@@ -142,13 +142,13 @@ TEST_F(RecordedGrids, ACellThatItsFormTakesWithItIsNotWritten)
 TEST_F(RecordedGrids, RowsAreSelectedDraggedDeletedAndPasted)
 {
     const Recording recording = record([this] {
-        EXPECT_TRUE(hand.clickCell(form->grid, 1, name));
-        EXPECT_TRUE(hand.select(form->grid, {0, 2}));
-        EXPECT_TRUE(hand.dragRows(form->grid, {0}, 2));
-        EXPECT_TRUE(hand.dragRows(form->grid, {0}, CTBGrid::append));
-        EXPECT_TRUE(hand.deleteRows(form->grid, {1}));
-        EXPECT_TRUE(hand.paste(form->grid, CTBGrid::append, name, "P1\t3\tbeam\t1\nP2\t4\tcolumn\t0"));
-        EXPECT_FALSE(hand.dropText(form->grid, 0, name, "no use"));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::current, .row = 1, .column = name}));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::select, .rows = {0, 2}}));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::dragRows, .rows = {0}, .to = 2}));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::dragRows, .rows = {0}, .to = CTBGrid::append}));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::deleteRows, .rows = {1}}));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::paste, .row = CTBGrid::append, .column = name, .text = "P1\t3\tbeam\t1\nP2\t4\tcolumn\t0"}));
+        EXPECT_FALSE(hand.act(form->grid, {.verb = zel::Verb::drop, .row = 0, .column = name, .text = "no use"}));
     });
     EXPECT_THAT(recording.lines(),
                 ElementsAre(R"({"do": "current", "control": "members", "row": 1, "column": "Name"})",
@@ -165,8 +165,8 @@ TEST_F(RecordedGrids, AColumnIsCalledByItsNumberWhereItsTitleLeadsElsewhere)
         form->grid.AddColInfo("Name", 3, 0);
     };
     const Recording recording = record([this] {
-        EXPECT_TRUE(hand.clickCell(form->grid, 0, 5));
-        EXPECT_TRUE(hand.clickCell(form->grid, 0, name));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::current, .row = 0, .column = 5}));
+        EXPECT_TRUE(hand.act(form->grid, {.verb = zel::Verb::current, .row = 0, .column = name}));
     });
     EXPECT_THAT(recording.lines(),
                 ElementsAre(R"({"do": "current", "control": "members", "row": 0, "column": 5})",
@@ -188,7 +188,7 @@ TEST_F(RecordedGrids, WhatNoCommandDoesIsACommentWrittenOnce)
         EXPECT_TRUE(hand.resizeColumn(form->grid, name, 80));
         EXPECT_TRUE(hand.rightDoubleClickCell(form->grid, 0, name));
         EXPECT_FALSE(hand.pressCell(form->grid, 0, name));
-        EXPECT_TRUE(hand.press(form->done));
+        EXPECT_TRUE(hand.act(form->done, {zel::Verb::press}));
     });
     EXPECT_THAT(recording.lines(),
                 ElementsAre("# A column was made wider or narrower. No command does that.",
@@ -208,19 +208,19 @@ TEST_F(RecordedGrids, ARowThatIsWrittenBecauseTheFocusGoesIsLeftInTheJournalToo)
     dialogs = [] {};
     const Recording recording = record([this] {
         CDialog& cases = *hand.modeless(D_CMD_MODEL_LOAD_LOADCASE);
-        EXPECT_TRUE(hand.set(at("Name"), CString("DL")));
-        EXPECT_TRUE(hand.set(at("Type"), CString("Dead Load (D)")));
-        EXPECT_TRUE(hand.set(at("Self Weight Factor"), CString("-1")));
+        EXPECT_TRUE(hand.act(at("Name"), {.verb = zel::Verb::set, .value = CString("DL")}));
+        EXPECT_TRUE(hand.act(at("Type"), {.verb = zel::Verb::set, .value = CString("Dead Load (D)")}));
+        EXPECT_TRUE(hand.act(at("Self Weight Factor"), {.verb = zel::Verb::set, .value = CString("-1")}));
         press("Add");
         EXPECT_TRUE(hand.close(cases));
         hand.modeless(D_CMD_RESULT_LOADCOMB);
         auto& main = at<CTBBrowserWndEx>("mainGrid");
         auto& items = at<CTBBrowserWndEx>("subGrid");
-        EXPECT_TRUE(hand.typeCell(main, CTBGrid::append, main.columnByTitle("Name"), "C1"));
-        EXPECT_TRUE(hand.leaveRow(main));
-        EXPECT_TRUE(hand.clickCell(main, 0, main.columnByTitle("Name")));
-        EXPECT_TRUE(hand.typeCell(items, CTBGrid::append, 0, "DL(ST)"));
-        EXPECT_TRUE(hand.typeCell(items, CTBGrid::append, items.columnByTitle("Factor"), "1.5"));
+        EXPECT_TRUE(hand.act(main, {.verb = zel::Verb::cell, .row = CTBGrid::append, .column = main.columnByTitle("Name"), .text = "C1"}));
+        EXPECT_TRUE(hand.act(main, {zel::Verb::leaveRow}));
+        EXPECT_TRUE(hand.act(main, {.verb = zel::Verb::current, .row = 0, .column = main.columnByTitle("Name")}));
+        EXPECT_TRUE(hand.act(items, {.verb = zel::Verb::cell, .row = CTBGrid::append, .column = 0, .text = "DL(ST)"}));
+        EXPECT_TRUE(hand.act(items, {.verb = zel::Verb::cell, .row = CTBGrid::append, .column = items.columnByTitle("Factor"), .text = "1.5"}));
         EXPECT_TRUE(items.IsEdit());
         EXPECT_TRUE(hand.focus(at("toggle")));
         EXPECT_FALSE(items.IsEdit());
@@ -236,14 +236,14 @@ TEST_F(RecordedGrids, ARowThatIsRefusedWhenTheFocusGoesIsNotLeft)
         hand.modeless(D_CMD_RESULT_LOADCOMB);
         auto& main = at<CTBBrowserWndEx>("mainGrid");
         auto& items = at<CTBBrowserWndEx>("subGrid");
-        EXPECT_TRUE(hand.typeCell(main, CTBGrid::append, main.columnByTitle("Name"), "C1"));
-        EXPECT_TRUE(hand.leaveRow(main));
-        EXPECT_TRUE(hand.clickCell(main, 0, main.columnByTitle("Name")));
-        EXPECT_TRUE(hand.typeCell(items, CTBGrid::append, items.columnByTitle("Factor"), "2"));
+        EXPECT_TRUE(hand.act(main, {.verb = zel::Verb::cell, .row = CTBGrid::append, .column = main.columnByTitle("Name"), .text = "C1"}));
+        EXPECT_TRUE(hand.act(main, {zel::Verb::leaveRow}));
+        EXPECT_TRUE(hand.act(main, {.verb = zel::Verb::current, .row = 0, .column = main.columnByTitle("Name")}));
+        EXPECT_TRUE(hand.act(items, {.verb = zel::Verb::cell, .row = CTBGrid::append, .column = items.columnByTitle("Factor"), .text = "2"}));
         EXPECT_TRUE(hand.focus(at("toggle")));
         EXPECT_TRUE(items.IsEdit());
         hand.units(*document, {T_UNIT_INDEX::CM, T_UNIT_INDEX::KN});
-        EXPECT_TRUE(hand.press(at("toggle")));
+        EXPECT_TRUE(hand.act(at("toggle"), {zel::Verb::press}));
     });
     EXPECT_EQ(recording.journal.find("leave_row\", \"control\": \"subGrid"), std::string::npos) << recording.journal;
 }

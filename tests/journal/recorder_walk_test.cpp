@@ -139,15 +139,15 @@ protected:
         case Kind::pick:
             return typeInto(dynamic_cast<CEdit&>(control));
         case Kind::check:
-            return (void)hand.set(control, below(2) == 0);
+            return (void)hand.act(control, {.verb = zel::Verb::set, .value = below(2) == 0});
         case Kind::radio:
-            return (void)hand.set(control, true);
+            return (void)hand.act(control, {.verb = zel::Verb::set, .value = true});
         case Kind::combo:
             return (void)hand.choose(control, below(dynamic_cast<CComboBox&>(control).GetCount() + 1));
         case Kind::list:
-            return (void)hand.select(control, someRows(dynamic_cast<CListBox&>(control).GetCount()));
+            return (void)hand.act(control, {.verb = zel::Verb::select, .rows = someRows(dynamic_cast<CListBox&>(control).GetCount())});
         case Kind::checklist:
-            return (void)hand.tick(control, below(4), below(2) == 0);
+            return (void)hand.act(control, {.verb = zel::Verb::tick, .row = below(4), .on = below(2) == 0});
         case Kind::report:
             return report(dynamic_cast<CListCtrl&>(control));
         case Kind::grid:
@@ -155,12 +155,12 @@ protected:
         case Kind::tabs:
             return (void)hand.choose(control, below(dynamic_cast<CDlgTabCtrl&>(control).GetPageCount()));
         case Kind::spin:
-            return (void)hand.spin(control, below(2) == 0 ? 1 : -1);
+            return (void)hand.act(control, {.verb = zel::Verb::spin, .delta = below(2) == 0 ? 1 : -1});
         default:
             host.answer(below(3) == 0 ? IDNO : IDYES);
             if (below(3) == 0)
                 (void)hand.focus(control);
-            return (void)hand.press(control);
+            return (void)hand.act(control, {zel::Verb::press});
         }
     }
 
@@ -178,9 +178,9 @@ protected:
     void report(CListCtrl& list)
     {
         if (list.GetItemCount() > 0 && below(6) == 0)
-            (void)hand.doubleClick(list, below(list.GetItemCount()));
+            (void)hand.act(list, {.verb = zel::Verb::doubleClick, .row = below(list.GetItemCount())});
         else
-            (void)hand.select(list, someRows(list.GetItemCount()));
+            (void)hand.act(list, {.verb = zel::Verb::select, .rows = someRows(list.GetItemCount())});
     }
 
     void grid(CTBBrowserWndEx& grid)
@@ -193,26 +193,28 @@ protected:
         const CString typed = choices.empty() || below(8) == 0 ? text() : anyOf(choices);
         switch (below(12)) {
         case 0:
-            return (void)hand.clickCell(grid, row, column);
+            return (void)hand.act(grid, {.verb = zel::Verb::current, .row = row, .column = column});
         case 1:
         case 2:
-            return (void)hand.typeCell(grid, row, column, typed);
+            return (void)hand.act(grid, {.verb = zel::Verb::cell, .row = row, .column = column, .text = typed});
         case 3:
         case 4:
         case 5:
             return inSteps(grid, row, column, typed);
         case 6:
-            return (void)hand.select(grid, someRows(rows));
+            return (void)hand.act(grid, {.verb = zel::Verb::select, .rows = someRows(rows)});
         case 7:
-            return (void)hand.leaveRow(grid);
+            return (void)hand.act(grid, {zel::Verb::leaveRow});
         case 8:
-            return (void)hand.key(grid, below(2) == 0 ? zel::UserKey::tab : zel::UserKey::enter);
+            return (void)hand.act(grid, {.verb = zel::Verb::key, .key = below(2) == 0 ? zel::UserKey::tab : zel::UserKey::enter});
         case 9:
-            return (void)(below(3) == 0 && rows > 0 ? hand.deleteRows(grid, {below(rows)}) : hand.escape(grid));
+            return (void)(below(3) == 0 && rows > 0 ? hand.act(grid, {.verb = zel::Verb::deleteRows, .rows = {below(rows)}})
+                                                    : hand.act(grid, {zel::Verb::escape}));
         case 10:
-            return (void)hand.paste(grid, row, column, typed + "\t" + text() + "\n" + text());
+            return (void)hand.act(grid, {.verb = zel::Verb::paste, .row = row, .column = column, .text = typed + "\t" + text() + "\n" + text()});
         default:
-            return (void)(rows > 0 ? hand.dragRows(grid, {below(rows)}, below(rows + 1)) : hand.doubleClickCell(grid, row, column));
+            return (void)(rows > 0 ? hand.act(grid, {.verb = zel::Verb::dragRows, .rows = {below(rows)}, .to = below(rows + 1)})
+                                   : hand.doubleClickCell(grid, row, column));
         }
     }
 
@@ -224,9 +226,9 @@ protected:
             (void)hand.typeText(grid, typed);
         const int end = below(4);
         if (end == 0)
-            (void)hand.escape(grid);
+            (void)hand.act(grid, {zel::Verb::escape});
         else if (end == 1)
-            (void)hand.key(grid, zel::UserKey::escape);
+            (void)hand.act(grid, {.verb = zel::Verb::key, .key = zel::UserKey::escape});
         else if (end == 2)
             (void)hand.leaveCell(grid);
     }

@@ -31,7 +31,7 @@ ButtonView::ButtonView(CButton& button, FormContext& context, QWidget& parent) :
         m_button->setFixedWidth(m_button->fontMetrics().horizontalAdvance(QStringLiteral("...")) * 3);
     QObject::connect(m_button, &QPushButton::clicked, m_button, [this] {
         if (isInput())
-            take(hand().press(control()));
+            take(hand().act(control(), {Verb::press}));
     });
 }
 
@@ -54,7 +54,7 @@ CheckView::CheckView(CCheckBox& check, FormContext& context, QWidget& parent) : 
 {
     QObject::connect(m_check, &QCheckBox::clicked, m_check, [this](bool on) {
         if (isInput())
-            take(hand().set(control(), on));
+            take(hand().act(control(), {.verb = Verb::set, .value = on}));
     });
 }
 
@@ -78,7 +78,7 @@ RadioView::RadioView(CRadioButton& radio, FormContext& context, QWidget& parent)
     m_radio->setAutoExclusive(false);  // which of them is chosen is the controller's: none is possible
     QObject::connect(m_radio, &QRadioButton::clicked, m_radio, [this] {
         if (isInput()) {
-            take(hand().set(control(), true));
+            take(hand().act(control(), {.verb = Verb::set, .value = true}));
             show();  // a click on the chosen one has cleared the widget
         }
     });
@@ -115,7 +115,7 @@ SpinView::SpinView(CSpinButtonCtrl& spin, FormContext& context, QWidget& parent)
         layout->addWidget(arrow);
         QObject::connect(arrow, &QToolButton::clicked, m_box, [this, delta] {
             if (isInput())
-                take(hand().spin(control(), delta));
+                take(hand().act(control(), {.verb = Verb::spin, .delta = delta}));
         });
     }
     m_box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -135,7 +135,7 @@ ComboView::ComboView(CComboBox& combo, FormContext& context, QWidget& parent) : 
         QObject::connect(m_combo->lineEdit(), &QLineEdit::editingFinished, m_combo, [this] {
             const CString text = fromQt(m_combo->currentText());
             if (isInput() && text != control().GetWindowText())
-                take(hand().set(control(), text));
+                take(hand().act(control(), {.verb = Verb::set, .value = text}));
         });
     }
 }

@@ -187,7 +187,7 @@ void GridInput::drop(GridPane& pane, QDropEvent& event)
         while (column < grid.GetColCount() && grid.GetColInfo(grid.GetColIndex(column)).hidden)
             ++column;
     }
-    (void)m_view.act([&] { return m_view.user().dropText(grid, grid.toUserRow(row), column - 1, text); }, GridView::Refusal::shown);
+    (void)m_view.act({.verb = Verb::drop, .row = grid.toUserRow(row), .column = column - 1, .text = text}, GridView::Refusal::shown);
 }
 
 void GridInput::menu(GridPane& pane, QContextMenuEvent& event)
@@ -202,7 +202,7 @@ void GridInput::menu(GridPane& pane, QContextMenuEvent& event)
     if (event.reason() == QContextMenuEvent::Mouse && m_view.model().has(cell) && !isSelected && cell != current()) {
         const int row = m_view.model().userRow(cell.row());
         const std::weak_ptr<bool> life = m_view.life();
-        (void)m_view.act([&] { return m_view.user().clickCell(m_view.grid(), row, cell.column()); });
+        (void)m_view.act({.verb = Verb::current, .row = row, .column = cell.column()});
         if (life.expired() || !m_view.isInput())
             return;
     }

@@ -170,7 +170,7 @@ void GridInput::compose(QInputMethodEvent& event)
 void GridInput::pressKey(UserKey key)
 {
     m_wholeRow = false;
-    (void)m_view.act([&] { return m_view.user().key(m_view.grid(), key); });
+    (void)m_view.act({.verb = Verb::key, .key = key});
 }
 
 void GridInput::escape()
@@ -180,7 +180,7 @@ void GridInput::escape()
         return;
     }
     if (m_view.grid().IsEdit())
-        (void)m_view.act([&] { return m_view.user().escape(m_view.grid()); });
+        (void)m_view.act({Verb::escape});
     else
         pressKey(UserKey::escape);
 }
@@ -194,7 +194,7 @@ void GridInput::tab()
     const bool hadCurrent = grid.GetCurrentCell(row, column) != 0;
     const bool wasEdited = grid.IsEdit();
     m_wholeRow = false;
-    if (!m_view.act([&] { return m_view.user().key(grid, UserKey::tab); }))
+    if (!m_view.act({.verb = Verb::key, .key = UserKey::tab}))
         return;
     int rowNow = 0;
     int columnNow = 0;
@@ -234,7 +234,7 @@ void GridInput::click(int row, int column)
 {
     m_wholeRow = false;
     const int userRow = m_view.grid().toUserRow(row);
-    (void)m_view.act([&] { return m_view.user().clickCell(m_view.grid(), userRow, column - 1); });
+    (void)m_view.act({.verb = Verb::current, .row = userRow, .column = column - 1});
 }
 
 /// The first cell from there on, in steps, that can be current.
@@ -315,7 +315,7 @@ void GridInput::toggle(const QModelIndex& cell)
 {
     const CString text = cell.data(Qt::EditRole).toString() == QLatin1String("1") ? "0" : "1";
     const int row = m_view.model().userRow(cell.row());
-    (void)m_view.act([&] { return m_view.user().typeCell(m_view.grid(), row, cell.column(), text); });
+    (void)m_view.act({.verb = Verb::cell, .row = row, .column = cell.column(), .text = text});
 }
 
 void GridInput::clear()
@@ -324,7 +324,7 @@ void GridInput::clear()
     if (!isEditable(cell) || m_view.model().kind(cell) == GridKind::check)
         return;
     const int row = m_view.model().userRow(cell.row());
-    (void)m_view.act([&] { return m_view.user().typeCell(m_view.grid(), row, cell.column(), {}); });
+    (void)m_view.act({.verb = Verb::cell, .row = row, .column = cell.column(), .text = {}});
 }
 
 // Rows and columns
@@ -332,7 +332,7 @@ void GridInput::clear()
 void GridInput::select(const std::vector<int>& rows)
 {
     m_wholeRow = false;
-    (void)m_view.act([&] { return m_view.user().select(m_view.grid(), rows); });
+    (void)m_view.act({.verb = Verb::select, .rows = rows});
 }
 
 /// The selected rows in the order of their selection, else the current row; as the user counts them.
@@ -351,7 +351,7 @@ void GridInput::removeRows()
 {
     const std::vector<int> rows = chosenRows();
     if (!rows.empty() && !m_view.grid().IsModeDisplayOnly())
-        (void)m_view.act([&] { return m_view.user().deleteRows(m_view.grid(), rows); }, GridView::Refusal::shown);
+        (void)m_view.act({.verb = Verb::deleteRows, .rows = rows}, GridView::Refusal::shown);
 }
 
 /// What a row is known by at another place: the texts of a frozen column, a number, go with the place.
@@ -379,7 +379,7 @@ void GridInput::moveRows(int step)
         return;
     const int count = static_cast<int>(rows.size());
     const CString identity = identityOf(rows.front() + 1);
-    if (!m_view.act([&] { return m_view.user().dragRows(*grid, rows, target); }, GridView::Refusal::shown))
+    if (!m_view.act({.verb = Verb::dragRows, .rows = rows, .to = target}, GridView::Refusal::shown))
         return;
     std::vector<int> moved(rows.size());
     std::iota(moved.begin(), moved.end(), step < 0 ? target : target - count);
@@ -435,14 +435,14 @@ void GridInput::pasteText(const CString& text)
         while (column < grid->GetColCount() && grid->GetColInfo(grid->GetColIndex(column)).hidden)
             ++column;
     }
-    (void)m_view.act([&] { return m_view.user().paste(*grid, grid->toUserRow(row), column - 1, text); }, GridView::Refusal::shown);
+    (void)m_view.act({.verb = Verb::paste, .row = grid->toUserRow(row), .column = column - 1, .text = text}, GridView::Refusal::shown);
 }
 
 /// Several cells don't go into one: the open cell is given up, and the block begins there.
 void GridInput::pasteOverOpenCell()
 {
     const CString text = fromQt(QApplication::clipboard()->text());
-    if (m_view.act([&] { return m_view.user().escape(m_view.grid()); }))
+    if (m_view.act({Verb::escape}))
         pasteText(text);
 }
 

@@ -61,9 +61,9 @@ void GridRowGesture::selectOne(int row, int column)
             column = each;
     }
     if (column >= 0)
-        (void)m_view.act([&] { return m_view.user().clickCell(grid, userRow, column); });
+        (void)m_view.act({.verb = Verb::current, .row = userRow, .column = column});
     else if (userRow != CTBGrid::append)
-        (void)m_view.act([&] { return m_view.user().select(grid, std::vector<int>{userRow}); });
+        (void)m_view.act({.verb = Verb::select, .rows = {userRow}});
 }
 
 void GridRowGesture::toggle(int row)
@@ -80,7 +80,7 @@ void GridRowGesture::toggle(int row)
     }
     if (!was)
         rows.push_back(row);
-    (void)m_view.act([&] { return m_view.user().select(m_view.grid(), rows); });
+    (void)m_view.act({.verb = Verb::select, .rows = rows});
 }
 
 void GridRowGesture::extendTo(int row)
@@ -101,7 +101,7 @@ void GridRowGesture::extendTo(int row)
         if (each == row)
             break;
     }
-    if (!m_view.act([&] { return m_view.user().select(m_view.grid(), rows); }))
+    if (!m_view.act({.verb = Verb::select, .rows = rows}))
         return;
     m_view.table().scrollTo(m_view.model().index(row, m_view.table().columnAt(0)), QAbstractItemView::EnsureVisible);
 }
@@ -170,7 +170,7 @@ void GridRowGesture::release()
         const bool together = *last - *first + 1 == static_cast<int>(rows.size());
         if (together && gap >= *first && gap <= *last + 1)
             return;  // dropped where they were
-        (void)m_view.act([&] { return m_view.user().dragRows(*grid, rows, gap); }, GridView::Refusal::shown);
+        (void)m_view.act({.verb = Verb::dragRows, .rows = rows, .to = gap}, GridView::Refusal::shown);
     }
 }
 

@@ -80,6 +80,11 @@ bool GridView::act(const std::function<Taken()>& step, Refusal refusal)
     return taken.ok();
 }
 
+bool GridView::act(const UserStep& step, Refusal refusal)
+{
+    return act([&] { return hand().act(control(), step); }, refusal);
+}
+
 bool GridView::type(const QString& text)
 {
     if (!isInput())
@@ -108,7 +113,7 @@ void GridView::columnResized(int section, int width)
 void GridView::follow(const QModelIndex& current)
 {
     if (isInput() && m_model->has(current))
-        (void)act([&] { return hand().clickCell(control(), m_model->userRow(current.row()), current.column()); });
+        (void)act({.verb = Verb::current, .row = m_model->userRow(current.row()), .column = current.column()});
 }
 
 void GridView::focusCame()

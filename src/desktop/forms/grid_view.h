@@ -56,6 +56,8 @@ public:
     /// Carries a step of the user out, and shows at once what has become of it. False if it was refused; also if this view is gone or detached,
     /// so that nothing of it may be touched after a false.
     bool act(const std::function<Taken()>& step, Refusal refusal = Refusal::silent);
+    /// The same for a step of the user at this grid.
+    bool act(const UserStep& step, Refusal refusal = Refusal::silent);
     /// The same for a keystroke into the open cell, which leaves a warning where it is.
     bool type(const QString& text);
     void fillVisible();

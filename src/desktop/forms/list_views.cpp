@@ -74,7 +74,7 @@ public:
     {
         if (role != Qt::CheckStateRole || !m_view.isInput())
             return false;
-        m_view.take(m_view.hand().tick(m_view.control(), index.row(), value.toInt() == Qt::Checked));
+        m_view.take(m_view.hand().act(m_view.control(), {.verb = Verb::tick, .row = index.row(), .on = value.toInt() == Qt::Checked}));
         return true;
     }
 
@@ -93,11 +93,11 @@ ListBoxView::ListBoxView(CListBox& list, FormContext& context, QWidget& parent) 
     m_view->setMinimumHeight(m_view->fontMetrics().lineSpacing() * shownRows);
     QObject::connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, m_view, [this] {
         if (isInput())
-            take(hand().select(control(), selectedRows(*m_view)));
+            take(hand().act(control(), {.verb = Verb::select, .rows = selectedRows(*m_view)}));
     });
     QObject::connect(m_view, &QListView::doubleClicked, m_view, [this](const QModelIndex& index) {
         if (isInput())
-            take(hand().doubleClick(control(), index.row()));
+            take(hand().act(control(), {.verb = Verb::doubleClick, .row = index.row()}));
     });
 }
 
@@ -180,11 +180,11 @@ ReportView::ReportView(CListCtrl& list, FormContext& context, QWidget& parent) :
     m_view->setMinimumHeight(m_view->verticalHeader()->defaultSectionSize() * shownRows);
     QObject::connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, m_view, [this] {
         if (isInput())
-            take(hand().select(control(), selectedRows(*m_view)));
+            take(hand().act(control(), {.verb = Verb::select, .rows = selectedRows(*m_view)}));
     });
     QObject::connect(m_view, &QTableView::doubleClicked, m_view, [this](const QModelIndex& index) {
         if (isInput())
-            take(hand().doubleClick(control(), index.row()));
+            take(hand().act(control(), {.verb = Verb::doubleClick, .row = index.row()}));
     });
 }
 

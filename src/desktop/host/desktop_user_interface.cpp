@@ -6,7 +6,6 @@
 #include "desktop/forms/text.h"
 #include "desktop/host/main_window.h"
 #include "desktop/host/window_places.h"
-#include "platform/os/machine.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -48,7 +47,9 @@ private:
 }  // namespace
 
 DesktopUserInterface::DesktopUserInterface(MainWindow& window, UserHand& hand)
-    : m_window(window), m_hand(hand), m_former(setUserInterface(this)), m_step([&window](const QString& text) { window.showBusy(text); })
+    : ForwardingUserInterface(nullptr), m_window(window), m_hand(hand), m_former(setUserInterface(this)), m_step([&window](const QString& text) {
+          window.showBusy(text);
+      })
 {
 }
 
@@ -266,21 +267,6 @@ bool DesktopUserInterface::startProcess(const CString& commandLine)
         return false;
     const QString program = words.takeFirst();
     return QProcess::startDetached(program, words);
-}
-
-CString DesktopUserInterface::programFolder() const
-{
-    return os::programFolder();
-}
-
-std::chrono::system_clock::time_point DesktopUserInterface::now() const
-{
-    return std::chrono::system_clock::now();
-}
-
-std::uint64_t DesktopUserInterface::physicalMemory() const
-{
-    return os::physicalMemory();
 }
 
 void DesktopUserInterface::modelingMode(int mode)

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "contract/user_interface.h"
 #include "desktop/host/long_step.h"
 #include "journal/host_commands.h"
 #include "journal/user_hand.h"
+#include "platform/forms/forwarding_user_interface.h"
 
 #include <QPointer>
 
@@ -20,7 +20,7 @@ class MainWindow;
 
 /// The services of the forms, by windows: one window a dialog, native message boxes and file dialogs, a nested event loop for each modal dialog.
 /// It installs itself and puts the former one back when it goes.
-class DesktopUserInterface final : public IUserInterface {
+class DesktopUserInterface final : public ForwardingUserInterface {
 public:
     DesktopUserInterface(MainWindow& window, UserHand& hand);
     ~DesktopUserInterface() override;
@@ -47,9 +47,6 @@ public:
     void history(const CString& line) override;
     void busy(const CString& text) override;
     bool startProcess(const CString& commandLine) override;
-    [[nodiscard]] CString programFolder() const override;
-    [[nodiscard]] std::chrono::system_clock::time_point now() const override;
-    [[nodiscard]] std::uint64_t physicalMemory() const override;
     void gridWarning(Control& grid, const CString& text) override;
     void modelingMode(int mode) override;
 

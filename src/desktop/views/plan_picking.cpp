@@ -63,7 +63,7 @@ QString PlanPicking::advice()
 QString PlanPicking::hand(const std::vector<Key>& keys, bool closed)
 {
     CMouseEdit* field = activePickField();
-    return field != nullptr ? toQt(m_hand.pick(*field, keys, closed).refusal) : QString();
+    return field != nullptr ? toQt(m_hand.act(*field, {.verb = Verb::pick, .keys = keys, .closed = closed}).refusal) : QString();
 }
 
 QString PlanPicking::show(const std::vector<Key>& keys)

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "contract/forms/control.h"
+#include "contract/table_store.h"
+#include "journal/verbs.h"
+
+#include <vector>
+
+namespace zel {
+
+/// What a user does to a control, as data: `{.verb = Verb::tick, .row = 2, .on = true}`. A verb reads the members that its row in the table of
+/// verbs names; the others are left alone.
+struct UserStep {
+    Verb verb;
+    UserValue value{};  ///< what is entered or chosen
+    std::vector<int> rows{};
+    int row = 0;  ///< from 0, in a grid also CTBGrid::append
+    int column = 0;
+    int to = 0;  ///< row before which rows are dropped
+    CString text{};
+    bool on = false;
+    int delta = 0;  ///< +1 for a click up, -1 for a click down
+    UserKey key = UserKey::enter;
+    std::vector<Key> keys{};  ///< that were picked
+    bool closed = false;      ///< the picked outline is closed
+
+    bool operator==(const UserStep&) const = default;
+};
+
+}  // namespace zel
