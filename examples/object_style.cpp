@@ -24,14 +24,14 @@ constexpr int wrongCall = 2;
 
 bool isCode(const std::string& name)
 {
-    const auto& codes = zel::codes::object_style::codeList;
+    const auto& codes = zel::object_style::codeList;
     return std::any_of(std::begin(codes), std::end(codes), [&](const auto& code) { return code.name == name; });
 }
 
 int explainCall()
 {
     std::cerr << "object_style_example MODEL.qvx CODE [--replace]\nCodes:";
-    for (const auto& code : zel::codes::object_style::codeList)
+    for (const auto& code : zel::object_style::codeList)
         std::cerr << ' ' << code.name;
     std::cerr << '\n';
     return wrongCall;

@@ -1,6 +1,7 @@
 #include "object_style/combination_report.h"
 
-#include "command/messages.h"
+#include "contract/format_text.h"
+#include "contract/messages.h"
 #include "object_style/jhasso_loadcomb_loadcase.h"
 
 namespace {
@@ -15,16 +16,16 @@ CString entry(const char* labelKey, const CString& value)
 {
     constexpr std::size_t labelWidth = 10;
     constexpr std::size_t valueWidth = 5;
-    return right(zel::loadText(labelKey), labelWidth) + right(value, valueWidth);
+    return right(CMsgDll::pfuncLoadStr(labelKey, 0), labelWidth) + right(value, valueWidth);
 }
 
 }  // namespace
 
-namespace zel::loadcomb {
+namespace zel::object_style {
 
 CString reportTitle()
 {
-    return "\n" + loadText("IDS_ZEL_CMD______AUTO_GENERATION_OF_LOAD_COMBINATIO") + "\n\n";
+    return std::string("\n") + CMsgDll::pfuncLoadStr("IDS_ZEL_CMD______AUTO_GENERATION_OF_LOAD_COMBINATIO", 0) + "\n\n";
 }
 
 CString combinationBlock(const JhloadCombination& combination)
@@ -34,11 +35,11 @@ CString combinationBlock(const JhloadCombination& combination)
     block += entry("IDS_ZEL_CMD__desc___", combination.description) + "\n";
     for (const JhassoLoadcombLoadcase* link : combination.cases) {
         const Jhloadcase* loadcase = link->loadcase();
-        block += entry("IDS_ZEL_CMD__factor___", numberText("%g", static_cast<double>(link->factor)));
+        block += entry("IDS_ZEL_CMD__factor___", formatText("%g", static_cast<double>(link->factor)));
         block += entry("IDS_ZEL_CMD__Loadcase___", loadcase != nullptr ? loadcase->name : CString());
         block += entry("IDS_ZEL_CMD__type___", loadcase != nullptr ? loadcase->type : CString()) + "\n";
     }
     return block;
 }
 
-}  // namespace zel::loadcomb
+}  // namespace zel::object_style

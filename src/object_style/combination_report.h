@@ -3,7 +3,7 @@
 #include "object_style/jhload_combination.h"
 
 // The texts of the report on combinations.
-namespace zel::loadcomb {
+namespace zel::object_style {
 
 /// The title with the empty lines around it.
 CString reportTitle();
@@ -13,4 +13,4 @@ CString reportTitle();
 /// where the name and the type stand.
 CString combinationBlock(const JhloadCombination& combination);
 
-}  // namespace zel::loadcomb
+}  // namespace zel::object_style

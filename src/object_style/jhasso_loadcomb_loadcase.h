@@ -23,7 +23,7 @@ public:
     float factor = 1.0F;
 
 private:
-    template <class Side> using Links = zel::loadcomb::ObjectList<JhassoLoadcombLoadcase> Side::*;
+    template <class Side> using Links = zel::object_style::ObjectList<JhassoLoadcombLoadcase> Side::*;
 
     template <class Side> bool set(Side*& side, Side* to, Links<Side> links)
     {

@@ -1,7 +1,9 @@
 #include "object_style/jhauto_gen_loadcomb.h"
 
 #include "command/guarded.h"
-#include "command/messages.h"
+#include "contract/design_kind.h"
+#include "contract/load_types.h"
+#include "contract/messages.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/static_load_case_table.h"
 #include "object_style/combination_report.h"
@@ -11,8 +13,10 @@
 #include <iterator>
 #include <utility>
 
-using zel::loadcomb::destroyAll;
-using zel::loadcomb::makeIn;
+using zel::load_type::earthquake;
+using zel::load_type::wind;
+using zel::object_style::destroyAll;
+using zel::object_style::makeIn;
 
 JhautoGenLoadcomb::JhautoGenLoadcomb(std::uint32_t number) : Jhobject("JhautoGenLoadcomb", number)
 {
@@ -35,7 +39,7 @@ int JhautoGenLoadcomb::Run(int kind, const CString& codeName, int mode)
 {
     return zel::guarded(0, [&] {
         m_kind = kind;
-        m_designKind = kind >= 2 && kind <= 5 ? static_cast<std::uint32_t>(kind) : 1;
+        m_designKind = static_cast<std::uint32_t>(zel::isDesignKind(kind) ? kind : zel::firstDesignKind);
         m_codeName = codeName;
         m_mode = mode;
         return run();
@@ -45,7 +49,7 @@ int JhautoGenLoadcomb::Run(int kind, const CString& codeName, int mode)
 int JhautoGenLoadcomb::run()
 {
     if (!readLoadcases()) {
-        zel::showMessage("IDS_ZEL_CMD__No_Existing_Any_Load_Case____");
+        AfxMessageBox(CMsgDll::pfuncLoadStr("IDS_ZEL_CMD__No_Existing_Any_Load_Case____", 0), 0, 0);
         return 0;
     }
     readCombinations();
@@ -123,7 +127,7 @@ void JhautoGenLoadcomb::expandRow()
         const CString& symbol = link->loadcase()->type;
         if (casesOf(symbol).empty())
             return;
-        if (symbol == "W" || (symbol == "E" && steering.empty()))
+        if (symbol == wind || (symbol == earthquake && steering.empty()))
             steering = symbol;
     }
     if (steering.empty()) {
@@ -148,7 +152,7 @@ void JhautoGenLoadcomb::generate(const Jhloadcase* chosen)
             if (takesOne && loadcase != chosen)
                 continue;
             JhassoLoadcombLoadcase& link = makeIn(m_generatedLinks, ++m_linkCount);
-            link.factor = takesOne && symbol == "E" ? rowLink->factor * loadcase->factor : rowLink->factor;
+            link.factor = takesOne && symbol == earthquake ? rowLink->factor * loadcase->factor : rowLink->factor;
             link.setCombination(&combination);
             link.setLoadcase(loadcase);
         }
@@ -197,7 +201,7 @@ int JhautoGenLoadcomb::replaceRecords(const std::vector<T_LCOM_D>& records) cons
 bool JhautoGenLoadcomb::PrintReport()
 {
     return zel::guarded(false, [&] {
-        m_report << zel::loadcomb::reportTitle() << std::flush;
+        m_report << zel::object_style::reportTitle() << std::flush;
         const bool code = PrintCodeCombinations();
         const bool current = PrintCurrentCombinations();
         return PrintGeneratedCombinations() && code && current;
@@ -207,9 +211,9 @@ bool JhautoGenLoadcomb::PrintReport()
 bool JhautoGenLoadcomb::printSection(const char* headingKey, const Combinations& combinations)
 {
     return zel::guarded(false, [&] {
-        m_report << zel::loadText(headingKey) << '\n' << std::flush;
+        m_report << CMsgDll::pfuncLoadStr(headingKey, 0) << '\n' << std::flush;
         for (const JhloadCombination* combination : combinations)
-            m_report << zel::loadcomb::combinationBlock(*combination) << std::flush;
+            m_report << zel::object_style::combinationBlock(*combination) << std::flush;
         m_report << '\n' << std::flush;
         return m_report.good();
     });

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "contract/export.h"
 #include "contract/records/lcom.h"
 #include "object_style/jhasso_loadcomb_loadcase.h"
 #include "object_style/jhcode_loadcomb.h"
@@ -9,7 +8,7 @@
 #include <map>
 #include <vector>
 
-namespace zel::codes {
+namespace zel::object_style {
 struct Row;
 }
 
@@ -22,7 +21,7 @@ struct Row;
 ///     generator.PrintReport();
 ///
 /// Factors are 32-bit numbers; stored items show that: 1.4 is stored as 1.39999998. One object serves one run.
-class ZEL_CMD_API JhautoGenLoadcomb : public Jhobject {
+class JhautoGenLoadcomb : public Jhobject {
 public:
     /// What a run does with the combinations that are there.
     static constexpr int addMode = 0;
@@ -52,10 +51,10 @@ public:
     bool PrintGeneratedCombinations() { return printSection("IDS_ZEL_CMD__JhloadCombination_Objects_for_Generate", m_generatedCombinations); }
 
     // The objects, for those that show them.
-    using Loadcases = zel::loadcomb::ObjectList<Jhloadcase>;
-    using Combinations = zel::loadcomb::ObjectList<JhloadCombination>;
-    using Codes = zel::loadcomb::ObjectList<JhcodeLoadcomb>;
-    using Links = zel::loadcomb::ObjectList<JhassoLoadcombLoadcase>;
+    using Loadcases = zel::object_style::ObjectList<Jhloadcase>;
+    using Combinations = zel::object_style::ObjectList<JhloadCombination>;
+    using Codes = zel::object_style::ObjectList<JhcodeLoadcomb>;
+    using Links = zel::object_style::ObjectList<JhassoLoadcombLoadcase>;
     [[nodiscard]] const Loadcases& currentLoadcases() const { return m_currentLoadcases; }
     [[nodiscard]] const Combinations& currentCombinations() const { return m_currentCombinations; }
     [[nodiscard]] const Combinations& generatedCombinations() const { return m_generatedCombinations; }
@@ -73,7 +72,7 @@ private:
 
     void buildLoadKinds();
     void buildCodes();
-    void buildRow(JhcodeLoadcomb& code, const zel::codes::Row& row);
+    void buildRow(JhcodeLoadcomb& code, const zel::object_style::Row& row);
 
     void expandCode();
     void expandRow();

@@ -7,5 +7,5 @@ class JhcodeLoadcomb : public Jhobject {
 public:
     explicit JhcodeLoadcomb(std::uint32_t number) : Jhobject("JhcodeLoadcomb", number) {}
 
-    zel::loadcomb::ObjectList<JhloadCombination> combinations;
+    zel::object_style::ObjectList<JhloadCombination> combinations;
 };

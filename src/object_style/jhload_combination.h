@@ -19,10 +19,10 @@ public:
     {
     }
 
-    const JhcodeLoadcomb* code = nullptr;                     ///< of a table row; null for all others
-    zel::loadcomb::ObjectList<JhassoLoadcombLoadcase> cases;  ///< links of this combination
-    std::uint32_t kind = 1;                                   ///< design kind, 1 to 5; table rows have 1
-    std::uint8_t active = 1;                                  ///< of a table row 0 service, 1 strength
+    const JhcodeLoadcomb* code = nullptr;                         ///< of a table row; null for all others
+    zel::object_style::ObjectList<JhassoLoadcombLoadcase> cases;  ///< links of this combination
+    std::uint32_t kind = 1;                                       ///< design kind, 1 to 5; table rows have 1
+    std::uint8_t active = 1;                                      ///< of a table row 0 service, 1 strength
     std::int32_t type = 0;
     CString description;  ///< of a table row its formula
 

@@ -10,8 +10,8 @@ class Jhloadcase : public Jhobject {
 public:
     explicit Jhloadcase(std::uint32_t number) : Jhobject("Jhloadcase", number) {}
 
-    zel::loadcomb::ObjectList<JhassoLoadcombLoadcase> combinations;  ///< links to this case
-    CString type;                                                    ///< the type symbol: "D", "L", "W", "E", ...
+    zel::object_style::ObjectList<JhassoLoadcombLoadcase> combinations;  ///< links to this case
+    CString type;                                                        ///< the type symbol: "D", "L", "W", "E", ...
     CString description;
     float factor = 1.0F;  ///< scale factor of an earthquake case
 };

@@ -6,7 +6,7 @@
 #include <list>
 #include <unordered_map>
 
-namespace zel::loadcomb {
+namespace zel::object_style {
 
 /// A doubly linked list of objects that others own, each at most once, with a cursor.
 ///
@@ -89,4 +89,4 @@ private:
     std::unordered_map<const T*, typename Objects::iterator> m_places;  // long lists refuse what they hold without a walk
 };
 
-}  // namespace zel::loadcomb
+}  // namespace zel::object_style

@@ -6,7 +6,7 @@
 #include <utility>
 
 // The lists of the generator own what is in them; the lists at the objects themselves do not.
-namespace zel::loadcomb {
+namespace zel::object_style {
 
 /// Makes an object and puts it into a list that owns it.
 template <class T, class... Arguments> T& makeIn(ObjectList<T>& list, Arguments&&... arguments)
@@ -23,4 +23,4 @@ template <class T> void destroyAll(const ObjectList<T>& list)
         delete object;
 }
 
-}  // namespace zel::loadcomb
+}  // namespace zel::object_style

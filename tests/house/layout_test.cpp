@@ -35,7 +35,7 @@ const Layer layers[] = {
     {"src/contract/", {"contract/"}, {}},
     {"src/command/", commandLibrary, {}},
     {"src/loadcomb/", commandLibrary, {}},
-    {"src/object_style/", {"contract/", "command/", "loadcomb/", "object_style/"}, {}},
+    {"src/object_style/", {"contract/", "command/guarded.h", "object_style/"}, {}},
     {"src/load/", commandLibrary, {}},
     {"src/dynamic/", commandLibrary, {}},
     {"src/property/", commandLibrary, {}},

@@ -6,7 +6,7 @@
 
 namespace {
 
-using zel::loadcomb::ObjectList;
+using zel::object_style::ObjectList;
 
 struct ThreeCases {
     Jhloadcase first{1}, second{2}, third{3};

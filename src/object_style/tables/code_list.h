@@ -6,20 +6,20 @@
 #include "object_style/tables/ksce_usd96.h"
 
 // The design codes of the object-style generator, one line each, in the order in which their objects are made.
-namespace zel::codes::object_style {
+namespace zel::object_style {
 
 struct Code {
     const char* name;
-    const CodeTable* table;
+    std::span<const Row> rows;
 };
 
 inline constexpr Code codeList[] = {
-    {"AIK-USD94",  &aik_usd94},
-    {"ACI318-89",  &aci318_89},
-    {"ACI318-95",  &aci318_89},
-    {"ACI318-99",  &aci318_89},
-    {"KCI-USD99",  &kci_usd99},
-    {"KSCE-USD96", &ksce_usd96},
+    {"AIK-USD94",  aik_usd94_rows},
+    {"ACI318-89",  aci318_89_rows},
+    {"ACI318-95",  aci318_89_rows},
+    {"ACI318-99",  aci318_89_rows},
+    {"KCI-USD99",  kci_usd99_rows},
+    {"KSCE-USD96", ksce_usd96_rows},
 };
 
-}  // namespace zel::codes::object_style
+}  // namespace zel::object_style

@@ -1,7 +1,7 @@
 #pragma once
 
 // The abstract load kinds that table rows combine: a load case belongs to the kind whose symbol is its type.
-namespace zel::codes::object_style {
+namespace zel::object_style {
 
 struct LoadKind {
     const char* symbol;         ///< type text of the load cases; null where a message gives it
@@ -25,4 +25,4 @@ inline constexpr LoadKind loadKinds[] = {
     {"WP",    nullptr,             "IDS_ZEL_CMD__Stream_Flow_Pressure"},
 };
 
-}  // namespace zel::codes::object_style
+}  // namespace zel::object_style
