@@ -126,6 +126,7 @@ private:
         written.flag = row.flag;
         written.clause = m_part.clause;
         written.text = formulaOf(m_part, m_wind, row, x, sign);
+        written.factors.reserve(std::size(row.pairs));
         const std::string_view governed = codes::signedTerm(row.text);
         for (const codes::Pair& pair : row.pairs) {
             double factor = factorOf(pair);

@@ -2,6 +2,7 @@
 
 #include "contract/design_kind.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <limits>
@@ -13,7 +14,7 @@ namespace {
 constexpr std::string_view kindLetters = "gscfr";  // of the design kinds
 static_assert(kindLetters.size() == designKinds.size());
 constexpr std::string_view commonName = "LCB";
-constexpr std::size_t numberWidth = 3;
+constexpr std::ptrdiff_t numberWidth = 3;
 
 std::uint64_t mixed(std::uint64_t hash, std::uint64_t value)
 {
@@ -54,13 +55,13 @@ std::string combinationName(int kind, std::int64_t number)
 {
     if (!isDesignKind(kind))
         return {};
-    char digits[24];
-    const std::string_view shown(digits, static_cast<std::size_t>(std::to_chars(digits, digits + sizeof digits, number).ptr - digits));
-    std::string name(1, kindLetters[static_cast<std::size_t>(kind - firstDesignKind)]);
-    name.append(commonName).append(shown);
-    if (shown.size() < numberWidth)
-        name.append(numberWidth - shown.size(), ' ');
-    return name;
+    char name[32];
+    name[0] = kindLetters[static_cast<std::size_t>(kind - firstDesignKind)];
+    char* const digits = std::copy(commonName.begin(), commonName.end(), name + 1);
+    char* end = std::to_chars(digits, name + sizeof name, number).ptr;
+    while (end < digits + numberWidth)
+        *end++ = ' ';
+    return {name, end};
 }
 
 std::int64_t highestNumber(const std::vector<std::string>& names)

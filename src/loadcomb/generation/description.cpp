@@ -81,22 +81,28 @@ constexpr std::array<bool, 256> marksOf(std::string_view marks)
     return isMark;
 }
 
+bool isParenthesis(char c)
+{
+    return c == '(' || c == ')';
+}
+
+/// Ends at the first bracket that it finds: the text is then looked at again when the brackets are done.
 Findings lookAt(std::string_view text)
 {
     static constexpr std::array<bool, 256> isMark = marksOf("()+-L");
     Findings found;
     std::size_t open = nowhere;  // of the innermost pair
     std::size_t ignored = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    for (std::size_t i = 0; i < text.size() && !found.brackets; ++i) {
         if (!isMark[static_cast<unsigned char>(text[i])])
             continue;
         switch (text[i]) {
         case '(':
             open = i;
-            found.brackets |= at(text, i + 1) == alphaToken[1] && text.substr(i, alphaToken.size()) == alphaToken;
+            found.brackets = at(text, i + 1) == alphaToken[1] && text.substr(i, alphaToken.size()) == alphaToken;
             break;
         case ')':
-            found.brackets |= open != nowhere && static_cast<std::ptrdiff_t>(i - open) < shortestPair;
+            found.brackets = open != nowhere && static_cast<std::ptrdiff_t>(i - open) < shortestPair;
             open = nowhere;
             break;
         case 'L':
@@ -106,9 +112,8 @@ Findings lookAt(std::string_view text)
                 found.nestedNames |= at(text, i + 1) == 'L';
             }
             break;
-        default:
-            if (i == 0 || text[i - 1] != ' ' || at(text, i + 1) != ' ')  // a sign between blanks is never loose
-                found.brackets |= looseSign(text, i, ignored) != 0;
+        default:  // no sign is loose but beside a parenthesis
+            found.brackets = ((i > 0 && isParenthesis(text[i - 1])) || isParenthesis(at(text, i + 1))) && looseSign(text, i, ignored) != 0;
         }
     }
     return found;

@@ -22,6 +22,8 @@ struct RowGroups {
 
     explicit RowGroups(std::span<const RowFactor> pairs)
     {
+        groups.reserve(pairs.size());
+        factors.reserve(pairs.size());
         for (const RowFactor& pair : pairs) {
             if (pair.factor == 0.0 || pair.group == nullptr)
                 continue;
@@ -234,6 +236,7 @@ void Generator::addRow(codes::Flag flag, std::string_view rowText, std::span<con
     m_state.serviceRow = flag == codes::service;
     RowOutcome& outcome = m_outcomes.emplace_back();
     outcome.source = {std::string(place.block), std::string(place.clause), std::string(rowText), flag, {}};
+    outcome.source.factors.reserve(row.groups.size());
     for (std::size_t i = 0; i < row.groups.size(); ++i)
         outcome.source.factors.emplace_back(row.groups[i].name, row.factors[i]);
     if (row.groups.empty())

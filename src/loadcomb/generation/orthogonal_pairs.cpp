@@ -11,32 +11,52 @@ namespace {
 
 constexpr double minorShare = 0.3;
 
-EarthquakeChoice choiceOf(const ExpansionState& state, std::uint32_t key, double coefficient)
-{
-    return {key, coefficient, state.scaleOf(key), state.overstrengthOf(key), state.eccentricOf(key), 0};
-}
+/// A member of several pairs, which differ in the sign of its partner.
+class Member {
+public:
+    Member(const ExpansionState& state, std::uint32_t key, double coefficient)
+        : m_choice{key, coefficient, state.scaleOf(key), state.overstrengthOf(key), state.eccentricOf(key), 0}
+    {
+        m_front = fixedText(std::abs(coefficient), 1) + "(" + fixedText(m_choice.scale, 2) + ")";
+        if (state.usesOverstrength())
+            m_front += "(" + fixedText(m_choice.overstrength, 2) + ")";
+        m_front += (hasPartner() ? "[" : "") + state.names.at(key);
+        if (hasPartner())
+            m_back = state.names.at(m_choice.partner) + "]";
+    }
 
-/// As a member stands in the formula: "0.3(1.15)[RX+EX]".
-std::string memberText(const ExpansionState& state, const EarthquakeChoice& member)
-{
-    std::string text = fixedText(std::abs(member.coefficient), 1);
-    text.append("(").append(fixedText(member.scale, 2)).append(")");
-    if (state.usesOverstrength())
-        text.append("(").append(fixedText(member.overstrength, 2)).append(")");
-    const std::string& name = state.names.at(member.key);
-    if (member.partner == 0)
-        text.append(name);
-    else
-        text.append("[").append(name).append(member.partnerSign < 0 ? "-" : "+").append(state.names.at(member.partner)).append("]");
-    return text;
-}
+    [[nodiscard]] bool hasPartner() const { return m_choice.partner != 0; }
+
+    /// With the partner added (+1) or subtracted (-1).
+    [[nodiscard]] EarthquakeChoice choice(int partnerSign) const
+    {
+        EarthquakeChoice made = m_choice;
+        made.partnerSign = hasPartner() ? partnerSign : 0;
+        return made;
+    }
+
+    /// As it stands in the formula: "0.3(1.15)[RX+EX]".
+    void appendTo(std::string& text, int partnerSign) const
+    {
+        text.append(m_front);
+        if (hasPartner())
+            text.append(partnerSign < 0 ? "-" : "+").append(m_back);
+    }
+
+private:
+    EarthquakeChoice m_choice;
+    std::string m_front, m_back;  ///< of the partner's sign
+};
 
 /// A pair with its eccentric partners added (+1) or subtracted (-1).
-OrthogonalPair pairOf(const ExpansionState& state, EarthquakeChoice major, EarthquakeChoice minor, int majorSign, int minorSign)
+OrthogonalPair pairOf(const Member& major, const Member& minor, int majorSign, int minorSign)
 {
-    major.partnerSign = major.partner == 0 ? 0 : majorSign;
-    minor.partnerSign = minor.partner == 0 ? 0 : minorSign;
-    return {major, minor, "(" + memberText(state, major) + (minor.coefficient < 0.0 ? "-" : "+") + memberText(state, minor) + ")"};
+    OrthogonalPair pair{major.choice(majorSign), minor.choice(minorSign), "("};
+    major.appendTo(pair.text, majorSign);
+    pair.text += pair.minor.coefficient < 0.0 ? '-' : '+';
+    minor.appendTo(pair.text, minorSign);
+    pair.text += ')';
+    return pair;
 }
 
 void appendMember(std::vector<T_LCOM_ITEM>& items, const EarthquakeChoice& member, double factor)
@@ -78,15 +98,15 @@ void OrthogonalPairs::prepare(const ExpansionState& state, const std::vector<std
         const std::uint32_t other = state.orthogonalOf(key);
         if (other == 0)
             continue;
-        const EarthquakeChoice major = choiceOf(state, key, 1.0);
+        const Member major(state, key, 1.0);
         for (const double share : {minorShare, -minorShare}) {
-            const EarthquakeChoice minor = choiceOf(state, other, share);
-            m_together.push_back(pairOf(state, major, minor, +1, +1));
-            if (major.partner != 0 || minor.partner != 0)
-                m_together.push_back(pairOf(state, major, minor, -1, -1));
-            if (major.partner != 0 && minor.partner != 0) {
-                m_apart.push_back(pairOf(state, major, minor, +1, -1));
-                m_apart.push_back(pairOf(state, major, minor, -1, +1));
+            const Member minor(state, other, share);
+            m_together.push_back(pairOf(major, minor, +1, +1));
+            if (major.hasPartner() || minor.hasPartner())
+                m_together.push_back(pairOf(major, minor, -1, -1));
+            if (major.hasPartner() && minor.hasPartner()) {
+                m_apart.push_back(pairOf(major, minor, +1, -1));
+                m_apart.push_back(pairOf(major, minor, -1, +1));
             }
         }
     }
