@@ -1,5 +1,6 @@
 #include "forms/sample_form.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace {
@@ -129,6 +130,23 @@ TEST(ListBox, OfSingleSelectionTakesOneRow)
     EXPECT_EQ(list.GetSelItems(), Rows{0});
     list.DeleteString(0);
     EXPECT_EQ(list.GetCurSel(), -1);
+}
+
+TEST(ListBox, ThatWasEmptiedHasNothingSelectedWhenItIsFilledAgain)
+{
+    OpenForm open;
+    CListBox& list = open.form->list;
+    for (const char* text : {"a", "b", "c"})
+        list.AddString(text);
+    EXPECT_TRUE(list.select({1, 2}));
+    list.ResetContent();
+    EXPECT_EQ(list.GetCount(), 0);
+    EXPECT_THAT(list.GetSelItems(), testing::IsEmpty());
+    for (const char* text : {"d", "e", "f"})
+        list.AddString(text);
+    EXPECT_THAT(list.GetSelItems(), testing::IsEmpty());
+    list.SetSel(2);
+    EXPECT_EQ(list.GetSelItems(), Rows{2});
 }
 
 TEST(CheckList, TicksLinesApartFromSelectingThem)

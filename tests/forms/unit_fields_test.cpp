@@ -171,6 +171,15 @@ TEST_F(UnitFields, ConvertWhatTheUserHasTypedAndLeaveWhatIsNoNumber)
     EXPECT_EQ(length.GetWindowText(), "2000");
 }
 
+TEST_F(UnitFields, AChangeOfAnotherUnitLeavesWhatIsBeingTyped)
+{
+    length.SetWindowText("2*1000");
+    setUnits(T_UNIT_INDEX::MM, T_UNIT_INDEX::N);
+    EXPECT_EQ(length.GetWindowText(), "2*1000");
+    setUnits(T_UNIT_INDEX::M, T_UNIT_INDEX::N);
+    EXPECT_EQ(length.GetWindowText(), "2");
+}
+
 TEST_F(UnitFields, ComeBackToTheLastDigit)
 {
     length.SetEditUnit(1234.56789012345);

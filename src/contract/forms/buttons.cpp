@@ -34,9 +34,20 @@ bool CButton::onKey(zel::UserKey key)
 }
 
 CCheckBox::CCheckBox(const zel::Place& place, std::string_view id, CString caption, zel::Action<> onClick)
-    : Control(place, id, {}), m_onClick(std::move(onClick))
+    : CCheckBox(place, id, std::move(caption), zel::Field(), std::move(onClick))
+{
+}
+
+CCheckBox::CCheckBox(const zel::Place& place, std::string_view id, CString caption, const zel::Field& field, zel::Action<> onClick)
+    : Control(place, id, {}, field), m_onClick(std::move(onClick))
 {
     m_text = std::move(caption);
+}
+
+bool CCheckBox::readField(void* record) const
+{
+    field().setInteger(record, m_checked ? 1 : 0);
+    return true;
 }
 
 void CCheckBox::SetCheck(bool checked)
@@ -77,13 +88,37 @@ void CRadioGroup::SetSel(int index)
         button->changed();
 }
 
+int CRadioGroup::indexOf(const void* record) const
+{
+    const auto chosen = std::ranges::find(m_buttons, m_field.integer(record), &CRadioButton::m_code);
+    return chosen != m_buttons.end() ? (*chosen)->m_index : -1;
+}
+
 CRadioButton::CRadioButton(CRadioGroup& radios, std::string_view id, CString caption) : CRadioButton(radios.m_place, radios, id, std::move(caption)) {}
 
+CRadioButton::CRadioButton(CRadioGroup& radios, std::string_view id, CString caption, int code) : CRadioButton(radios, id, std::move(caption))
+{
+    m_code = code;
+}
+
 CRadioButton::CRadioButton(const zel::Place& place, CRadioGroup& radios, std::string_view id, CString caption)
-    : Control(place, id, {}), m_radios(radios), m_index(static_cast<int>(radios.m_buttons.size()))
+    : Control(place, id, {}), m_radios(radios), m_index(static_cast<int>(radios.m_buttons.size())), m_code(m_index)
 {
     m_text = std::move(caption);
     radios.m_buttons.push_back(this);
+}
+
+bool CRadioButton::readField(void* record) const
+{
+    if (m_radios.GetSel() >= 0)
+        field().setInteger(record, m_radios.buttons()[static_cast<std::size_t>(m_radios.GetSel())]->m_code);
+    return m_radios.GetSel() >= 0 || !field().isRequired();
+}
+
+CString CRadioButton::fieldText(const void* record) const
+{
+    const int index = m_radios.indexOf(record);
+    return index >= 0 ? m_radios.buttons()[static_cast<std::size_t>(index)]->label() : CString();
 }
 
 bool CRadioButton::GetCheck() const

@@ -28,6 +28,11 @@ private:
 class CCheckBox : public zel::Control {
 public:
     CCheckBox(const zel::Place& place, std::string_view id, CString caption, zel::Action<> onClick = {});
+    /// Shows a field of 0 and 1.
+    CCheckBox(const zel::Place& place, std::string_view id, CString caption, const zel::Field& field, zel::Action<> onClick = {});
+
+    void showField(const void* record) override { SetCheck(field().integer(record) != 0); }
+    [[nodiscard]] bool readField(void* record) const override;
 
     [[nodiscard]] zel::Kind kind() const override { return zel::Kind::check; }
     [[nodiscard]] const CString& label() const override { return GetWindowText(); }
@@ -58,6 +63,10 @@ public:
     /// @param place     where its buttons stand
     /// @param onChoose  the user has clicked one of them
     explicit CRadioGroup(const zel::Place& place, zel::Action<> onChoose = {}) : m_place(place), m_onChoose(std::move(onChoose)) {}
+    /// Shows a field of the codes of its buttons. A code that none has chooses none, and while none is chosen the field is left as it is.
+    CRadioGroup(const zel::Place& place, const zel::Field& field, zel::Action<> onChoose = {}) : m_place(place), m_field(field), m_onChoose(std::move(onChoose))
+    {
+    }
     CRadioGroup(const CRadioGroup&) = delete;
     CRadioGroup& operator=(const CRadioGroup&) = delete;
     ~CRadioGroup() = default;
@@ -66,13 +75,19 @@ public:
     void SetSel(int index);
     /// The chosen one; -1 for none.
     [[nodiscard]] int GetSel() const { return m_selected; }
+    /// Shows the group's field of a record.
+    void showField(const void* record) { SetSel(indexOf(record)); }
     [[nodiscard]] const std::vector<CRadioButton*>& buttons() const { return m_buttons; }
     void onChoose(zel::Action<> action) { m_onChoose = std::move(action); }
 
 private:
     friend class CRadioButton;
 
+    /// Of the button with the code that the record holds; -1 if none has it.
+    [[nodiscard]] int indexOf(const void* record) const;
+
     zel::Place m_place;
+    zel::Field m_field;
     zel::Action<> m_onChoose;
     std::vector<CRadioButton*> m_buttons;
     int m_selected = -1;
@@ -82,6 +97,8 @@ private:
 class CRadioButton : public zel::Control {
 public:
     CRadioButton(CRadioGroup& radios, std::string_view id, CString caption);
+    /// @param code  what the group's field holds while this one is chosen; without it, its place in the group from 0
+    CRadioButton(CRadioGroup& radios, std::string_view id, CString caption, int code);
     /// At a place of its own.
     CRadioButton(const zel::Place& place, CRadioGroup& radios, std::string_view id, CString caption);
 
@@ -89,6 +106,13 @@ public:
     [[nodiscard]] const CString& label() const override { return GetWindowText(); }
     [[nodiscard]] CRadioGroup& radios() const { return m_radios; }
     [[nodiscard]] bool GetCheck() const;
+
+    /// The first of the buttons stands for the group's field.
+    [[nodiscard]] const zel::Field& field() const override { return m_index == 0 ? m_radios.m_field : Control::field(); }
+    void showField(const void* record) override { m_radios.showField(record); }
+    [[nodiscard]] bool readField(void* record) const override;
+    /// The caption of the button with the code.
+    [[nodiscard]] CString fieldText(const void* record) const override;
 
     /// Takes true only: a radio is cleared by choosing another one.
     zel::Taken set(const zel::UserValue& value) override;
@@ -100,6 +124,7 @@ private:
 
     CRadioGroup& m_radios;
     int m_index;
+    int m_code;
 };
 
 /// The pair of arrows beside an edit field, its buddy.

@@ -1,5 +1,6 @@
 #include "contract/forms/control.h"
 
+#include "contract/format_text.h"
 #include "contract/forms/dialog.h"
 #include "contract/forms/find_control.h"
 #include "contract/forms/window_list.h"
@@ -73,9 +74,22 @@ UserAction::~UserAction()
     WindowList::instance().actionEnds();
 }
 
-Control::Control(const Place& place, std::string_view id, CString label) : m_place(place), m_id(id), m_label(std::move(label))
+Control::Control(const Place& place, std::string_view id, CString label, const Field& field)
+    : m_place(place), m_id(id), m_label(std::move(label)), m_field(field)
 {
     dialog().enter(*this);
+}
+
+CString Control::fieldText(const void* record) const
+{
+    switch (field().type()) {
+    case FieldType::real:
+        return formatText("%g", field().real(record));
+    case FieldType::text:
+        return field().text(record);
+    default:
+        return std::to_string(field().integer(record));
+    }
 }
 
 Control::~Control()

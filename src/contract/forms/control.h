@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/forms/action.h"
+#include "contract/forms/field.h"
 #include "contract/forms/wnd.h"
 
 #include <functional>
@@ -71,7 +72,8 @@ public:
     /// Enters itself in the dialog; the order of entry is the reading order.
     /// @param id     name of the member in the dialog's class. It stands in journals: never rename it
     /// @param label  text beside or on the control, exactly as the form words it; may be empty
-    Control(const Place& place, std::string_view id, CString label);
+    /// @param field  of a record that it shows; none for a control that stands for none
+    Control(const Place& place, std::string_view id, CString label, const Field& field = {});
     ~Control() override;
 
     // What it is.
@@ -88,6 +90,18 @@ public:
     [[nodiscard]] virtual bool isListed() const { return true; }
     /// What a sentence calls it: its label as names are compared, else its id.
     [[nodiscard]] CString name() const;
+
+    // The field of a record that it shows. These are the program's channel, for records of the field's record type.
+    [[nodiscard]] virtual const Field& field() const { return m_field; }
+    /// Shows the field of a record.
+    virtual void showField(const void* /*record*/) {}
+    /// Takes what is entered over into the record. False, with the record as it was, if the field can't take it.
+    [[nodiscard]] virtual bool readField(void* /*record*/) const { return true; }
+    /// How a list shows the field: a number with "%g", a code by its text.
+    [[nodiscard]] virtual CString fieldText(const void* record) const;
+    /// What is entered can't be taken: the focus comes here and the entry is marked until it is changed.
+    virtual void refuseEntry() { SetFocus(); }
+    [[nodiscard]] virtual bool isEntryRefused() const { return false; }
 
     // How it stands.
     [[nodiscard]] bool IsWindow() const override;
@@ -169,6 +183,7 @@ private:
     Place m_place;
     CString m_id;
     CString m_label;
+    Field m_field;
     std::function<bool()> m_enabledWhen;
     std::function<bool()> m_visibleWhen;
 };

@@ -3,12 +3,60 @@
 #include "contract/format_text.h"
 #include "contract/forms/dialog.h"
 #include "contract/forms/field_writer.h"
+#include "contract/number_text.h"
 
 using zel::Taken;
 
 CEdit::CEdit(const zel::Place& place, std::string_view id, CString label, zel::Action<> onChange)
-    : Control(place, id, std::move(label)), m_onChange(std::move(onChange))
+    : CEdit(place, id, std::move(label), zel::Field(), std::move(onChange))
 {
+}
+
+CEdit::CEdit(const zel::Place& place, std::string_view id, CString label, const zel::Field& field, zel::Action<> onChange)
+    : Control(place, id, std::move(label), field), m_onChange(std::move(onChange))
+{
+}
+
+void CEdit::showField(const void* record)
+{
+    SetWindowText(fieldText(record));
+}
+
+bool CEdit::readField(void* record) const
+{
+    const CString& text = GetWindowText();
+    if (field().type() == zel::FieldType::text) {
+        const CString taken = field().isTrimmed() ? CString(zel::number::trim(text)) : text;
+        if (taken.empty() && field().isRequired())
+            return false;
+        field().setText(record, taken);
+        return true;
+    }
+    if (field().type() == zel::FieldType::real) {
+        double value = 0.0;
+        if (readNumber(value) == 0 && !field().isZeroIfUnread())
+            return false;
+        field().setReal(record, value);
+        return true;
+    }
+    const std::optional<int> value = zel::number::readInteger(text);
+    if (!value && !field().isZeroIfUnread())
+        return false;
+    field().setInteger(record, value.value_or(0));
+    return true;
+}
+
+int CEdit::readNumber(double& value) const
+{
+    return CStrParser::GetFloatNumber(GetWindowText(), value);
+}
+
+void CEdit::refuseEntry()
+{
+    SetFocus();
+    SetSel(0, -1);
+    m_refused = true;
+    changed();
 }
 
 void CEdit::SetSel(int start, int end)
@@ -27,6 +75,7 @@ void CEdit::SetReadOnly(bool readOnly)
 void CEdit::SetWindowText(const CString& text)
 {
     m_selection = {0, 0};
+    m_refused = false;
     Control::SetWindowText(text);
 }
 

@@ -9,8 +9,16 @@ class CEdit : public zel::Control {
 public:
     /// @param onChange  the user has changed the text
     CEdit(const zel::Place& place, std::string_view id, CString label, zel::Action<> onChange = {});
+    /// Shows a field: a text, or a plain number.
+    CEdit(const zel::Place& place, std::string_view id, CString label, const zel::Field& field, zel::Action<> onChange = {});
 
     [[nodiscard]] zel::Kind kind() const override { return zel::Kind::edit; }
+
+    void showField(const void* record) override;
+    [[nodiscard]] bool readField(void* record) const override;
+    /// Selects the text too, so that typing replaces it.
+    void refuseEntry() override;
+    [[nodiscard]] bool isEntryRefused() const override { return m_refused; }
 
     /// Selects the text from place `start` to place `end`; (0, -1) all of it.
     void SetSel(int start, int end);
@@ -43,6 +51,8 @@ public:
 protected:
     /// A sentence that says why the field can't take the text; empty if it can.
     [[nodiscard]] virtual CString objection(const CString& /*text*/) const { return {}; }
+    /// The number that the text stands for; 0 if it is none.
+    virtual int readNumber(double& value) const;
 
 private:
     zel::Action<> m_onChange;
@@ -53,6 +63,7 @@ private:
     std::pair<int, int> m_selection{0, 0};
     bool m_readOnly = false;
     bool m_multiLine = false;
+    bool m_refused = false;  ///< the text can't be taken as it stands
 };
 
 /// A label: text that the program sets.

@@ -19,11 +19,30 @@ T_UNIT_INDEX currentUnits()
     return units;
 }
 
+/// A field whose unit its record decides has none until the dialog gives it one.
+int unitOf(const zel::Field& field)
+{
+    return field.unit() == Unit::byRecord ? Unit::none : field.unit();
+}
+
 }  // namespace
 
 CEditUnit::CEditUnit(const zel::Place& place, std::string_view id, CString label, int unitType, zel::Action<> onChange)
     : CEdit(place, id, std::move(label), std::move(onChange)), m_unitType(unitType), m_units(currentUnits())
 {
+}
+
+CEditUnit::CEditUnit(const zel::Place& place, std::string_view id, CString label, const zel::Field& field, zel::Action<> onChange)
+    : CEdit(place, id, std::move(label), field, std::move(onChange)), m_unitType(unitOf(field)), m_units(currentUnits())
+{
+}
+
+void CEditUnit::showField(const void* record)
+{
+    if (field().type() == zel::FieldType::real)
+        SetEditUnit(field().real(record));
+    else
+        CEdit::showField(record);
 }
 
 void CEditUnit::SetWindowText(const CString& text)
@@ -118,6 +137,8 @@ CTextUnit::CTextUnit(const zel::Place& place, std::string_view id, int unitType)
 {
     SetUnitType(unitType);
 }
+
+CTextUnit::CTextUnit(const zel::Place& place, std::string_view id, const zel::Field& field) : CTextUnit(place, id, unitOf(field)) {}
 
 void CTextUnit::SetUnitType(int unitType)
 {

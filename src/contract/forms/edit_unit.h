@@ -14,7 +14,12 @@ public:
     /// @param unitType  a type of `Unit`
     CEditUnit(const zel::Place& place, std::string_view id, CString label, int unitType = Unit::none, zel::Action<> onChange = {});
 
+    /// Shows a real field, in the unit that its record gives it, or a whole number.
+    CEditUnit(const zel::Place& place, std::string_view id, CString label, const zel::Field& field, zel::Action<> onChange = {});
+
     [[nodiscard]] zel::Kind kind() const override { return zel::Kind::number; }
+
+    void showField(const void* record) override;
 
     void SetUnitType(int unitType) { m_unitType = unitType; }
     [[nodiscard]] int unitType() const { return m_unitType; }
@@ -41,6 +46,7 @@ public:
 private:
     void OnUpdate(CView* sender, long long hint, CObject* object) override;
     void convert();
+    int readNumber(double& value) const override { return GetEditValue(value); }
 
     int m_unitType;
     double m_value = 0.0;     ///< the number that SetEditUnit was given
@@ -52,6 +58,8 @@ private:
 class CTextUnit : public CStatic, private CDBUpdateConnector {
 public:
     CTextUnit(const zel::Place& place, std::string_view id, int unitType = Unit::none);
+    /// The unit of a field.
+    CTextUnit(const zel::Place& place, std::string_view id, const zel::Field& field);
 
     [[nodiscard]] zel::Kind kind() const override { return zel::Kind::unit; }
     void SetUnitType(int unitType);

@@ -45,6 +45,13 @@ int ItemControl::AddString(const CString& text, std::uintptr_t data)
     return InsertString(GetCount(), text, data);
 }
 
+int ItemControl::AddCode(const CString& code, const CString& text)
+{
+    const int index = AddString(text);
+    m_items[at(index)].code = code;
+    return index;
+}
+
 int ItemControl::InsertString(int index, const CString& text, std::uintptr_t data)
 {
     index = std::clamp(index, 0, GetCount());
@@ -98,6 +105,12 @@ int ItemControl::FindData(std::uintptr_t data) const
     return found == m_items.end() ? -1 : static_cast<int>(found - m_items.begin());
 }
 
+int ItemControl::FindCode(const CString& code) const
+{
+    const auto found = std::ranges::find(m_items, code, &Item::ownCode);
+    return found == m_items.end() ? -1 : static_cast<int>(found - m_items.begin());
+}
+
 std::vector<CString> ItemControl::items() const
 {
     std::vector<CString> texts;
@@ -120,8 +133,42 @@ Taken ItemControl::noEntry(const UserValue& value) const
 }  // namespace zel
 
 CComboBox::CComboBox(const zel::Place& place, std::string_view id, CString label, zel::Action<> onSelect)
-    : ItemControl(place, id, std::move(label)), m_onSelect(std::move(onSelect))
+    : CComboBox(place, id, std::move(label), zel::Field(), std::move(onSelect))
 {
+}
+
+CComboBox::CComboBox(const zel::Place& place, std::string_view id, CString label, const zel::Field& field, zel::Action<> onSelect)
+    : ItemControl(place, id, std::move(label), field), m_onSelect(std::move(onSelect))
+{
+    for (const zel::Choice& choice : field.choices())
+        m_items.push_back({choiceText(choice), static_cast<std::uintptr_t>(choice.code)});
+}
+
+int CComboBox::itemOf(const void* record) const
+{
+    return field().type() == zel::FieldType::text ? FindCode(field().text(record)) : FindData(static_cast<std::uintptr_t>(field().integer(record)));
+}
+
+void CComboBox::showField(const void* record)
+{
+    SetCurSel(itemOf(record));
+}
+
+bool CComboBox::readField(void* record) const
+{
+    if (!has(m_selected))
+        return !field().isRequired();
+    const Item& item = m_items[at(m_selected)];
+    if (field().type() == zel::FieldType::text)
+        field().setText(record, item.ownCode());
+    else
+        field().setInteger(record, static_cast<std::int64_t>(item.data));
+    return true;
+}
+
+CString CComboBox::fieldText(const void* record) const
+{
+    return GetItemText(itemOf(record));
 }
 
 void CComboBox::SetCurSel(int index)

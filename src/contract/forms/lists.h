@@ -3,6 +3,7 @@
 #include "contract/forms/control.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace zel {
@@ -14,6 +15,8 @@ public:
 
     /// Adds an item at the end, or at a place, and returns its index.
     virtual int AddString(const CString& text, std::uintptr_t data = 0);
+    /// Adds an item at the end that stands for a code which is a text: "D" for "Dead Load (D)", "" for "None".
+    int AddCode(const CString& code, const CString& text);
     virtual int InsertString(int index, const CString& text, std::uintptr_t data = 0);
     /// Returns 0 for an index without an item.
     virtual int DeleteString(int index);
@@ -33,12 +36,17 @@ public:
     [[nodiscard]] int FindStringExact(const CString& text) const;
     /// Index of the first item with that value; -1 if there is none.
     [[nodiscard]] int FindData(std::uintptr_t data) const;
+    /// Index of the first item with that code, exactly; of an item without one its text is its code. -1 if there is none.
+    [[nodiscard]] int FindCode(const CString& code) const;
     [[nodiscard]] std::vector<CString> items() const;
 
 protected:
     struct Item {
         CString text;
         std::uintptr_t data = 0;
+        std::optional<CString> code = {};
+
+        [[nodiscard]] const CString& ownCode() const { return code ? *code : text; }
     };
 
     [[nodiscard]] bool has(int index) const { return index >= 0 && index < GetCount(); }
@@ -57,8 +65,16 @@ class CComboBox : public zel::ItemControl {
 public:
     /// @param onSelect  the user has chosen an item
     CComboBox(const zel::Place& place, std::string_view id, CString label, zel::Action<> onSelect = {});
+    /// Shows a field: a code, which is the value of an item, or a text, which is the code of an item (AddCode) or its text. The
+    /// choices of the field are its items from the start. While nothing is selected the field is left as it is.
+    CComboBox(const zel::Place& place, std::string_view id, CString label, const zel::Field& field, zel::Action<> onSelect = {});
 
     [[nodiscard]] zel::Kind kind() const override { return zel::Kind::combo; }
+
+    void showField(const void* record) override;
+    [[nodiscard]] bool readField(void* record) const override;
+    /// The text of the item with the field's code; empty if there is none.
+    [[nodiscard]] CString fieldText(const void* record) const override;
 
     /// Selects an item; -1 none. An index that has no item is kept: GetCurSel gives it, and the box shows no text until there is one.
     void SetCurSel(int index);
@@ -92,6 +108,9 @@ public:
     void describe(zel::IFieldWriter& writer) const override;
 
 private:
+    /// The item that stands for the field's value; -1 if none does.
+    [[nodiscard]] int itemOf(const void* record) const;
+
     zel::Action<> m_onSelect;
     zel::Action<> m_onEdit;
     int m_selected = -1;

@@ -7,6 +7,11 @@ CSelectLC::CSelectLC(const zel::Place& place, std::string_view id, CString label
 {
 }
 
+CSelectLC::CSelectLC(const zel::Place& place, std::string_view id, CString label, const zel::Field& field, zel::Action<> onSelect)
+    : CComboBox(place, id, std::move(label), field, std::move(onSelect))
+{
+}
+
 void CSelectLC::SetLoadType(unsigned kind, int casesOnly, int /*reserved*/)
 {
     m_kind = kind;

@@ -10,6 +10,8 @@
 class CSelectLC : public CComboBox, private CDBUpdateConnector {
 public:
     CSelectLC(const zel::Place& place, std::string_view id, CString label, zel::Action<> onSelect = {});
+    /// Shows a field that holds the key of a load case.
+    CSelectLC(const zel::Place& place, std::string_view id, CString label, const zel::Field& field, zel::Action<> onSelect = {});
 
     /// Fills it. Selected is then the first line.
     /// @param kind        1: static load cases; any other kind offers nothing

@@ -1,5 +1,6 @@
 #include "desktop/forms/field_views.h"
 
+#include "desktop/forms/grid_delegate.h"
 #include "desktop/forms/text.h"
 
 #include <QLabel>
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int numberCharacters = 12;
 constexpr int textCharacters = 22;
+constexpr double refusedShare = 0.25;   ///< of the colour of what is wrong, behind an entry that can't be taken
 constexpr int unbrokenCharacters = 64;  ///< of a text that the program sets; a longer one takes several lines
 
 int widthOf(const QWidget& widget, int characters)
@@ -65,6 +67,17 @@ void EditView::refresh()
     }
     if (const auto [start, end] = control().GetSel(); end > start)
         select(placeOf(start), placeOf(end));
+    mark(control().isEntryRefused());
+}
+
+void EditView::mark(bool refused)
+{
+    QWidget& field = widget();
+    QPalette palette;
+    if (refused)
+        palette.setColor(QPalette::Base, mixed(palette.color(QPalette::Base), warningColour(palette), refusedShare));
+    field.setPalette(palette);
+    field.setAccessibleDescription(refused ? QStringLiteral("can't be taken as it stands") : QString());
 }
 
 /// The place in the widget's text of a place in the control's, which counts bytes.

@@ -21,6 +21,8 @@ private:
     void typed(const QString& text);
     [[nodiscard]] int placeOf(int byte) const;
     void select(int start, int end);
+    /// Shows whether the form can't take what is entered: by the colour behind the text, and to readers of the screen.
+    void mark(bool refused);
 
     QLineEdit* m_line = nullptr;
     QPlainTextEdit* m_lines = nullptr;  ///< in place of m_line, of a field of several lines
