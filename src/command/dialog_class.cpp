@@ -37,4 +37,22 @@ bool hasDialogClass(std::string_view name)
     return findDialogClass(name) != nullptr;
 }
 
+std::vector<std::string_view> exportedDialogs()
+{
+    std::vector<std::string_view> names;
+    for (const DialogRow& row : dialogRows) {
+        if (row.exported == Exported::yes && hasDialogClass(row.dialogClass))
+            names.push_back(row.dialogClass);
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+std::unique_ptr<CInternationalDlg> makeExportedDialog(std::string_view name)
+{
+    const auto* row = std::ranges::find_if(dialogRows, [name](const DialogRow& each) { return each.dialogClass == name && each.exported == Exported::yes; });
+    const DialogClass* dialogClass = row != std::ranges::end(dialogRows) ? findDialogClass(name) : nullptr;
+    return dialogClass != nullptr ? dialogClass->make() : nullptr;
+}
+
 }  // namespace zel

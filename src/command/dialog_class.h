@@ -30,30 +30,6 @@ public:
     virtual void openToAddUnder(Key key) = 0;
 };
 
-/// The state of an item dialog: what it shows, and whether OK adds or modifies. Left alone, it adds under a new key.
-template <class Record> class ItemArguments : public IItemArguments {
-public:
-    void openToModify(Key key, const void* record) override
-    {
-        m_modify = true;
-        m_key = m_oldKey = key;
-        m_record = *static_cast<const Record*>(record);
-    }
-
-    void openToAddUnder(Key key) override
-    {
-        m_hasPresetKey = true;
-        m_key = m_oldKey = key;
-    }
-
-protected:
-    bool m_modify = false;        ///< OK modifies
-    bool m_hasPresetKey = false;  ///< the key is given: no new one is asked for
-    Key m_key = 0;                ///< shown in the form
-    Key m_oldKey = 0;             ///< of the record when it was opened
-    Record m_record{};
-};
-
 /// A dialog of scale factors, which may open on the factors of one object.
 class IScaleFactorsOfKey {
 public:

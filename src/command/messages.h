@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/export.h"
 #include "contract/text.h"
 
 #include <initializer_list>
@@ -21,8 +22,8 @@ CString formatText(const CString& format, std::initializer_list<TextArgument> ar
 CString numberText(const char* format, double value);
 
 /// Shows a message with an OK button.
-void showMessage(const char* key);
-void showMessage(const char* key, std::initializer_list<TextArgument> arguments);
+ZEL_CMD_API void showMessage(const char* key);
+ZEL_CMD_API void showMessage(const char* key, std::initializer_list<TextArgument> arguments);
 
 /// Asks with Yes and No; true for Yes.
 bool askYesNo(const char* key);

@@ -2,22 +2,21 @@
 
 #include "command/load_cases.h"
 #include "command/messages.h"
-#include "command/model_listener.h"
-#include "command/view_buffer.h"
-#include "contract/forms/forms.h"
-#include "contract/number_text.h"
+#include "command/record_dialog.h"
 #include "contract/tables/static_load_case_table.h"
 #include "contract/user_interface.h"
 
+#include <algorithm>
 #include <concepts>
 #include <vector>
 
 namespace zel {
 
-/// A number of a record and the plain edit field that shows it.
-template <class Record> struct NumberField {
-    CEdit& field;
-    double Record::*value;
+/// A column of a list of entries: the field of the control that it names, or, without one, the number of the row from 1.
+struct FieldColumn {
+    CString title;
+    int width = 0;  ///< [pixels]
+    const Control* shows = nullptr;
 };
 
 }  // namespace zel
@@ -26,20 +25,22 @@ template <class Record> struct NumberField {
 ///
 /// It works on a copy of the record. The user edits one entry in a form and moves it to and from the list by Add, Modify and
 /// Delete; OK writes the whole record, Cancel leaves it. Row r of the list control stands for entry r of the working list. A
-/// dialog declares its controls and fills the members that differ; everything else is here, once.
+/// dialog declares its controls, each with the field that it shows, of the record or of an entry, and fills the members that differ;
+/// everything else is here, once.
 ///
 /// The selection that the dialog makes in its list runs no handler: the form follows what the user selects.
-template <class Handle, class Item> class CSetDialog : public CDlgMove, public zel::ModelListener {
+template <class Handle, class Item> class CSetDialog : public CRecordDialog<Handle> {
 public:
-    using Record = decltype(Handle::currentRecord);
+    using typename CRecordDialog<Handle>::Record;
 
     /// Whether the list is free of that text in a load case column. Returns 0, with the row noted, if it stands there.
     int CheckLoadCaseName(const CString& name, int& row)
     {
         const CListCtrl& list = List();
         for (int each = 0; each < list.GetItemCount(); ++each) {
-            for (const int column : LoadCaseColumns()) {
-                if (list.GetItemText(each, column) == name) {
+            for (std::size_t column = 0; column < m_columns.size(); ++column) {
+                const bool holdsCases = dynamic_cast<const zel::LoadCaseCombo*>(m_columns[column].shows) != nullptr;
+                if (holdsCases && list.GetItemText(each, static_cast<int>(column)) == name) {
                     row = each;
                     return 0;
                 }
@@ -50,67 +51,61 @@ public:
 
 protected:
     /// @param items  the list of entries in the record
-    CSetDialog(unsigned templateId, const char* title, std::vector<Item> Record::*items, CWnd* parent) : CDlgMove(templateId, title, parent), m_items(items) {}
+    CSetDialog(unsigned templateId, const char* title, std::vector<Item> Record::*items, CWnd* parent)
+        : CRecordDialog<Handle>(templateId, title, parent), m_items(items)
+    {
+    }
 
     // What a dialog fills.
 
     virtual CListCtrl& List() = 0;
-    virtual void SetListCtrlHeader() = 0;
+    virtual std::vector<zel::FieldColumn> Columns() const = 0;
     /// Fills the load case lists.
     virtual void Initial_LCaseComboBox() = 0;
-    /// The numbers of the record itself, in the order of the form.
-    virtual std::vector<zel::NumberField<Record>> NumberFields() { return {}; }
-    virtual CString DataToStr(int column, const Item& item) const = 0;
-    /// Entry of the form; false, reported where it is to be, if it can't be read.
-    virtual bool Dlg2Item(Item& item) = 0;
     /// Whether an entry can be taken; reported if not.
     virtual bool ValidItem(const Item& item) = 0;
     /// Whether no other row stands for the same; reported if one does.
     /// @param skipRow  row that is being modified; -1 when one is added
     virtual bool IsOnlyOne(const Item& item, int skipRow) = 0;
-    /// Shows the selected entry, or what stands for none, in the form.
-    virtual void OnChangedCurrentItem() = 0;
 
     // Where dialogs differ.
 
-    /// The fields of the record itself into the form, and out of it. False keeps the dialog open, in silence where a number
-    /// can't be read.
-    virtual void Data2Dlg()
+    /// Entry of the form; false, reported where it is to be, if it can't be read.
+    virtual bool Dlg2Item(Item& item) { return zel::readFields(*this, item); }
+    virtual void Item2Dlg(const Item& item) { zel::showFields(*this, item); }
+    /// The text of a cell, but for the number of the row.
+    virtual CString DataToStr(int column, const Item& item) const { return m_columns[static_cast<std::size_t>(column)].shows->fieldText(&item); }
+    /// Shows the selected entry in the form; without one the form stays.
+    virtual void OnChangedCurrentItem()
     {
-        for (const zel::NumberField<Record>& number : NumberFields())
-            number.field.SetWindowText(zel::numberText("%g", m_record.*number.value));
-    }
-    virtual bool Dlg2Data()
-    {
-        for (const zel::NumberField<Record>& number : NumberFields()) {
-            if (CStrParser::GetFloatNumber(number.field.GetWindowText(), m_record.*number.value) == 0)
-                return false;
-        }
-        return true;
+        int row = 0;
+        if (GetSelectedItem(row) != 0)
+            Item2Dlg(items()[static_cast<std::size_t>(row)]);
     }
 
     virtual const char* NoRowToDelete() const { return "IDS_ZEL_CMD__ADDD__No_selected_item_in_the_list__nCh"; }
-    /// Whether the first column holds the row's number.
-    virtual bool HasNumberedRows() const { return false; }
     /// Whether the row before is selected when the last one was deleted.
     virtual bool StepsBackAfterDelete() const { return true; }
-    virtual std::vector<int> LoadCaseColumns() const { return {0}; }
 
     // The cycle.
 
-    std::vector<Item>& items() { return m_record.*m_items; }
+    std::vector<Item>& items() { return this->m_record.edited.*m_items; }
 
     int OnInitDialog() override
     {
-        m_pDoc = CDBDoc::GetDocPoint();
-        CDlgMove::OnInitDialog();
-        ReadRecord();
-        Data2Dlg();
+        CRecordDialog<Handle>::OnInitDialog();
         Initial_LCaseComboBox();
-        List().DeleteAllColumns();
         SetListCtrlHeader();
         MakeItemEx();
         return 1;
+    }
+
+    void SetListCtrlHeader()
+    {
+        m_columns = Columns();
+        List().DeleteAllColumns();
+        for (const zel::FieldColumn& column : m_columns)
+            List().AddColumn(column.title, column.width);
     }
 
     /// Rebuilds the list from the working list.
@@ -128,9 +123,10 @@ protected:
     /// Writes the cells of one row.
     void SetItem(int row, const Item& item)
     {
-        const int columns = static_cast<int>(List().columns().size());
-        for (int column = 0; column < columns; ++column)
-            List().SetItemText(row, column, HasNumberedRows() && column == 0 ? std::to_string(row + 1) : DataToStr(column, item));
+        for (std::size_t column = 0; column < m_columns.size(); ++column) {
+            const int place = static_cast<int>(column);
+            List().SetItemText(row, place, m_columns[column].shows == nullptr ? std::to_string(row + 1) : DataToStr(place, item));
+        }
     }
 
     /// The first selected row; returns 0 if there is none.
@@ -184,8 +180,7 @@ protected:
             return;
         }
         RemoveRow(row);
-        if (HasNumberedRows())
-            RewriteRows();
+        RewriteRows();  // the numbers follow
         if (StepsBackAfterDelete() && row >= List().GetItemCount())
             --row;
         if (row >= 0 && row < List().GetItemCount())
@@ -199,16 +194,20 @@ protected:
         items().erase(items().begin() + row);
     }
 
+    /// Whether `same` holds of an entry in a row other than that one.
+    template <class Same> bool HasAnotherRow(int skipRow, const Same& same)
+    {
+        for (std::size_t row = 0; row < items().size(); ++row) {
+            if (static_cast<int>(row) != skipRow && same(items()[row]))
+                return true;
+        }
+        return false;
+    }
+
     void RewriteRows()
     {
         for (int row = 0; row < List().GetItemCount(); ++row)
             SetItem(row, items()[static_cast<std::size_t>(row)]);
-    }
-
-    void OnOK() override
-    {
-        if (Dlg2Data() && Handle().Add(m_record) != 0)
-            EndDialog(IDOK);
     }
 
     // Notices.
@@ -217,14 +216,11 @@ protected:
     void UpdateBuffer(const CViewBuff& buffer) override
     {
         FollowLoadCases(buffer);
-        bool written = false;
-        zel::readChanges(buffer, zel::TableWatch<Handle>{.added = [&](const Handle& /*now*/) { written = true; }});
-        if (!written)
-            return;
-        ReadRecord();
-        Data2Dlg();
-        MakeItemEx();
+        CRecordDialog<Handle>::UpdateBuffer(buffer);
     }
+
+    /// The record has been read afresh.
+    void RecordRead() override { MakeItemEx(); }
 
     /// An entry of a deleted load case goes; one whose case has a new name or key is rewritten. The load case lists stay.
     virtual void FollowLoadCases(const CViewBuff& buffer)
@@ -252,18 +248,13 @@ protected:
         // clang-format on
     }
 
-    [[nodiscard]] bool canUpdate() const override { return IsWindow(); }
-
-    Record m_record{};  ///< working copy
-    CDBDoc* m_pDoc = nullptr;
-
-private:
-    void ReadRecord()
+    void UnitChanged() override
     {
-        if (Handle().Get(m_record) == 0)
-            m_record.Initialize();
+        CRecordDialog<Handle>::UnitChanged();
+        RewriteRows();
     }
 
+private:
     void ShowRow(int row)
     {
         SetItem(row, items()[static_cast<std::size_t>(row)]);
@@ -271,4 +262,5 @@ private:
     }
 
     std::vector<Item> Record::*m_items;
+    std::vector<zel::FieldColumn> m_columns;
 };

@@ -3,7 +3,6 @@
 #include "command/command.h"
 #include "command/dialog_class.h"
 #include "command/dialog_table.h"
-#include "command/exported_dialogs.h"
 #include "contract/forms/db_dlg_base.h"
 #include "contract/forms/dialog.h"
 #include "contract/nearest.h"
@@ -69,11 +68,9 @@ const ModelessDialog* modelessOfClass(const std::string& name)
 
 std::unique_ptr<CInternationalDlg> makeExported(const std::string& name)
 {
-    if (const ExportedDialog* found = findExportedDialog(name))
-        return found->make();
-    std::vector<std::string_view> names;
-    for (const ExportedDialog& each : exportedDialogs)
-        names.push_back(each.name);
+    if (std::unique_ptr<CInternationalDlg> made = makeExportedDialog(name))
+        return made;
+    std::vector<std::string_view> names = exportedDialogs();
     for (const ModelessDialog& each : modelessDialogs)
         names.push_back(each.dialogClass);
     throw JsonFault("class", "there is no dialog class \"" + name + "\" that a host can build" + didYouMean(name, names));

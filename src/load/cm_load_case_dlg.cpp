@@ -4,18 +4,11 @@
 #include "command/messages.h"
 #include "contract/document.h"
 #include "contract/load_db.h"
-#include "contract/number_text.h"
 #include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 
 namespace {
-
-// How sub-load cases are combined.
-constexpr std::uint32_t add = 0;
-constexpr std::uint32_t srssOfAbsolutes = 1;
-constexpr std::uint32_t srssWithMaximum = 2;
-constexpr std::uint32_t srssWithMajorCase = 3;
 
 /// Numbers beyond it can be typed, but are not listed one by one.
 constexpr int mostListedCases = 100000;
@@ -38,7 +31,7 @@ int CCMLoadCaseDlg::OnInitDialog()
     grid.Initialize();
     InitTypes();
     subLoadCaseCount.SetWindowText("0");
-    InitCombinationTypes();
+    combinationType.SetCurSel(combinationType.FindData(srssWithMaximum));
     RefreshMajorCases();
     subLoadCaseSpin.SetRange(0, 100);
     return 1;
@@ -47,20 +40,11 @@ int CCMLoadCaseDlg::OnInitDialog()
 void CCMLoadCaseDlg::InitTypes()
 {
     const CLoadDB& catalogue = *m_pDoc->GetLoadDB();
-    catalogue.GetLoadTypeList(&m_types);
+    CArray<CString, CString&> codes;
+    catalogue.GetLoadTypeList(&codes);
     type.ResetContent();
-    for (const CString& code : m_types)
-        type.AddString(catalogue.GetLoadTypeName(code));
-}
-
-void CCMLoadCaseDlg::InitCombinationTypes()
-{
-    combinationType.ResetContent();
-    combinationType.AddString(zel::loadText("IDS_CMD_STLD_ADD"), ::add);
-    combinationType.AddString(zel::loadText("IDS_CMD_STLD_SRSS_ABS"), srssOfAbsolutes);
-    combinationType.AddString(zel::loadText("IDS_CMD_STLD_SRSS_MAX"), srssWithMaximum);
-    combinationType.AddString(zel::loadText("IDS_CMD_STLD_SRSS_MAJOR"), srssWithMajorCase);
-    combinationType.SetCurSel(combinationType.FindData(srssWithMaximum));
+    for (const CString& code : codes)
+        type.AddCode(code, catalogue.GetLoadTypeName(code));
 }
 
 int CCMLoadCaseDlg::SubLoadCaseCount() const
@@ -91,33 +75,18 @@ void CCMLoadCaseDlg::RefreshMajorCases()
 bool CCMLoadCaseDlg::Dlg2Data()
 {
     m_record.Initialize();
-    m_record.name = name.GetWindowText();
-    const int line = type.GetCurSel();
-    if (line < 0)
+    if (!zel::readFields(*this, m_record))
         return false;
-    m_record.type = m_types[static_cast<std::size_t>(line)];
-    m_record.description = description.GetWindowText();
-    if (selfWeightFactor.GetEditValue(m_record.selfWeightFactor) == 0) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Invalid_Self_Weight_Factor_");
-        return false;
-    }
-    m_record.subLoadCaseCount = zel::number::readInteger(subLoadCaseCount.GetWindowText()).value_or(0);
-    m_record.combinationType = static_cast<std::uint32_t>(combinationType.selectedData());
     m_record.majorCase = majorCase.GetCurSel() + 1;
     return true;
 }
 
+/// A record of a type that the catalogue does not have is not shown.
 void CCMLoadCaseDlg::Data2Dlg()
 {
-    const auto found = std::ranges::find(m_types, m_record.type);
-    if (found == m_types.end())
+    if (type.FindCode(m_record.type) < 0)
         return;
-    name.SetWindowText(m_record.name);
-    type.SetCurSel(static_cast<int>(found - m_types.begin()));
-    description.SetWindowText(m_record.description);
-    selfWeightFactor.SetEditUnit(m_record.selfWeightFactor);
-    subLoadCaseCount.SetWindowText(std::to_string(m_record.subLoadCaseCount));
-    combinationType.SetCurSel(combinationType.FindData(m_record.combinationType));
+    zel::showFields(*this, m_record);
     RefreshMajorCases();
     if (m_record.majorCase > 0)
         majorCase.SetCurSel(m_record.majorCase - 1);

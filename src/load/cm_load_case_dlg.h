@@ -1,6 +1,7 @@
 #pragma once
 
 #include "command/model_listener.h"
+#include "command/record_fields.h"
 #include "contract/forms/forms.h"
 #include "load/cm_load_case_grid.h"
 
@@ -19,9 +20,8 @@ public:
 private:
     int OnInitDialog() override;
     void InitTypes();
-    void InitCombinationTypes();
 
-    /// The form, as it stands, into the working record. False, after a message about the factor, if that can't be done.
+    /// The form, as it stands, into the working record. False, after the message of the field where it has one, if that can't be done.
     bool Dlg2Data();
     void Data2Dlg();
     [[nodiscard]] int SubLoadCaseCount() const;
@@ -36,15 +36,27 @@ private:
     void UnitChanged() override { grid.ChangeUnits(); }
     [[nodiscard]] bool canUpdate() const override { return IsWindow(); }
 
-    CEdit name{*this, "name", "Name        :"};
-    CComboBox type{*this, "type", "Type         :"};
-    CEditUnit selfWeightFactor{*this, "selfWeightFactor", "Self Weight Factor :"};
+    // How sub-load cases are combined.
+    enum CombinationType { sum, srssOfAbsolutes, srssWithMaximum, srssWithMajorCase };
+    static constexpr zel::Choice combinationTypes[] = {
+        {sum, "IDS_CMD_STLD_ADD"},
+        {srssOfAbsolutes, "IDS_CMD_STLD_SRSS_ABS"},
+        {srssWithMaximum, "IDS_CMD_STLD_SRSS_MAX"},
+        {srssWithMajorCase, "IDS_CMD_STLD_SRSS_MAJOR"},
+    };
+
+    CEdit name{*this, "name", "Name        :", &T_STLD_D::name};
+    CComboBox type{*this, "type", "Type         :", {&T_STLD_D::type, zel::required}};
+    CEditUnit selfWeightFactor{
+        *this, "selfWeightFactor", "Self Weight Factor :", {&T_STLD_D::selfWeightFactor, "IDS_ZEL_CMD__Error___Invalid_Self_Weight_Factor_"}};
     CRow countRow{*this};
-    CEdit subLoadCaseCount{countRow, "subLoadCaseCount", "Number of Sub-Load Case :", &CCMLoadCaseDlg::RefreshMajorCases};
+    CEdit subLoadCaseCount{
+        countRow, "subLoadCaseCount", "Number of Sub-Load Case :", {&T_STLD_D::subLoadCaseCount, zel::orZero}, &CCMLoadCaseDlg::RefreshMajorCases};
     CSpinButtonCtrl subLoadCaseSpin{countRow, "subLoadCaseSpin", subLoadCaseCount};
-    CComboBox combinationType{*this, "combinationType", "Combination Type :", &CCMLoadCaseDlg::RefreshMajorCases};
+    CComboBox combinationType{
+        *this, "combinationType", "Combination Type :", {&T_STLD_D::combinationType, combinationTypes}, &CCMLoadCaseDlg::RefreshMajorCases};
     CComboBox majorCase{*this, "majorCase", "Major Case :"};
-    CEdit description{*this, "description", "Description :"};
+    CEdit description{*this, "description", "Description :", &T_STLD_D::description};
     CCMLoadCaseGrid grid{*this, "grid"};
     CButtonRow buttons{*this};
     CButton add{buttons, "add", "Add", &CCMLoadCaseDlg::OnAdd};
@@ -52,6 +64,5 @@ private:
     CButton del{buttons, "del", "Delete", &CCMLoadCaseDlg::OnDelete};
     CButton close{buttons, "close", "Close", &CCMLoadCaseDlg::DestroyWindow};
 
-    T_STLD_D m_record;             ///< working record
-    std::vector<CString> m_types;  ///< type codes, parallel to the lines of the Type list
+    T_STLD_D m_record;  ///< working record
 };

@@ -1,30 +1,10 @@
 #include "load/cmd_set_ortho_lc_dlg.h"
 
-#include "contract/forms/dialog_names.h"
+#include "command/dialog_class.h"
 #include "contract/load_types.h"
 #include "contract/tables/static_load_case_table.h"
 
-#include <algorithm>
-
-ZEL_DIALOG_NAME(CCmdSetOrthoLCDlg)
-
-namespace {
-
-/// Which case of a pair an earthquake rule forbids: the text that names it, empty for none. No rule forbids any today.
-CString forbiddenCases(const CString& name1, const CString& name2)
-{
-    constexpr bool firstAllowed = true;
-    constexpr bool secondAllowed = true;
-    if (!firstAllowed && !secondAllowed)
-        return zel::formatText("%s and %s", {name1, name2});
-    if (!firstAllowed)
-        return name1;
-    if (!secondAllowed)
-        return name2;
-    return {};
-}
-
-}  // namespace
+ZEL_DIALOG(CCmdSetOrthoLCDlg)
 
 CCmdSetOrthoLCDlg::CCmdSetOrthoLCDlg(CWnd* parent) : CSetDialog(14174, "Set Load Cases for Orthogonal Effect", &T_LCOE_D::pairs, parent) {}
 
@@ -43,16 +23,13 @@ void CCmdSetOrthoLCDlg::Initial_LCaseComboBox()
     loadCase2.fill(isEarthquake);
 }
 
-void CCmdSetOrthoLCDlg::SetListCtrlHeader()
+std::vector<zel::FieldColumn> CCmdSetOrthoLCDlg::Columns() const
 {
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Group_No"), 70);
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Load_Case_1"), 60);
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Load_Case_2"), 60);
-}
-
-CString CCmdSetOrthoLCDlg::DataToStr(int column, const T_LCOE_BASE& pair) const
-{
-    return zel::staticCaseText(CDataStld().GetNameByKey(column == 1 ? pair.case1 : pair.case2));
+    return {
+        {zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Group_No"), 70},
+        {zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Load_Case_1"), 60, &loadCase1},
+        {zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Load_Case_2"), 60, &loadCase2},
+    };
 }
 
 bool CCmdSetOrthoLCDlg::Dlg2Item(T_LCOE_BASE& pair)
@@ -61,7 +38,7 @@ bool CCmdSetOrthoLCDlg::Dlg2Item(T_LCOE_BASE& pair)
         zel::showMessage("IDS_ZEL_CMD__ADDD__Loadcase_was_not_selected_");
         return false;
     }
-    if (GetLoadCaseType(loadCase1) != GetLoadCaseType(loadCase2)) {
+    if (loadCase1.GetLoadCaseType(loadCase1.GetCurSel()) != loadCase2.GetLoadCaseType(loadCase2.GetCurSel())) {
         zel::showMessage("IDS_ZEL_CMD__ADDD__Types_of_two_loadcases_are_different_");
         return false;
     }
@@ -69,49 +46,30 @@ bool CCmdSetOrthoLCDlg::Dlg2Item(T_LCOE_BASE& pair)
         zel::showMessage("IDS_ZEL_CMD__ADDD__Two_loadcases_are_identical_");
         return false;
     }
-    m_name1 = loadCase1.selectedName();
-    m_name2 = loadCase2.selectedName();
-    pair.case1 = GetStldKey(m_name1);
-    pair.case2 = GetStldKey(m_name2);
-    return true;
+    return CSetDialog::Dlg2Item(pair);
 }
 
 bool CCmdSetOrthoLCDlg::ValidItem(const T_LCOE_BASE& pair)
 {
-    if (pair.case1 == 0 || pair.case2 == 0) {
-        zel::showMessage("IDS_ZEL_CMD__ADDD__Invalid_loadcase_key_");
-        return false;
-    }
-    const CString forbidden = forbiddenCases(m_name1, m_name2);
-    if (forbidden.empty())
+    CString message;
+    if (ValidItem(pair, message))
         return true;
-    zel::showMessage("IDS_ZEL_CMD__ADDD__Invalid_loadcase_key_EQ", {forbidden});
+    AfxMessageBox(message, MB_OK, 0);
     return false;
 }
 
 bool CCmdSetOrthoLCDlg::ValidItem(const T_LCOE_BASE& pair, CString& message)
 {
-    if (pair.case1 == 0 || pair.case2 == 0) {
-        message = zel::loadText("IDS_ZEL_CMD__ADDD__Invalid_loadcase_key_");
-        return false;
-    }
-    const CString forbidden = forbiddenCases(m_name1, m_name2);
-    if (forbidden.empty())
+    if (pair.case1 != 0 && pair.case2 != 0)
         return true;
-    const CString where = zel::formatText("%s of case (%s,%s)", {forbidden, m_name1, m_name2});
-    message = zel::formatText(zel::loadText("IDS_ZEL_CMD__ADDD__Invalid_loadcase_key_EQ"), {where});
+    message = zel::loadText("IDS_ZEL_CMD__ADDD__Invalid_loadcase_key_");
     return false;
 }
 
 bool CCmdSetOrthoLCDlg::HasPair(const T_LCOE_BASE& pair, int skipRow)
 {
-    for (std::size_t row = 0; row < items().size(); ++row) {
-        const T_LCOE_BASE& other = items()[row];
-        const bool same = other == pair || (other.case1 == pair.case2 && other.case2 == pair.case1);
-        if (same && static_cast<int>(row) != skipRow)
-            return true;
-    }
-    return false;
+    const T_LCOE_BASE reversed{pair.case2, pair.case1};
+    return HasAnotherRow(skipRow, [&](const T_LCOE_BASE& other) { return other == pair || other == reversed; });
 }
 
 bool CCmdSetOrthoLCDlg::IsOnlyOne(const T_LCOE_BASE& pair, int skipRow)
@@ -121,17 +79,6 @@ bool CCmdSetOrthoLCDlg::IsOnlyOne(const T_LCOE_BASE& pair, int skipRow)
     zel::showMessage(skipRow < 0 ? "IDS_ZEL_CMD__ADDD__An_identical_load_case_is_already_assigned_"
                                  : "IDS_ZEL_CMD__ADDD__An_identical_load_group_already_exists_");
     return false;
-}
-
-void CCmdSetOrthoLCDlg::SetLoadCaseCombo(zel::LoadCaseCombo& combo, zel::Key key)
-{
-    zel::selectText(combo, zel::staticCaseText(CDataStld().GetNameByKey(key)));
-}
-
-void CCmdSetOrthoLCDlg::Item2Dlg(const T_LCOE_BASE& pair)
-{
-    SetLoadCaseCombo(loadCase1, pair.case1);
-    SetLoadCaseCombo(loadCase2, pair.case2);
 }
 
 void CCmdSetOrthoLCDlg::OnChangedCurrentItem()
@@ -146,7 +93,7 @@ void CCmdSetOrthoLCDlg::OnCmdOLGAuto()
         for (int j = i + 1; j < loadCase2.GetCount(); ++j) {
             if (loadCase1.GetLoadCaseType(i) != loadCase2.GetLoadCaseType(j))
                 continue;
-            const T_LCOE_BASE pair{GetStldKey(zel::staticCaseName(loadCase1.GetItemText(i))), GetStldKey(zel::staticCaseName(loadCase2.GetItemText(j)))};
+            const T_LCOE_BASE pair{loadCase1.keyAt(i), loadCase2.keyAt(j)};
             if (pair.case1 == 0 || pair.case2 == 0 || HasPair(pair, -1))
                 continue;
             AppendItem(pair);
@@ -157,11 +104,9 @@ void CCmdSetOrthoLCDlg::OnCmdOLGAuto()
 bool CCmdSetOrthoLCDlg::Dlg2Data()
 {
     CString failures;
-    for (int row = 0; row < list.GetItemCount(); ++row) {
-        m_name1 = zel::staticCaseName(list.GetItemText(row, 1));
-        m_name2 = zel::staticCaseName(list.GetItemText(row, 2));
+    for (const T_LCOE_BASE& pair : items()) {
         CString message;
-        if (!ValidItem(items()[static_cast<std::size_t>(row)], message))
+        if (!ValidItem(pair, message))
             failures += message + "\n";
     }
     if (failures.empty())

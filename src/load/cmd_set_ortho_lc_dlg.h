@@ -17,20 +17,14 @@ public:
 private:
     int OnInitDialog() override;
     CListCtrl& List() override { return list; }
+    std::vector<zel::FieldColumn> Columns() const override;
     void Initial_LCaseComboBox() override;
-    void SetListCtrlHeader() override;
-    bool HasNumberedRows() const override { return true; }
-    std::vector<int> LoadCaseColumns() const override { return {1, 2}; }
-    CString DataToStr(int column, const T_LCOE_BASE& pair) const override;
 
     bool Dlg2Item(T_LCOE_BASE& pair) override;
     bool ValidItem(const T_LCOE_BASE& pair) override;
-    /// The same test for a row of the list, whose two names are given: what is wrong goes to `message` instead of a box.
-    bool ValidItem(const T_LCOE_BASE& pair, CString& message);
+    /// The same test for a row of the list: what is wrong goes to `message` instead of a box.
+    static bool ValidItem(const T_LCOE_BASE& pair, CString& message);
     bool IsOnlyOne(const T_LCOE_BASE& pair, int skipRow) override;
-    void Item2Dlg(const T_LCOE_BASE& pair);
-    void SetLoadCaseCombo(zel::LoadCaseCombo& combo, zel::Key key);
-    int GetLoadCaseType(const zel::LoadCaseCombo& combo) const { return combo.GetLoadCaseType(combo.GetCurSel()); }
     bool HasPair(const T_LCOE_BASE& pair, int skipRow);
 
     const char* NoRowToDelete() const override { return "IDS_ZEL_CMD__ADDD__Error___Not_Selected_Data____"; }
@@ -45,9 +39,9 @@ private:
 
     CGroup define{*this, "Define Orthogonal Load Cases"};
     CRow loadCase1Row{define};
-    zel::LoadCaseCombo loadCase1{loadCase1Row, "loadCase1", "Load Case 1 :"};
+    zel::LoadCaseCombo loadCase1{loadCase1Row, "loadCase1", "Load Case 1 :", &T_LCOE_BASE::case1};
     CButton loadCaseButton{loadCase1Row, "loadCaseButton", "...", &CCmdSetOrthoLCDlg::OnClickLoadCaseBtn};
-    zel::LoadCaseCombo loadCase2{define, "loadCase2", "Load Case 2 :"};
+    zel::LoadCaseCombo loadCase2{define, "loadCase2", "Load Case 2 :", &T_LCOE_BASE::case2};
     CButton autoGrouping{define, "autoGrouping", "Auto Grouping", &CCmdSetOrthoLCDlg::OnCmdOLGAuto};
     CGroup pairs{*this, "Orthogonal Loads Group"};
     CListCtrl list{pairs, "list", &CCmdSetOrthoLCDlg::OnChangedCurrentItem};
@@ -58,7 +52,4 @@ private:
     CButtonRow closing{*this};
     CButton ok{closing, "ok", "OK", &CCmdSetOrthoLCDlg::OnOK};
     CButton cancel{closing, "cancel", "Cancel", &CCmdSetOrthoLCDlg::OnCancel};
-
-    CString m_name1;  ///< names of the pair under test, for messages
-    CString m_name2;
 };

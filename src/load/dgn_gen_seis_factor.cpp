@@ -1,24 +1,14 @@
 #include "load/dgn_gen_seis_factor.h"
 
-#include "contract/forms/dialog_names.h"
+#include "command/dialog_class.h"
 
-ZEL_DIALOG_NAME(CDgnGenSeisFactor)
+ZEL_DIALOG(CDgnGenSeisFactor)
 
 CDgnGenSeisFactor::CDgnGenSeisFactor(CWnd* parent) : SeismicFactorDialog(14283, "Factors for Seismic Design", &T_SLCF_D::overStrengthFactors, parent) {}
 
 CDgnGenSeisFactor::~CDgnGenSeisFactor() = default;
 
-std::vector<zel::NumberField<T_SLCF_D>> CDgnGenSeisFactor::NumberFields()
+std::vector<zel::FieldColumn> CDgnGenSeisFactor::Columns() const
 {
-    return {
-        {verticalLoadFactor, &T_SLCF_D::verticalLoadFactor},
-        {shortPeriodCoefficient, &T_SLCF_D::shortPeriodCoefficient},
-        {verticalForceFactor, &T_SLCF_D::verticalForceFactor},
-    };
-}
-
-void CDgnGenSeisFactor::SetListCtrlHeader()
-{
-    List().AddColumn("Load Case", 85);
-    List().AddColumn("Factor", 60);
+    return {{"Load Case", 85, &entry.loadCase}, {"Factor", 60, &entry.factor}};
 }

@@ -12,14 +12,13 @@ public:
     ~CDgnGenSeisFactor() override;
 
 private:
-    std::vector<zel::NumberField<T_SLCF_D>> NumberFields() override;
     EntryForm& Form() override { return entry; }
-    void SetListCtrlHeader() override;
+    std::vector<zel::FieldColumn> Columns() const override;
 
     CGroup special{*this, "Special Seismic Loads"};
-    CEdit verticalLoadFactor{special, "verticalLoadFactor", "Vertical Load Factor :"};
-    CEdit shortPeriodCoefficient{special, "shortPeriodCoefficient", "Short Period Coefficient :"};
-    CEdit verticalForceFactor{*this, "verticalForceFactor", "Vertical Force Factor :"};
+    CEdit verticalLoadFactor{special, "verticalLoadFactor", "Vertical Load Factor :", &T_SLCF_D::verticalLoadFactor};
+    CEdit shortPeriodCoefficient{special, "shortPeriodCoefficient", "Short Period Coefficient :", &T_SLCF_D::shortPeriodCoefficient};
+    CEdit verticalForceFactor{*this, "verticalForceFactor", "Vertical Force Factor :", &T_SLCF_D::verticalForceFactor};
     EntryForm entry{*this};
     CButtonRow closing{*this};
     CButton ok{closing, "ok", "OK", &CDgnGenSeisFactor::OnOK};

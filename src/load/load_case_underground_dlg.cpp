@@ -1,20 +1,14 @@
 #include "load/load_case_underground_dlg.h"
 
+#include "command/dialog_class.h"
 #include "command/load_cases.h"
 #include "command/messages.h"
-#include "contract/forms/dialog_names.h"
 #include "contract/load_types.h"
 #include "contract/messages.h"
 #include "contract/tables/static_load_case_table.h"
 #include "load/under_seis_factor.h"
 
-ZEL_DIALOG_NAME(CLoadCaseUndergroundDlg)
-
 namespace {
-
-// The scale-up factor may be as small and as great as these.
-constexpr double smallestFactor = 1.0;
-constexpr double greatestFactor = 10.0;
 
 constexpr int proposedCases = 2;
 
@@ -41,10 +35,9 @@ void tickKeys(CCheckListBox& list, const CArray<zel::Key>& keys)
 
 }  // namespace
 
-CLoadCaseUndergroundDlg::CLoadCaseUndergroundDlg(CWnd* parent) : CDlgMove(14111, "Set Load Cases for Underground Load", parent)
-{
-    esLoadCase.enabledWhen([this] { return eccentricity.GetCheck(); });
-}
+ZEL_DIALOG(CLoadCaseUndergroundDlg)
+
+CLoadCaseUndergroundDlg::CLoadCaseUndergroundDlg(CWnd* parent) : CDlgMove(14111, "Set Load Cases for Underground Load", parent) {}
 
 CLoadCaseUndergroundDlg::~CLoadCaseUndergroundDlg() = default;
 
@@ -53,7 +46,6 @@ int CLoadCaseUndergroundDlg::OnInitDialog()
     CDlgMove::OnInitDialog();
     ReadRecord();
     InitCtrl();
-    OnCmdConsEccentricity();
     Data2Dlg();
     if (grid.IsDataRow(1) && grid.MakeRowCurrent(1) != 0)
         grid.ShowCurrentRow();
@@ -82,154 +74,26 @@ void CLoadCaseUndergroundDlg::ReadRecord()
 void CLoadCaseUndergroundDlg::InitCtrl()
 {
     m_rowName = noRow();
-    InitListCtrl_RS("IDS_ZEL_CMD__Load_Case");
-    SetComboBox_RS();
+    scaleUps.InitListCtrl_RS();
+    scaleUps.SetComboBox_RS([](const T_STLD_D& record) { return record.type.starts_with('E'); });
+    scaleUps.Show_EditComboBox(scaleUps.loadCase.GetCount() > 0);
     SetListCtrl_Seis();
     grid.Initialize();
 }
 
 void CLoadCaseUndergroundDlg::Data2Dlg()
 {
-    scaleUpFactor.SetEditUnit(T_LCUG_SF().factor);
+    scaleUps.scaleUpFactor.SetEditUnit(T_LCUG_SF().factor);
     for (const T_LCUG_SF& entry : m_record.scaleUps)
-        AddDataToScList(entry.factor, entry.loadCaseKey, entry.eccentricKey);
+        scaleUps.AddDataToScList(entry.factor, entry.loadCaseKey, entry.eccentricKey);
     grid.SetData(m_record.groups);
     grid.RebuildRows();
 }
 
-/// The stored order is that of the load cases.
 void CLoadCaseUndergroundDlg::Dlg2Data()
 {
     m_record.groups = grid.GetData();
-    m_record.scaleUps.clear();
-    std::vector<zel::Key> keys;
-    CDataStld().GetKeyList(keys);
-    for (const zel::Key key : keys) {
-        if (const auto found = m_factors.find(key); found != m_factors.end()) {
-            const auto eccentric = m_eccentricKeys.find(key);
-            m_record.scaleUps.push_back({found->second, key, eccentric != m_eccentricKeys.end() ? eccentric->second : 0});
-        }
-    }
-}
-
-// Scale-up of seismic load cases
-
-void CLoadCaseUndergroundDlg::SetComboBox_RS()
-{
-    const auto isSeismic = [](const T_STLD_D& record) { return record.type.starts_with('E'); };
-    for (CComboBox* combo : {&loadCase, &esLoadCase}) {
-        combo->ResetContent();
-        zel::addLoadCases(*combo, isSeismic);
-        combo->SetCurSel(combo->GetCount() > 0 ? 0 : -1);
-    }
-    Show_EditComboBox(loadCase.GetCount() > 0);
-}
-
-void CLoadCaseUndergroundDlg::Show_EditComboBox(bool enable)
-{
-    scaleUpFactor.EnableWindow(enable);
-    loadCase.EnableWindow(enable);
-    eccentricity.EnableWindow(enable);
-    esLoadCase.EnableWindow(enable);
-}
-
-void CLoadCaseUndergroundDlg::AddDataToScList(double factor, zel::Key key, zel::Key eccentricKey)
-{
-    if (key == 0)
-        return;
-    m_factors[key] = factor;
-    if (eccentricKey != 0 && IsInPair(key, eccentricKey, 0)) {
-        zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Exist_Eccentric_Data____");
-        return;  // the factor stays
-    }
-    StoreScaleUp({factor, key, eccentricKey});
-}
-
-bool CLoadCaseUndergroundDlg::CheckRSSameLC()
-{
-    if (loadCase.GetCurSel() != esLoadCase.GetCurSel())
-        return true;
-    zel::showMessage("IDS_ZEL_CMD__Error_SAME_LC_SELECTED");
-    return false;
-}
-
-bool CLoadCaseUndergroundDlg::CheckRSScaleFactor()
-{
-    const double factor = scaleUpFactor.GetEditValue();
-    if (factor >= smallestFactor && factor <= greatestFactor)
-        return true;
-    zel::showMessage("IDS_ZEL_CMD__Warning___Check_Scale_Up_Factor_____n_");
-    return false;
-}
-
-zel::Key CLoadCaseUndergroundDlg::GetKey() const
-{
-    return CDataStld().GetKeyByName(loadCase.GetWindowText());
-}
-
-zel::Key CLoadCaseUndergroundDlg::GetEccentricKey() const
-{
-    return eccentricity.GetCheck() ? CDataStld().GetKeyByName(esLoadCase.GetWindowText()) : 0;
-}
-
-void CLoadCaseUndergroundDlg::OnCmdLoadcombScAddBtn()
-{
-    if (eccentricity.GetCheck() && !CheckRSSameLC())
-        return;
-    if (!CheckRSScaleFactor())
-        return;
-    if (loadCase.GetCurSel() < 0) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Not_Selected_Earthquake_Load_C");
-        return;
-    }
-    AddDataToScList(scaleUpFactor.GetEditValue(), GetKey(), GetEccentricKey());
-}
-
-void CLoadCaseUndergroundDlg::OnCmdLoadcombScModBtn()
-{
-    if (eccentricity.GetCheck() && !CheckRSSameLC())
-        return;
-    const int row = list.GetFirstSelected();
-    const T_LCUG_SF* selected = ScaleUpAt(row);
-    if (selected == nullptr) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Not_Selected_Data____");
-        return;
-    }
-    if (!CheckRSScaleFactor())
-        return;
-    if (loadCase.GetCurSel() < 0) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Check_Load_Case____");
-        return;
-    }
-    if (IsInPair(GetKey(), GetEccentricKey(), selected->loadCaseKey)) {
-        zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Exist_Eccentric_Data____");
-        return;
-    }
-    ReplaceScaleUp(row, {scaleUpFactor.GetEditValue(), GetKey(), GetEccentricKey()});
-}
-
-void CLoadCaseUndergroundDlg::OnCmdLoadcombScDelBtn()
-{
-    const int row = list.GetFirstSelected();
-    if (row < 0)
-        zel::showMessage("IDS_ZEL_CMD__Error___Not_Selected_Data____");
-    else
-        RemoveScaleUp(row);
-}
-
-void CLoadCaseUndergroundDlg::OnCmdConsEccentricity()
-{
-    formChanged();  // the second case list follows by its rule
-}
-
-void CLoadCaseUndergroundDlg::OnItemchangedCmdLoadcombScList()
-{
-    const int row = list.GetFirstSelected();
-    if (row < 0)
-        return;
-    scaleUpFactor.SetEditUnit(ScaleUpAt(row)->factor);
-    zel::selectText(loadCase, list.GetItemText(row, loadCaseColumn));
-    zel::selectText(esLoadCase, list.GetItemText(row, eccentricColumn));
+    m_record.scaleUps = scaleUps.ScaleUps();
 }
 
 // Load groups

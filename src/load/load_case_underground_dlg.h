@@ -9,7 +9,7 @@
 
 /// Set Load Cases for Underground Load: which seismic cases are scaled up and by how much, and which earth pressures act with a
 /// seismic case in each direction.
-class ZEL_CMD_API CLoadCaseUndergroundDlg final : public CDlgMove, public zel::ModelListener, private zel::ScaleUpForm {
+class ZEL_CMD_API CLoadCaseUndergroundDlg final : public CDlgMove, public zel::ModelListener {
 public:
     explicit CLoadCaseUndergroundDlg(CWnd* parent = nullptr);
     ~CLoadCaseUndergroundDlg() override;
@@ -25,21 +25,6 @@ private:
     void InitCtrl();
     void Data2Dlg();
     void Dlg2Data();
-
-    // Scale-up of seismic load cases.
-    CListCtrl& ScaleUpList() override { return list; }
-    void SetComboBox_RS();
-    void Show_EditComboBox(bool enable);
-    void AddDataToScList(double factor, zel::Key key, zel::Key eccentricKey);
-    [[nodiscard]] bool CheckRSSameLC();
-    [[nodiscard]] bool CheckRSScaleFactor();
-    [[nodiscard]] zel::Key GetKey() const;
-    [[nodiscard]] zel::Key GetEccentricKey() const;
-    void OnCmdLoadcombScAddBtn();
-    void OnCmdLoadcombScModBtn();
-    void OnCmdLoadcombScDelBtn();
-    void OnCmdConsEccentricity();
-    void OnItemchangedCmdLoadcombScList();
 
     // Load groups.
     void SetListCtrl_Seis();
@@ -59,16 +44,10 @@ private:
     void UpdateBuffer(const CViewBuff& /*buffer*/) override {}
     [[nodiscard]] bool canUpdate() const override { return IsWindow(); }
 
-    CGroup scaleUp{*this, "Scale Up of Seismic Load Cases"};
-    CEditUnit scaleUpFactor{scaleUp, "scaleUpFactor", "Scale Up Factor :"};
-    CComboBox loadCase{scaleUp, "loadCase", "Load Case :"};
-    CCheckBox eccentricity{scaleUp, "eccentricity", "Consider Accidental Eccentricity", &CLoadCaseUndergroundDlg::OnCmdConsEccentricity};
-    CComboBox esLoadCase{scaleUp, "esLoadCase", "ES Load Case :"};
-    CListCtrl list{scaleUp, "list", &CLoadCaseUndergroundDlg::OnItemchangedCmdLoadcombScList};
-    CButtonRow buttons{scaleUp};
-    CButton add{buttons, "add", "Add", &CLoadCaseUndergroundDlg::OnCmdLoadcombScAddBtn};
-    CButton modify{buttons, "modify", "Modify", &CLoadCaseUndergroundDlg::OnCmdLoadcombScModBtn};
-    CButton del{buttons, "del", "Delete", &CLoadCaseUndergroundDlg::OnCmdLoadcombScDelBtn};
+    zel::ScaleUpForm scaleUps{
+        *this,
+        {.group = "Scale Up of Seismic Load Cases", .caseId = "loadCase", .caseLabel = "Load Case :", .caseTitle = "IDS_ZEL_CMD__Load_Case"},
+        {.refusesOddFactors = true, .testsPairsByTheBox = false, .keepsRefusedFactors = true, .rowsTickTheBox = false, .deletionShowsNext = false}};
 
     CGroup loadGroup{*this, "Seismic Load Case List"};
     CLoadCaseUnderMainGrid grid{loadGroup, "grid", *this};

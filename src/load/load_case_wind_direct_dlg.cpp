@@ -1,123 +1,92 @@
 #include "load/load_case_wind_direct_dlg.h"
 
-#include "contract/forms/dialog_names.h"
+#include "command/dialog_class.h"
 #include "contract/load_types.h"
 #include "contract/tables/static_load_case_table.h"
 
 #include <algorithm>
 #include <cmath>
 
-ZEL_DIALOG_NAME(CLoadCaseWindDirectDlg)
-
 namespace {
 
 constexpr int lowBuilding = 0;
-constexpr int highBuilding = 1;
 constexpr double lowestK = 0.55;
 constexpr double highestK = 0.8;
 constexpr double sameFactor = 1e-9;  ///< factors that differ by no more are one
-
-CString noCase()
-{
-    return zel::loadText("IDS_ZEL_CMD__NONE");
-}
-
-/// Name of a load case, as the list and the form show it.
-CString caseText(zel::Key key)
-{
-    T_STLD_D record;
-    return CDataStld().Get(key, record) != 0 ? record.name : noCase();
-}
 
 bool sameCases(const T_LCWD_BASE& a, const T_LCWD_BASE& b)
 {
     return a.along == b.along && a.across == b.across && a.torsion == b.torsion && std::abs(a.gd - b.gd) <= sameFactor && std::abs(a.k - b.k) <= sameFactor;
 }
 
-void fillWithNone(CComboBox& list, std::string_view type)
+/// The cases of a type.
+auto ofType(std::string_view type)
 {
-    list.ResetContent();
-    list.AddString(noCase());
-    zel::addLoadCases(list, [type](const T_STLD_D& loadCase) { return loadCase.type == type; });
-    list.SetCurSel(list.GetCount() > 1 ? 1 : 0);
+    return [type](const T_STLD_D& loadCase) { return loadCase.type == type; };
 }
 
 }  // namespace
 
-CLoadCaseWindDirectDlg::CLoadCaseWindDirectDlg(CWnd* parent) : CSetDialog(14110, "Set Load Cases for Wind Direction", &T_LCWD_D::sets, parent) {}
+ZEL_DIALOG(CLoadCaseWindDirectDlg)
+
+CLoadCaseWindDirectDlg::CLoadCaseWindDirectDlg(CWnd* parent) : CSetDialog(14110, "Set Load Cases for Wind Direction", &T_LCWD_D::sets, parent)
+{
+    CtrlEnable();
+}
 
 CLoadCaseWindDirectDlg::~CLoadCaseWindDirectDlg() = default;
 
 int CLoadCaseWindDirectDlg::OnInitDialog()
 {
-    InitCtrl();
-    CSetDialog::OnInitDialog();
-    CtrlEnable();
-    return 1;
+    ShowFactors(T_LCWD_BASE());
+    return CSetDialog::OnInitDialog();
 }
 
-void CLoadCaseWindDirectDlg::InitCtrl()
+void CLoadCaseWindDirectDlg::CtrlEnable()
 {
-    torsionDirection.ResetContent();
-    torsionDirection.AddString(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_PLUS_MINUS"));
-    torsionDirection.AddString(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_PLUS"));
-    torsionDirection.AddString(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_MINUS"));
-    ShowFactors(T_LCWD_BASE());
+    for (zel::Control* each : {static_cast<zel::Control*>(&torsion), static_cast<zel::Control*>(&gd), static_cast<zel::Control*>(&k)})
+        each->enabledWhen([this] { return highRise.GetCheck(); });
 }
 
 /// Cases along the wind have no line for none: what the wind does is told along it first. Where there are two or more the second
 /// is offered, as cases come in pairs of directions.
 void CLoadCaseWindDirectDlg::InitCtrl_LoadCaseCmb()
 {
-    along.ResetContent();
-    zel::addLoadCases(along, [](const T_STLD_D& loadCase) { return loadCase.type == zel::load_type::wind; });
+    along.fill(ofType(zel::load_type::wind));
     along.SetCurSel(std::min(along.GetCount() - 1, 1));
-    fillWithNone(across, zel::load_type::acrossWind);
-    fillWithNone(torsion, zel::load_type::torsionalWind);
+    across.fill(ofType(zel::load_type::acrossWind));
+    across.SetCurSel(across.GetCount() > 1 ? 1 : 0);
+    torsion.fill(ofType(zel::load_type::torsionalWind));
+    torsion.SetCurSel(torsion.GetCount() > 1 ? 1 : 0);
 }
 
-void CLoadCaseWindDirectDlg::SetListCtrlHeader()
+std::vector<zel::FieldColumn> CLoadCaseWindDirectDlg::Columns() const
 {
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Group_No"), 70);  // of orthogonal pairs: it is meant
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_ALONG"), 60);
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_ACROSS"), 60);
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_TORSION"), 60);
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_FACTOR_GD"), 40);
-    list.AddColumn(zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_FACTOR_K"), 40);
+    return {
+        {zel::loadText("IDS_ZEL_CMD_Orthgonal_Effect_Group_No"), 70},  // of orthogonal pairs: it is meant
+        {zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_ALONG"), 60, &along},     {zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_ACROSS"), 60, &across},
+        {zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_TORSION"), 60, &torsion}, {zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_FACTOR_GD"), 40, &gd},
+        {zel::loadText("IDS_ZEL_CMD_WIND_DIRECTION_FACTOR_K"), 40, &k},
+    };
 }
 
 CString CLoadCaseWindDirectDlg::DataToStr(int column, const T_LCWD_BASE& set) const
 {
-    if (column == 1)
-        return caseText(set.along);
-    if (column == 2)
-        return caseText(set.across);
-    if (set.buildingType == lowBuilding)
-        return "-";
-    if (column == 3)
-        return caseText(set.torsion);
-    return zel::numberText("%g", column == 4 ? set.gd : set.k);
+    const bool ofHighBuildings = column >= 3;
+    return ofHighBuildings && set.buildingType == lowBuilding ? "-" : CSetDialog::DataToStr(column, set);
 }
 
 void CLoadCaseWindDirectDlg::MakeItemEx()
 {
     CSetDialog::MakeItemEx();
-    if (items().empty())
-        return;
-    ShowFactors(items().front());
-    CtrlEnable();
-}
-
-void CLoadCaseWindDirectDlg::Data2Dlg()
-{
-    torsionDirection.SetCurSel(m_record.torsionDirection);
+    if (!items().empty())
+        ShowFactors(items().front());
 }
 
 bool CLoadCaseWindDirectDlg::Dlg2Data()
 {
-    m_record.reserved = 0;
-    m_record.torsionDirection = torsionDirection.GetCurSel();
-    return true;
+    m_record.edited.reserved = 0;
+    return CSetDialog::Dlg2Data();
 }
 
 bool CLoadCaseWindDirectDlg::Dlg2Item(T_LCWD_BASE& set)
@@ -126,12 +95,8 @@ bool CLoadCaseWindDirectDlg::Dlg2Item(T_LCWD_BASE& set)
         zel::showMessage("IDS_ZEL_CMD__Loadcase_was_not_selected_");
         return false;
     }
-    set.along = GetStldKey(along.GetWindowText());
-    set.across = GetStldKey(across.GetWindowText());
-    set.torsion = GetStldKey(torsion.GetWindowText());
-    set.gd = gd.GetEditValue();
-    set.k = k.GetEditValue();
-    set.buildingType = buildingType.GetSel();
+    if (!CSetDialog::Dlg2Item(set))
+        return false;
     if (set.buildingType == lowBuilding)
         set.torsion = 0;
     return true;
@@ -158,45 +123,18 @@ bool CLoadCaseWindDirectDlg::ValidItem(const T_LCWD_BASE& set)
 bool CLoadCaseWindDirectDlg::IsOnlyOne(const T_LCWD_BASE& set, int skipRow)
 {
     const bool adding = skipRow < 0;
-    for (std::size_t row = 0; row < items().size(); ++row) {
-        const T_LCWD_BASE& other = items()[row];
-        if (static_cast<int>(row) != skipRow && sameCases(other, set) && (!adding || other.buildingType == set.buildingType)) {
-            zel::showMessage("IDS_ZEL_CMD__ADDD__An_identical_load_group_already_exists_");
-            return false;
-        }
-    }
-    return true;
+    const auto same = [&](const T_LCWD_BASE& other) { return sameCases(other, set) && (!adding || other.buildingType == set.buildingType); };
+    if (!HasAnotherRow(skipRow, same))
+        return true;
+    zel::showMessage("IDS_ZEL_CMD__ADDD__An_identical_load_group_already_exists_");
+    return false;
 }
 
 void CLoadCaseWindDirectDlg::ShowFactors(const T_LCWD_BASE& set)
 {
-    gd.SetEditUnit(set.gd);
-    k.SetEditUnit(set.k);
-    buildingType.SetSel(set.buildingType);
-}
-
-void CLoadCaseWindDirectDlg::Item2Dlg(const T_LCWD_BASE& set)
-{
-    zel::selectText(along, caseText(set.along));
-    zel::selectText(across, caseText(set.across));
-    zel::selectText(torsion, caseText(set.torsion));
-    ShowFactors(set);
-    CtrlEnable();
-}
-
-void CLoadCaseWindDirectDlg::CtrlEnable()
-{
-    const bool isHighRise = buildingType.GetSel() == highBuilding;
-    torsion.EnableWindow(isHighRise);
-    gd.EnableWindow(isHighRise);
-    k.EnableWindow(isHighRise);
-}
-
-void CLoadCaseWindDirectDlg::OnChangedCurrentItem()
-{
-    int row = 0;
-    if (GetSelectedItem(row) != 0)
-        Item2Dlg(items()[static_cast<std::size_t>(row)]);
+    buildingType.showField(&set);
+    gd.showField(&set);
+    k.showField(&set);
 }
 
 template <class Clear> void CLoadCaseWindDirectDlg::ClearSets(const Clear& clear, bool& refresh)

@@ -21,9 +21,9 @@ protected:
         SeismicFactorDialog& dialog;
         CGroup group{dialog, "System Over-Strength Factor"};
         CRow loadCaseRow{group};
-        LoadCaseCombo loadCase{loadCaseRow, "loadCase", "Load Case :"};
+        LoadCaseCombo loadCase{loadCaseRow, "loadCase", "Load Case :", &Entry::loadCaseKey};
         CButton loadCaseButton{loadCaseRow, "loadCaseButton", "...", &SeismicFactorDialog::OnClickLoadCaseBtn};
-        CEdit factor{group, "factor", "Over-Strength Factor :"};
+        CEdit factor{group, "factor", "Over-Strength Factor :", &Entry::factor};
         CListCtrl list{group, "list", &SeismicFactorDialog::OnChangedCurrentItem};
         CButtonRow buttons{group};
         CButton add{buttons, "add", "Add", &SeismicFactorDialog::OnDgnGenSeisAdd};
@@ -42,19 +42,8 @@ protected:
 
     int GetLoadCaseType(int line) { return Form().loadCase.GetLoadCaseType(line); }
 
-    CString DataToStr(int column, const Entry& item) const override
-    {
-        return column == 0 ? staticCaseText(CDataStld().GetNameByKey(item.loadCaseKey)) : numberText("%g", item.factor);
-    }
-
     /// Without a selected load case the entry keeps its defaults, so that ValidItem refuses it.
-    bool Dlg2Item(Entry& item) override
-    {
-        if (Form().loadCase.GetCurSel() < 0)
-            return true;
-        item.loadCaseKey = this->GetStldKey(Form().loadCase.selectedName());
-        return CStrParser::GetFloatNumber(Form().factor.GetWindowText(), item.factor) != 0;
-    }
+    bool Dlg2Item(Entry& item) override { return Form().loadCase.GetCurSel() < 0 || Base::Dlg2Item(item); }
 
     bool ValidItem(const Entry& item) override
     {
@@ -66,30 +55,19 @@ protected:
 
     bool IsOnlyOne(const Entry& item, int skipRow) override
     {
-        const std::vector<Entry>& entries = this->items();
-        for (std::size_t row = 0; row < entries.size(); ++row) {
-            if (static_cast<int>(row) != skipRow && entries[row].loadCaseKey == item.loadCaseKey) {
-                showMessage("IDS_ZEL_CMD__Loadcase__s_already_exist_", {Form().loadCase.GetWindowText()});
-                return false;
-            }
-        }
-        return true;
+        if (!this->HasAnotherRow(skipRow, [&item](const Entry& other) { return other.loadCaseKey == item.loadCaseKey; }))
+            return true;
+        showMessage("IDS_ZEL_CMD__Loadcase__s_already_exist_", {Form().loadCase.GetWindowText()});
+        return false;
     }
 
-    void Item2Dlg(int line, const Entry& item)
-    {
-        Form().loadCase.SetCurSel(line);
-        Form().factor.SetWindowText(numberText("%g", item.factor));
-    }
-
+    /// An entry whose case is not listed, and none, leave the factor as it was.
     void OnChangedCurrentItem() override
     {
-        Entry item;
         int row = 0;
-        if (this->GetSelectedItem(row) != 0)
-            item = this->items()[static_cast<std::size_t>(row)];
-        if (selectText(Form().loadCase, DataToStr(0, item)))
-            Item2Dlg(Form().loadCase.GetCurSel(), item);
+        const Entry item = this->GetSelectedItem(row) != 0 ? this->items()[static_cast<std::size_t>(row)] : Entry();
+        if (selectText(Form().loadCase, Form().loadCase.fieldText(&item)))
+            this->Item2Dlg(item);
     }
 
     void OnDgnGenSeisAdd() { this->AddItem(); }

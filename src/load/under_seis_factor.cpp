@@ -1,8 +1,8 @@
 #include "load/under_seis_factor.h"
 
-#include "contract/forms/dialog_names.h"
+#include "command/dialog_class.h"
 
-ZEL_DIALOG_NAME(CUnderSeisFactor)
+ZEL_DIALOG(CUnderSeisFactor)
 
 CUnderSeisFactor::CUnderSeisFactor(CWnd* parent) : SeismicFactorDialog(14112, "Factors for Seismic Design", &T_SIFT_D::overStrengthFactors, parent) {}
 
@@ -11,20 +11,12 @@ CUnderSeisFactor::~CUnderSeisFactor() = default;
 int CUnderSeisFactor::OnInitDialog()
 {
     SeismicFactorDialog::OnInitDialog();
-    entry.factor.SetWindowText(zel::numberText("%g", T_SIFT_BASE().factor));
+    const T_SIFT_BASE fresh;
+    entry.factor.showField(&fresh);
     return 1;
 }
 
-std::vector<zel::NumberField<T_SIFT_D>> CUnderSeisFactor::NumberFields()
+std::vector<zel::FieldColumn> CUnderSeisFactor::Columns() const
 {
-    return {
-        {verticalLoadFactor, &T_SIFT_D::verticalLoadFactor},
-        {shortPeriodCoefficient, &T_SIFT_D::shortPeriodCoefficient},
-    };
-}
-
-void CUnderSeisFactor::SetListCtrlHeader()
-{
-    List().AddColumn(zel::loadText("IDS_ZEL_CMD__Load_Case"), 85);
-    List().AddColumn(zel::loadText("IDS_ZEL_CMD__Factor"), 60);
+    return {{zel::loadText("IDS_ZEL_CMD__Load_Case"), 85, &entry.loadCase}, {zel::loadText("IDS_ZEL_CMD__Factor"), 60, &entry.factor}};
 }

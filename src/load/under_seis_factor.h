@@ -13,13 +13,12 @@ public:
 
 private:
     int OnInitDialog() override;
-    std::vector<zel::NumberField<T_SIFT_D>> NumberFields() override;
     EntryForm& Form() override { return entry; }
-    void SetListCtrlHeader() override;
+    std::vector<zel::FieldColumn> Columns() const override;
 
     CGroup special{*this, "Special Seismic Loads"};
-    CEdit verticalLoadFactor{special, "verticalLoadFactor", "Vertical Load Factor :"};
-    CEdit shortPeriodCoefficient{special, "shortPeriodCoefficient", "Short Period Coefficient :"};
+    CEdit verticalLoadFactor{special, "verticalLoadFactor", "Vertical Load Factor :", &T_SIFT_D::verticalLoadFactor};
+    CEdit shortPeriodCoefficient{special, "shortPeriodCoefficient", "Short Period Coefficient :", &T_SIFT_D::shortPeriodCoefficient};
     EntryForm entry{*this};
     CButtonRow closing{*this};
     CButton ok{closing, "ok", "OK", &CUnderSeisFactor::OnOK};

@@ -1,14 +1,18 @@
+#include "build_paths.h"
 #include "command/command.h"
 #include "command/dialog_table.h"
-#include "command/exported_dialogs.h"
 #include "contract/forms/loading_status.h"
 #include "contract/forms/open_dialogs.h"
 #include "load/dialog_test.h"
 
 #include <algorithm>
 #include <dlfcn.h>
+#include <filesystem>
+#include <fstream>
 #include <map>
+#include <regex>
 #include <set>
+#include <sstream>
 
 namespace {
 
@@ -138,8 +142,104 @@ TEST(DialogTable, OneClassHasOneTemplateAndOneTitle)
         const auto form = std::make_pair(row.templateId, row.title);
         EXPECT_EQ(forms.emplace(row.dialogClass, form).first->second, form) << row.dialogClass;
     };
-    std::ranges::for_each(zel::modelessDialogs, check);
-    std::ranges::for_each(zel::modalCommands, check);
+    std::ranges::for_each(zel::dialogRows, check);
+}
+
+TEST(DialogTable, ARowIsOpenedInOneWayAndOfferedInAMenu)
+{
+    std::set<std::string_view> entries;
+    for (const zel::DialogRow& row : zel::dialogRows) {
+        EXPECT_FALSE(row.way.id != nullptr && row.way.number != 0) << row.dialogClass;
+        EXPECT_TRUE(row.way.id != nullptr || row.way.number != 0 || row.exported == zel::Exported::yes) << row.dialogClass << " is opened by nothing";
+        EXPECT_TRUE(row.entry.menu.starts_with('&') && !row.entry.text.empty()) << row.dialogClass;
+        EXPECT_TRUE(entries.insert(row.entry.text).second || row.entry.menu == "&Results") << row.entry.text;
+    }
+}
+
+/// What is built is opened under the template and the title of its row.
+TEST_F(Entries, ADialogIsOpenedUnderTheTemplateAndTheTitleOfItsRow)
+{
+    int built = 0;
+    for (const zel::DialogRow& row : zel::dialogRows) {
+        if (!zel::hasDialogClass(row.dialogClass))
+            continue;
+        ++built;
+        const auto check = [&row](const CDialog& dialog) {
+            EXPECT_EQ(dialog.ClassName(), row.dialogClass);
+            EXPECT_EQ(dialog.templateId(), row.templateId) << row.dialogClass;
+            EXPECT_EQ(dialog.GetWindowText(), row.title) << row.dialogClass;
+        };
+        if (row.exported == zel::Exported::yes) {
+            check(*zel::makeExportedDialog(row.dialogClass));
+        } else if (row.way.id != nullptr) {
+            check(*CMD_DoModeless(*row.way.id, nullptr));
+        } else {
+            user.inModal(check);
+            CMD_DoModal(row.way.number, nullptr, 0);
+        }
+    }
+    EXPECT_GE(built, 9);
+}
+
+TEST(DialogTable, EveryClassThatIsMadeKnownHasARow)
+{
+    const std::regex known("^ZEL_DIALOG\\((\\w+)\\)");
+    int found = 0;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(zel::test::sourceFolder() + "/src")) {
+        if (file.path().extension() != ".cpp")
+            continue;
+        std::ifstream source(file.path());
+        std::smatch match;
+        for (std::string line; std::getline(source, line);) {
+            if (!line.starts_with("ZEL_DIALOG") || !std::regex_search(line, match, known))
+                continue;
+            ++found;
+            const std::string name = match[1];
+            EXPECT_TRUE(std::ranges::any_of(zel::dialogRows, [&name](const zel::DialogRow& row) { return row.dialogClass == name; })) << name;
+            EXPECT_TRUE(zel::hasDialogClass(name)) << name;
+        }
+    }
+    EXPECT_GE(found, 9);
+}
+
+TEST(DialogTable, NamesTheTableOfEachSubjectOnce)
+{
+    std::set<std::string> tables;
+    for (const zel::DialogRow& row : zel::dialogRows) {
+        std::istringstream codes{std::string(row.subjects)};
+        for (std::string code; codes >> code;) {
+            EXPECT_NE(zel::findTable(code), nullptr) << code;
+            EXPECT_TRUE(tables.insert(code).second) << code;
+            EXPECT_EQ(zel::findDialogOfTable(code), &row) << code;
+        }
+    }
+    EXPECT_GE(tables.size(), 20U);
+    EXPECT_EQ(zel::findDialogOfTable("NODE"), nullptr);
+}
+
+/// The rows of the README's list of forms: "| `Class` | Title | `what a journal says` |".
+TEST(DialogTable, TheReadmeListsTheFormsThatAreBuiltWithTitleAndWay)
+{
+    const auto sentenceOf = [](const zel::DialogRow& row) -> std::string {
+        if (row.way.id != nullptr)
+            return R"({"do": "modeless", "id": ")" + std::string(row.way.idName) + R"("})";
+        if (row.way.number != 0)
+            return R"({"do": "modal", "number": )" + std::to_string(row.way.number) + "}";
+        return R"({"do": "open", "class": ")" + std::string(row.dialogClass) + R"("})";
+    };
+    std::set<std::string> expected;
+    for (const zel::DialogRow& row : zel::dialogRows) {
+        if (zel::hasDialogClass(row.dialogClass))
+            expected.insert("| `" + std::string(row.dialogClass) + "` | " + std::string(row.title) + " | `" + sentenceOf(row) + "` |");
+    }
+    const std::regex form("^\\| `C\\w+` \\|");
+    std::set<std::string> listed;
+    std::ifstream readme(zel::test::sourceFolder() + "/README.md");
+    for (std::string line; std::getline(readme, line);) {
+        if (std::regex_search(line, form))
+            listed.insert(line);
+    }
+    EXPECT_EQ(listed, expected) << "the table \"Forms\" in README.md (first) and the forms that are built (second)";
 }
 
 // What the library shows
@@ -147,12 +247,13 @@ TEST(DialogTable, OneClassHasOneTemplateAndOneTitle)
 TEST(ExportedDialogs, AreFoundByNameAndBuiltWithTheNameOfTheirClass)
 {
     const auto model = zel::ModelDocument::inMemory();
-    for (const zel::ExportedDialog& each : zel::exportedDialogs) {
-        EXPECT_EQ(zel::findExportedDialog(each.name)->name, each.name);
-        EXPECT_EQ(each.make()->ClassName(), each.name);
-    }
-    EXPECT_TRUE(std::ranges::is_sorted(zel::exportedDialogs, {}, &zel::ExportedDialog::name));
-    EXPECT_EQ(zel::findExportedDialog("CCMLoadCaseDlg"), nullptr);  // only its id opens it
+    const std::vector<std::string_view> names = zel::exportedDialogs();
+    EXPECT_GE(names.size(), 6U);
+    for (const std::string_view name : names)
+        EXPECT_EQ(zel::makeExportedDialog(name)->ClassName(), name);
+    EXPECT_TRUE(std::ranges::is_sorted(names));
+    EXPECT_EQ(zel::makeExportedDialog("CCMLoadCaseDlg"), nullptr);       // only its id opens it
+    EXPECT_EQ(zel::makeExportedDialog("CModelAssignBasemat"), nullptr);  // not built yet
 }
 
 TEST(ExportedDialogs, AreAmongTheClassesThatHostsMayBuild)
@@ -169,8 +270,8 @@ TEST(ExportedDialogs, AreAmongTheClassesThatHostsMayBuild)
         "CUnderSeisFactor",
     };
     EXPECT_THAT(allowed, SizeIs(17));
-    for (const zel::ExportedDialog& each : zel::exportedDialogs)
-        EXPECT_TRUE(allowed.contains(each.name)) << each.name;
+    for (const zel::DialogRow& row : zel::dialogRows)
+        EXPECT_TRUE(row.exported == zel::Exported::no || allowed.contains(row.dialogClass)) << row.dialogClass;
 }
 
 /// Names are as the compiler writes them: "_ZTV" and the class is a class's table of functions.
@@ -185,8 +286,8 @@ TEST(ExportedDialogs, EntriesIdsAndClassesAreVisibleAndWhatStandsBehindThemIsNot
 
     for (const zel::ModelessDialog& row : zel::modelessDialogs)
         EXPECT_TRUE(isVisible(CString(row.name))) << row.name;
-    for (const zel::ExportedDialog& each : zel::exportedDialogs)
-        EXPECT_TRUE(isVisible(tableOf(each.name))) << each.name;
+    for (const std::string_view name : zel::exportedDialogs())
+        EXPECT_TRUE(isVisible(tableOf(name))) << name;
     for (const char* hidden : {"CCMLoadCaseDlg", "CCMLoadCaseGrid", "CLoadCaseUnderMainGrid"})
         EXPECT_FALSE(isVisible(tableOf(hidden))) << hidden;
     dlclose(handle);

@@ -1,22 +1,23 @@
+#include "command/item_dialog.h"
 #include "command/modal_set_up.h"
-#include "contract/records/lnld.h"
-#include "contract/records/matl.h"
-#include "contract/records/thfc.h"
+#include "contract/tables/dynamic_tables.h"
+#include "contract/tables/load_type_tables.h"
+#include "contract/tables/property_tables.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 /// Stands for an item dialog: shows what it was given.
-template <class Record> class ItemDialog : public CInternationalDlg, public zel::ItemArguments<Record> {
+template <class Handle> class ItemDialog : public CItemDialog<Handle> {
 public:
-    ItemDialog() : CInternationalDlg(1, "item") {}
+    ItemDialog() : CItemDialog<Handle>(1, "item") {}
 
     [[nodiscard]] bool modifies() const { return this->m_modify; }
     [[nodiscard]] bool hasPresetKey() const { return this->m_hasPresetKey; }
     [[nodiscard]] zel::Key key() const { return this->m_key; }
     [[nodiscard]] zel::Key oldKey() const { return this->m_oldKey; }
-    [[nodiscard]] const Record& record() const { return this->m_record; }
+    [[nodiscard]] const auto& record() const { return this->m_record.edited; }
 };
 
 class PlacedDialog : public CDlgMove {
@@ -55,7 +56,7 @@ TEST(ModalSetUp, AFlagModifiesTheRecordOfTheArguments)
     for (const int flag : {1, -1, 5}) {
         Args<T_MATL_D> args;
         args.record.name = "C24";
-        ItemDialog<T_MATL_D> dialog;
+        ItemDialog<CDataMatl> dialog;
         zel::setUpModal(dialog, command(16), &args.pointers, flag);
         EXPECT_TRUE(dialog.modifies());
         EXPECT_FALSE(dialog.hasPresetKey());
@@ -70,7 +71,7 @@ TEST(ModalSetUp, WithoutAFlagTheKeyIsPresetAndTheRecordIsNotTaken)
     for (const unsigned number : {16U, 17U, 18U}) {
         Args<T_MATL_D> args;
         args.record.name = "C24";
-        ItemDialog<T_MATL_D> dialog;
+        ItemDialog<CDataMatl> dialog;
         zel::setUpModal(dialog, command(number), &args.pointers, 0);
         EXPECT_FALSE(dialog.modifies());
         EXPECT_TRUE(dialog.hasPresetKey());
@@ -86,7 +87,7 @@ TEST(ModalSetUp, TheFlagHasNoEffectOnTheOtherItemDialogs)
         for (const int flag : {0, 1}) {
             Args<T_LNLD_D> args;
             args.record.name = "wall";
-            ItemDialog<T_LNLD_D> dialog;
+            ItemDialog<CDataLnld> dialog;
             zel::setUpModal(dialog, command(number), &args.pointers, flag);
             EXPECT_TRUE(dialog.modifies()) << number;
             EXPECT_EQ(dialog.record().name, "wall") << number;
@@ -99,7 +100,7 @@ TEST(ModalSetUp, RecordsThatAreKnownByNameAreModified)
     for (const unsigned number : {21U, 22U}) {
         Args<T_THFC_D> args;
         args.record.name = "quake";
-        ItemDialog<T_THFC_D> dialog;
+        ItemDialog<CDataThfc> dialog;
         zel::setUpModal(dialog, command(number), &args.pointers, 0);
         EXPECT_TRUE(dialog.modifies());
         EXPECT_EQ(dialog.record().name, "quake");
@@ -110,7 +111,7 @@ TEST(ModalSetUp, TheRecordIsCopied)
 {
     Args<T_MATL_D> args;
     args.record.name = "C24";
-    ItemDialog<T_MATL_D> dialog;
+    ItemDialog<CDataMatl> dialog;
     zel::setUpModal(dialog, command(16), &args.pointers, 1);
     args.record.name = "changed";
     EXPECT_EQ(dialog.record().name, "C24");
@@ -119,7 +120,7 @@ TEST(ModalSetUp, TheRecordIsCopied)
 TEST(ModalSetUp, WithoutArgumentsAnItemDialogAddsAsItsDefaultsSay)
 {
     for (unsigned number = 16; number <= 26; ++number) {
-        ItemDialog<T_MATL_D> dialog;
+        ItemDialog<CDataMatl> dialog;
         zel::setUpModal(dialog, command(number), nullptr, 1);
         EXPECT_FALSE(dialog.modifies() || dialog.hasPresetKey()) << number;
         EXPECT_EQ(dialog.key(), 0U) << number;

@@ -3,7 +3,6 @@
 #include "build_paths.h"
 #include "command/command.h"
 #include "command/dialog_table.h"
-#include "command/exported_dialogs.h"
 #include "contract/forms/open_dialogs.h"
 #include "desktop/desktop_fixture.h"
 #include "journal/dialog_commands.h"
@@ -48,9 +47,9 @@ std::vector<FormState> openedForms()
         if (!command.dialogClass.empty())
             forms.push_back({std::string(command.dialogClass), R"({"do": "modal", "number": )" + std::to_string(command.number) + "}\n"});
     }
-    for (const zel::ExportedDialog& dialog : zel::exportedDialogs)
-        forms.push_back({std::string(dialog.name), R"({"do": "open", "class": ")" + std::string(dialog.name) + "\"}\n"});
     Init_ZEL_cmddll();
+    for (const std::string_view name : zel::exportedDialogs())
+        forms.push_back({std::string(name), R"({"do": "open", "class": ")" + std::string(name) + "\"}\n"});
     const std::unique_ptr<zel::ModelDocument> document = example("tower");
     std::erase_if(forms, [&](const FormState& form) { return !isBuilt(*document, form.journal); });
     return forms;

@@ -24,16 +24,6 @@ std::set<std::string> found(const std::string& pattern, bool (*chosen)(const hou
     return names;
 }
 
-TEST(HouseRules, TheReadmeListsTheFormsThatAreThere)
-{
-    std::set<std::string> built = found("^ZEL_DIALOG\\((\\w+)\\)", [](const house::File& file) { return house::isIn(file, "src/", {".cpp"}); });
-    built.merge(found("ExportedDialog\\{\"(\\w+)\"", [](const house::File& file) { return file.path == "src/command/exported_dialogs.h"; }));
-    const std::set<std::string> listed = found("^\\| `(C\\w+)`", [](const house::File& file) { return file.path == "README.md"; });
-
-    ASSERT_FALSE(built.empty());
-    EXPECT_EQ(listed, built) << "the table \"Forms\" in README.md (first) and the forms in src/ (second)";
-}
-
 TEST(HouseRules, EveryDialogHasANameForJournals)
 {
     const auto commandLibrary = [](const house::File& file) {

@@ -1,10 +1,15 @@
 #pragma once
 
-#include "command/exported_dialogs.h"
 #include "contract/forms/find_control.h"
 #include "contract/messages.h"
 #include "contract/tables/load_set_tables.h"
 #include "contract/tables/static_load_case_table.h"
+#include "load/cmd_set_ortho_lc_dlg.h"
+#include "load/dgn_gen_seis_factor.h"
+#include "load/load_case_underground_dlg.h"
+#include "load/load_case_wind_direct_dlg.h"
+#include "load/under_seis_factor.h"
+#include "loadcomb/envelopes/cm_load_mllc_dlg.h"
 #include "platform/forms/headless_user_interface.h"
 #include "platform/messages/message_catalogue.h"
 #include "platform/modeldb/model_document.h"

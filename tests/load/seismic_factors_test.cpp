@@ -255,6 +255,38 @@ TYPED_TEST(SeismicFactors, ACaseWhoseNameEndsInTheLettersOfTheMarkComesBackWhole
     EXPECT_EQ(this->stored()[1].loadCaseKey, best);
 }
 
+TYPED_TEST(SeismicFactors, ACaseWhoseNameEndsInAParenthesisComesBackWhole)
+{
+    this->addCase("E1", "E");
+    const auto key = this->addCase("E1(", "E");
+    this->open([this](const Form& form) {
+        this->add(form, "E1((ST)", "2");
+        form.press("OK");
+    });
+    EXPECT_THAT(this->boxes(), IsEmpty());
+    ASSERT_EQ(this->stored().size(), 1U);
+    EXPECT_EQ(this->stored()[0].loadCaseKey, key);
+}
+
+TYPED_TEST(SeismicFactors, ANumberThatCannotBeTakenHasTheFocusAndAMarkUntilItIsChanged)
+{
+    this->addCase("EX", "E");
+    this->open([this](const Form& form) {
+        this->add(form, "EX(ST)", "abc");
+        EXPECT_TRUE(form.at(factor).HasFocus());
+        EXPECT_TRUE(form.at(factor).isEntryRefused());
+        form.set(factor, "2");
+        EXPECT_FALSE(form.at(factor).isEntryRefused());
+        form.press("Add");
+        form.set("Short Period Coefficient :", "");
+        form.press("OK");
+        EXPECT_FALSE(form.dialog().hasEnded());
+        EXPECT_TRUE(form.at("Short Period Coefficient :").isEntryRefused());
+        EXPECT_TRUE(form.at("Short Period Coefficient :").HasFocus());
+    });
+    EXPECT_THAT(this->boxes(), IsEmpty());
+}
+
 TYPED_TEST(SeismicFactors, OkStoresTheScalarsAndTheList)
 {
     const zel::Key ex = this->addCase("EX", "E");

@@ -88,7 +88,7 @@ TEST_F(StaticLoadCases, OpensWithNoSubLoadCasesAndTheirFieldsDisabled)
 
 TEST_F(StaticLoadCases, OffersTheTypesOfTheCatalogueInItsOrder)
 {
-    const CLoadDB& catalogue = *model->GetLoadDB();
+    const CLoadDB catalogue;
     CArray<CString> codes;
     catalogue.GetLoadTypeList(&codes);
     Texts display;

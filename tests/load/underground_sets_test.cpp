@@ -334,6 +334,22 @@ TEST_F(UndergroundSets, SelectingARowShowsItWithAllDigitsOfItsFactor)
     EXPECT_THAT(stored().scaleUps, ElementsAre(T_LCUG_SF{1.23456789, ex, ez}, T_LCUG_SF{3.0, ey, 0}));
 }
 
+TEST_F(UndergroundSets, ASelectedRowLeavesTheBoxOfEccentricityAndADeletionLeavesTheFields)
+{
+    addCases();
+    store({{{2.0, ex, ez}, {3.0, ey, 0}}, {}});
+    open([](const Form& form) {
+        form.select("list", {0});
+        EXPECT_FALSE(form.at<CCheckBox>("Consider Accidental Eccentricity").GetCheck());
+        form.press("Delete");
+        EXPECT_THAT(form.selected(), ElementsAre(0));
+        EXPECT_EQ(form.text("Scale Up Factor :"), "2");
+        EXPECT_EQ(form.text("Load Case :"), "EX");
+        form.press("OK");
+    });
+    EXPECT_THAT(stored().scaleUps, ElementsAre(T_LCUG_SF{3.0, ey, 0}));
+}
+
 TEST_F(UndergroundSets, TheStoredOrderAndThatOfTheRowsAfterReopeningIsThatOfTheLoadCases)
 {
     addCases();

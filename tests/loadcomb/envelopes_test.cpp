@@ -146,6 +146,31 @@ TEST_F(Envelopes, ApplyStoresAndStaysInItsMode)
     });
 }
 
+TEST_F(Envelopes, ApplyOnAnExistingOneWritesAllOfItAndLeavesTheFormAsItStands)
+{
+    store("E1", {{0, 1}});
+    openList([&](const Form& list) {
+        list.select("envelopeList", {0});
+        openItem(list, "Modify", [&](const Form& item) {
+            item.set("Description", "of two");
+            item.select("candidates", {0});
+            item.press("->");
+            item.press("Apply");
+            EXPECT_FALSE(item.dialog().hasEnded());
+            EXPECT_EQ(stored("E1").description, "of two");
+            EXPECT_THAT(stored("E1").items, ElementsAre(T_ENVL_BASE{0, 1}, T_ENVL_BASE{0, 2}));
+            EXPECT_EQ(item.text("Envelope Name"), "E1");
+            EXPECT_THAT(item.rows("selected"), ElementsAre(Texts{"DL", "ST"}, Texts{"LL", "ST"}));
+            item.set("Description", "not this");
+            item.press("Cancel");
+        });
+        EXPECT_EQ(CDataEnvl().GetCount(), 1);
+        EXPECT_EQ(stored("E1").description, "of two");
+        EXPECT_THAT(list.rows("items"), ElementsAre(Texts{"DL", "ST"}, Texts{"LL", "ST"}));
+    });
+    EXPECT_THAT(boxes(), IsEmpty());
+}
+
 TEST_F(Envelopes, ARefusedWriteKeepsTheFormOpenWithoutAWordOfItsOwn)
 {
     store("E1", {{0, 1}});

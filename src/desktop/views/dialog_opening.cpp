@@ -1,49 +1,23 @@
 #include "desktop/views/dialog_opening.h"
 
-#include "command/dialog_table.h"
-#include "command/exported_dialogs.h"
 #include "journal/user_hand.h"
-
-#include <algorithm>
 
 namespace zel::desktop {
 
-namespace {
-
-const ModelessDialog* modelessOf(std::string_view id)
-{
-    const auto* row = std::ranges::find(modelessDialogs, id, &ModelessDialog::name);
-    return row != modelessDialogs.end() ? row : nullptr;
-}
-
-}  // namespace
-
-bool DialogOpening::isThere() const
-{
-    if (const ModelessDialog* row = modelessOf(id))
-        return hasDialogClass(row->dialogClass);
-    if (const ModalCommand* command = findModalCommand(number))
-        return hasDialogClass(command->dialogClass);
-    return findExportedDialog(dialogClass) != nullptr;
-}
-
 std::string_view DialogOpening::title() const
 {
-    if (const ModelessDialog* row = modelessOf(id))
-        return row->title;
-    if (const ModalCommand* command = findModalCommand(number))
-        return command->title;
-    return {};
+    const bool isNamed = row != nullptr && (row->way.id != nullptr || row->way.number != 0);
+    return isNamed ? row->title : std::string_view();
 }
 
 void DialogOpening::run(UserHand& hand) const
 {
-    if (const ModelessDialog* row = modelessOf(id))
-        hand.modeless(*row->id);
-    else if (number != 0)
-        hand.modal(number);
+    if (row->way.id != nullptr)
+        hand.modeless(*row->way.id);
+    else if (row->way.number != 0)
+        hand.modal(row->way.number);
     else
-        hand.open(dialogClass);
+        hand.open(row->dialogClass);
 }
 
 }  // namespace zel::desktop

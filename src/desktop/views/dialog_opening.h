@@ -1,5 +1,7 @@
 #pragma once
 
+#include "command/dialog_table.h"
+
 #include <string_view>
 
 namespace zel {
@@ -10,15 +12,13 @@ class UserHand;
 
 namespace zel::desktop {
 
-/// The way to a dialog: an exported id, a modal command's number, or an exported class; one of the three, or none.
+/// The way to a dialog, or none.
 struct DialogOpening {
-    std::string_view id = {};
-    unsigned number = 0;
-    std::string_view dialogClass = {};
+    const DialogRow* row = nullptr;
 
     /// Whether it leads to a dialog that is built.
-    [[nodiscard]] bool isThere() const;
-    /// Title of that dialog; empty if there is none.
+    [[nodiscard]] bool isThere() const { return row != nullptr && hasDialogClass(row->dialogClass); }
+    /// Title of the dialog of an id or a command; empty for others.
     [[nodiscard]] std::string_view title() const;
     void run(UserHand& hand) const;
 };

@@ -15,57 +15,44 @@ namespace {
 
 using enum SubjectShape;
 
-constexpr DialogOpening loadCases{"D_CMD_MODEL_LOAD_LOADCASE"};
-constexpr DialogOpening combinations{"D_CMD_RESULT_LOADCOMB"};
-constexpr DialogOpening loadTypes{"D_CMD_MODEL_LOAD"};
-constexpr DialogOpening properties{"D_CMD_MODEL_DEF_PROPERTY"};
-constexpr DialogOpening supports{"D_CMD_MODEL_DEF_SUPPORT"};
-constexpr DialogOpening interpolations{"D_CMD_MODEL_LOAD_SPDI"};
-constexpr DialogOpening domains{"D_CMD_MODEL_DOMAIN"};
-constexpr DialogOpening wallDirections{"D_CMD_PILEMAT_WDIR"};
-
-constexpr DialogOpening modal(unsigned number)
+/// The way to the dialog that edits a table.
+constexpr DialogOpening edits(std::string_view table)
 {
-    return {{}, number, {}};
-}
-
-constexpr DialogOpening exported(std::string_view dialogClass)
-{
-    return {{}, 0, dialogClass};
+    return {findDialogOfTable(table)};
 }
 
 // clang-format off
 constexpr Subject subjects[] = {
-    {0, "Static Load Cases",           records, Table::STLD, 0, loadCases},
-    {0, "Load Combinations",           group,   {},          0, combinations},
-    {1, "General",                     records, Table::LCOM, 1, combinations},
-    {1, "Steel",                       records, Table::LCOM, 2, combinations},
-    {1, "Concrete",                    records, Table::LCOM, 3, combinations},
-    {1, "Footing",                     records, Table::LCOM, 4, combinations},
-    {1, "SRC",                         records, Table::LCOM, 5, combinations},
-    {0, "Envelopes",                   records, Table::ENVL, 0, modal(2)},
+    {0, "Static Load Cases",           records, Table::STLD, 0, edits("STLD")},
+    {0, "Load Combinations",           group,   {},          0, edits("LCOM")},
+    {1, "General",                     records, Table::LCOM, 1, edits("LCOM")},
+    {1, "Steel",                       records, Table::LCOM, 2, edits("LCOM")},
+    {1, "Concrete",                    records, Table::LCOM, 3, edits("LCOM")},
+    {1, "Footing",                     records, Table::LCOM, 4, edits("LCOM")},
+    {1, "SRC",                         records, Table::LCOM, 5, edits("LCOM")},
+    {0, "Envelopes",                   records, Table::ENVL, 0, edits("ENVL")},
     {0, "Load Case Sets",              group},
-    {1, "Wind Directions",             single,  Table::LCWD, 0, exported("CLoadCaseWindDirectDlg"),  "sets",                "set"},
-    {1, "Orthogonal Effect",           single,  Table::LCOE, 0, exported("CCmdSetOrthoLCDlg"),       "pairs",               "pair"},
-    {1, "Underground Loads",           single,  Table::LCUG, 0, exported("CLoadCaseUndergroundDlg"), "groups",              "group"},
-    {1, "Seismic Factors",             single,  Table::SLCF, 0, exported("CDgnGenSeisFactor"),       "overStrengthFactors", "factor"},
-    {1, "Underground Factors",         single,  Table::SIFT, 0, exported("CUnderSeisFactor"),        "overStrengthFactors", "factor"},
+    {1, "Wind Directions",             single,  Table::LCWD, 0, edits("LCWD"), "sets",                "set"},
+    {1, "Orthogonal Effect",           single,  Table::LCOE, 0, edits("LCOE"), "pairs",               "pair"},
+    {1, "Underground Loads",           single,  Table::LCUG, 0, edits("LCUG"), "groups",              "group"},
+    {1, "Seismic Factors",             single,  Table::SLCF, 0, edits("SLCF"), "overStrengthFactors", "factor"},
+    {1, "Underground Factors",         single,  Table::SIFT, 0, edits("SIFT"), "overStrengthFactors", "factor"},
     {0, "Load Types",                  group},
-    {1, "Line Load Types",             records, Table::LNLD, 0, loadTypes},
-    {1, "Area Load Types",             records, Table::ARLD, 0, loadTypes},
-    {1, "Displacement Interpolations", count,   Table::SPDI, 0, interpolations},
-    {1, "Time History Functions",      records, Table::THFC, 0, modal(11)},
-    {1, "Time History Load Cases",     records, Table::THLD, 0, modal(12)},
+    {1, "Line Load Types",             records, Table::LNLD, 0, edits("LNLD")},
+    {1, "Area Load Types",             records, Table::ARLD, 0, edits("ARLD")},
+    {1, "Displacement Interpolations", count,   Table::SPDI, 0, edits("SPDI")},
+    {1, "Time History Functions",      records, Table::THFC, 0, edits("THFC")},
+    {1, "Time History Load Cases",     records, Table::THLD, 0, edits("THLD")},
     {0, "Properties",                  group},
-    {1, "Materials",                   records, Table::MATL, 0, properties},
-    {1, "Sections",                    records, Table::SECT, 0, properties},
-    {1, "Thicknesses",                 records, Table::THIK, 0, properties},
+    {1, "Materials",                   records, Table::MATL, 0, edits("MATL")},
+    {1, "Sections",                    records, Table::SECT, 0, edits("SECT")},
+    {1, "Thicknesses",                 records, Table::THIK, 0, edits("THIK")},
     {0, "Supports",                    group},
-    {1, "Column Support Types",        records, Table::COSD, 0, supports},
-    {1, "Pile Support Types",          records, Table::PISD, 0, supports},
-    {1, "Wall Support Types",          records, Table::WASD, 0, supports},
-    {1, "Soil Support Types",          records, Table::SOSD, 0, supports},
-    {1, "General Spring Types",        records, Table::GSPD, 0, supports},
+    {1, "Column Support Types",        records, Table::COSD, 0, edits("COSD")},
+    {1, "Pile Support Types",          records, Table::PISD, 0, edits("PISD")},
+    {1, "Wall Support Types",          records, Table::WASD, 0, edits("WASD")},
+    {1, "Soil Support Types",          records, Table::SOSD, 0, edits("SOSD")},
+    {1, "General Spring Types",        records, Table::GSPD, 0, edits("GSPD")},
     {1, "Column Supports",             count,   Table::COSA},
     {1, "Pile Supports",               count,   Table::PISA},
     {1, "Wall Supports",               count,   Table::WASA},
@@ -77,8 +64,8 @@ constexpr Subject subjects[] = {
     {1, "Beams",                       count,   Table::BEAM},
     {1, "Slabs",                       count,   Table::SLAB},
     {1, "Openings",                    count,   Table::OPEN},
-    {1, "Wall Directions",             count,   Table::WDIR, 0, wallDirections},
-    {1, "Domains",                     records, Table::WKAR, 0, domains},
+    {1, "Wall Directions",             count,   Table::WDIR, 0, edits("WDIR")},
+    {1, "Domains",                     records, Table::WKAR, 0, edits("WKAR")},
     {1, "Groups",                      records, Table::GRUP},
     {1, "Grid Lines",                  records, Table::GDLN},
     {0, "Assigned Loads",              group},

@@ -23,10 +23,6 @@ ZEL_DIALOG_NAME(CCMAutoLoadCombDlg)
 
 namespace {
 
-// Factors outside this range are unusual, and warned of.
-constexpr double smallestFactor = 1.0;
-constexpr double greatestFactor = 10.0;
-
 using zel::codes::CombType;
 
 template <class... Names> bool isOneOf(const CString& code, Names... names)
@@ -92,8 +88,7 @@ void CCMAutoLoadCombDlg::SetRules()
     const auto isUnderground = [this] { return selectedType() == CombType::underground || selectedType() == CombType::undergroundSpecial; };
 
     // The underground types take their scale-ups from their own set.
-    scaleUp.enabledWhen([this, isUnderground] { return !CDBLib::IsConCode_SeisLcom(code()) || !isUnderground(); });
-    esLoadCase.enabledWhen([this] { return eccentricity.GetCheck(); });
+    scaleUps.group.enabledWhen([this, isUnderground] { return !CDBLib::IsConCode_SeisLcom(code()) || !isUnderground(); });
 
     group(wind, [this] { return CDBLib::IsConCode_WindLcom(code()); });
     group(orthogonalGroup, [this] { return CDBLib::IsConCode_Ortho(code()); });
@@ -120,11 +115,11 @@ int CCMAutoLoadCombDlg::OnInitDialog()
     fill(serviceFactor, {"1.0", "0.6", "0"});
     horizontalPressureGroup.ShowWindow(false);
     horizontalPressureGroup.EnableWindow(false);
-    scaleUpFactor.SetEditUnit(T_SURS_SF().factor);
+    scaleUps.scaleUpFactor.SetEditUnit(T_SURS_SF().factor);
     alphaH.SetEditUnit(1.0);
-    FillEarthquakeCases();
+    scaleUps.SetComboBox_RS([](const T_STLD_D& loadCase) { return loadCase.type == zel::load_type::earthquake; });
     OnDesignCode();
-    InitListCtrl_RS("IDS_ZEL_CMD_RS_Load_Name");
+    scaleUps.InitListCtrl_RS();
     ReadScaleUps();
     return 1;
 }
@@ -139,15 +134,6 @@ void CCMAutoLoadCombDlg::FillDesignCodes()
     loadCode.ShowWindow(false);
 }
 
-void CCMAutoLoadCombDlg::FillEarthquakeCases()
-{
-    for (CComboBox* combo : {&rsLoadCase, &esLoadCase}) {
-        combo->ResetContent();
-        zel::addLoadCases(*combo, [](const T_STLD_D& loadCase) { return loadCase.type == zel::load_type::earthquake; });
-        combo->SetCurSel(combo->GetCount() > 0 ? 0 : -1);
-    }
-}
-
 /// What is remembered goes the way of Add, and there without the test of pairs, since eccentricity is off. A case that has been deleted
 /// since is forgotten.
 void CCMAutoLoadCombDlg::ReadScaleUps()
@@ -158,7 +144,7 @@ void CCMAutoLoadCombDlg::ReadScaleUps()
     const auto existing = [](zel::Key key) { return CDataStld().Exist(key) != 0 ? key : 0; };
     for (const T_SURS_SF& stored : record.scaleFactors) {
         if (existing(stored.loadCaseKey) != 0)
-            AddScaleUp({stored.factor, stored.loadCaseKey, existing(stored.eccentricKey)});
+            scaleUps.AddDataToScList(stored.factor, stored.loadCaseKey, existing(stored.eccentricKey));
     }
 }
 
@@ -168,103 +154,11 @@ bool CCMAutoLoadCombDlg::hasVerticalPressure() const
     return entry != nullptr && zel::codes::takesAlphaH(*entry->table);
 }
 
-zel::Key CCMAutoLoadCombDlg::eccentricCase() const
-{
-    return eccentricity.GetCheck() ? static_cast<zel::Key>(esLoadCase.selectedData()) : 0;
-}
-
 void CCMAutoLoadCombDlg::OnDesignCode()
 {
     orthogonal.SetCheck(false);
     combType.SetSel(0);
     formChanged();  // groups come and go by their rules
-}
-
-// Scale-up of response spectrum load cases
-
-bool CCMAutoLoadCombDlg::CheckSameCase() const
-{
-    if (responseCase() == 0 || responseCase() != eccentricCase())
-        return true;
-    zel::showMessage("IDS_ZEL_CMD__Error_SAME_LC_SELECTED");
-    return false;
-}
-
-bool CCMAutoLoadCombDlg::ReadFactor(double& factor) const
-{
-    const bool isNumber = scaleUpFactor.GetEditValue(factor) != 0;
-    if (!isNumber || factor < smallestFactor || factor > greatestFactor)
-        zel::showMessage("IDS_ZEL_CMD__Warning___Check_Scale_Up_Factor_____n_");
-    return isNumber;
-}
-
-void CCMAutoLoadCombDlg::AddScaleUp(const T_LCUG_SF& entry)
-{
-    if (eccentricity.GetCheck() && IsInPair(entry.loadCaseKey, entry.eccentricKey, 0)) {
-        zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Exist_Eccentric_Data____");
-        return;
-    }
-    StoreScaleUp(entry);
-}
-
-void CCMAutoLoadCombDlg::OnAdd()
-{
-    double factor = 0.0;
-    if (!CheckSameCase() || !ReadFactor(factor))
-        return;
-    if (responseCase() == 0) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Not_Selected_Earthquake_Load_C");
-        return;
-    }
-    AddScaleUp({factor, responseCase(), eccentricCase()});
-}
-
-void CCMAutoLoadCombDlg::OnModify()
-{
-    if (!CheckSameCase())
-        return;
-    const int row = list.GetFirstSelected();
-    const T_LCUG_SF* selected = ScaleUpAt(row);
-    if (selected == nullptr) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Not_Selected_Data____");
-        return;
-    }
-    double factor = 0.0;
-    if (!ReadFactor(factor))
-        return;
-    if (responseCase() == 0) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Check_Load_Case____");
-        return;
-    }
-    if (IsInPair(responseCase(), eccentricCase(), selected->loadCaseKey)) {
-        zel::showMessage("IDS_ZEL_CMD__ADDD__Error___Exist_Eccentric_Data____");
-        return;
-    }
-    ReplaceScaleUp(row, {factor, responseCase(), eccentricCase()});
-}
-
-void CCMAutoLoadCombDlg::OnDelete()
-{
-    const int row = list.GetFirstSelected();
-    if (row < 0) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Not_Selected_Data____");
-        return;
-    }
-    RemoveScaleUp(row);
-    OnChangedCurrentItem();  // so that Modify does not put the deleted entry into the row that is selected now
-}
-
-/// A row with a case of accidental eccentricity switches that on, or Modify would lose it.
-void CCMAutoLoadCombDlg::OnChangedCurrentItem()
-{
-    const T_LCUG_SF* selected = ScaleUpAt(list.GetFirstSelected());
-    if (selected == nullptr)
-        return;
-    scaleUpFactor.SetEditUnit(selected->factor);
-    rsLoadCase.SetCurSel(rsLoadCase.FindData(selected->loadCaseKey));
-    esLoadCase.SetCurSel(selected->eccentricKey != 0 ? esLoadCase.FindData(selected->eccentricKey) : -1);
-    if (selected->eccentricKey != 0)
-        eccentricity.SetCheck(true);
 }
 
 void CCMAutoLoadCombDlg::OnAlphaH()
@@ -295,7 +189,7 @@ void CCMAutoLoadCombDlg::OnOK()
     if (document->endChange(1) == 0)  // what is written stays, whatever failed behind it, unless the file did not take it
         return;
     if (ready)
-        ClearScaleUps();  // of what has run nothing is left for a second run
+        scaleUps.ClearScaleUps();  // of what has run nothing is left for a second run
     if (generated)
         EndDialog(IDOK);
 }
@@ -303,13 +197,8 @@ void CCMAutoLoadCombDlg::OnOK()
 bool CCMAutoLoadCombDlg::StoreScaleUps() const
 {
     T_SURS_D record;
-    std::vector<zel::Key> keys;
-    CDataStld().GetKeyList(keys);
-    for (const zel::Key key : keys) {
-        const auto factor = m_factors.find(key);
-        if (factor != m_factors.end())
-            record.scaleFactors.push_back({key, factor->second, m_eccentricKeys.at(key)});
-    }
+    for (const T_LCUG_SF& entry : scaleUps.ScaleUps())
+        record.scaleFactors.push_back({entry.loadCaseKey, entry.factor, entry.eccentricKey});
     return record.scaleFactors.empty() || CDataSurs().Add(record) != 0;
 }
 
@@ -326,8 +215,8 @@ bool CCMAutoLoadCombDlg::Generate(double alpha) const
 {
     CLoadCombCtrl control;
     control.SetKind(m_kind);
-    control.SetScaleFactors(m_factors);
-    control.SetEccentricCases(m_eccentricKeys);
+    control.SetScaleFactors(scaleUps.factors());
+    control.SetEccentricCases(scaleUps.eccentricKeys());
     control.SetOrthoOption(orthogonal.GetCheck() ? 1 : 0);
     control.SetCombType(selectedType());
     control.SetAlphaH(alpha);

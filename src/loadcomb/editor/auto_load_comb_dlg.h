@@ -7,7 +7,7 @@
 
 /// Select Default Load Combination: the options of a generation of load combinations, the scale-up factors of response spectrum
 /// load cases, which are remembered in the model, and the ways to the sets that the generator reads. OK generates.
-class CCMAutoLoadCombDlg final : public CDlgMove, private zel::ScaleUpForm {
+class CCMAutoLoadCombDlg final : public CDlgMove {
 public:
     /// @param kind  design kind of the combinations: 1 general, 2 steel, 3 concrete, 4 footing, 5 SRC
     explicit CCMAutoLoadCombDlg(int kind, CWnd* parent = nullptr);
@@ -17,30 +17,15 @@ private:
     int OnInitDialog() override;
     void SetRules();
     void FillDesignCodes();
-    void FillEarthquakeCases();
     void ReadScaleUps();
-    CListCtrl& ScaleUpList() override { return list; }
 
     // What is chosen.
     [[nodiscard]] CString code() const { return designCode.GetWindowText(); }
     /// The radios stand in the order of the types.
     [[nodiscard]] zel::codes::CombType selectedType() const { return static_cast<zel::codes::CombType>(combType.GetSel()); }
     [[nodiscard]] bool hasVerticalPressure() const;
-    [[nodiscard]] zel::Key responseCase() const { return static_cast<zel::Key>(rsLoadCase.selectedData()); }
-    /// 0 without accidental eccentricity.
-    [[nodiscard]] zel::Key eccentricCase() const;
 
     void OnDesignCode();
-
-    // Scale-up of response spectrum load cases.
-    [[nodiscard]] bool CheckSameCase() const;
-    /// Reads the factor and warns of one out of range, which counts all the same. False if the field holds no number.
-    [[nodiscard]] bool ReadFactor(double& factor) const;
-    void AddScaleUp(const T_LCUG_SF& entry);
-    void OnAdd();
-    void OnModify();
-    void OnDelete();
-    void OnChangedCurrentItem();
 
     void OnAlphaH();
 
@@ -56,16 +41,10 @@ private:
     CComboBox designCode{*this, "designCode", "Design Code :", &CCMAutoLoadCombDlg::OnDesignCode};
     CComboBox loadCode{*this, "loadCode", "Load Code :"};  // hidden for every code
 
-    CGroup scaleUp{*this, "Scale Up of Response Spectrum Load Cases"};
-    CEditUnit scaleUpFactor{scaleUp, "scaleUpFactor", "Scale Up Factor :"};
-    CComboBox rsLoadCase{scaleUp, "rsLoadCase", "RS Load Case :"};
-    CCheckBox eccentricity{scaleUp, "eccentricity", "Consider Accidental Eccentricity"};
-    CComboBox esLoadCase{scaleUp, "esLoadCase", "ES Load Case :"};
-    CListCtrl list{scaleUp, "list", &CCMAutoLoadCombDlg::OnChangedCurrentItem};
-    CButtonRow buttons{scaleUp};
-    CButton add{buttons, "add", "Add", &CCMAutoLoadCombDlg::OnAdd};
-    CButton modify{buttons, "modify", "Modify", &CCMAutoLoadCombDlg::OnModify};
-    CButton del{buttons, "del", "Delete", &CCMAutoLoadCombDlg::OnDelete};
+    zel::ScaleUpForm scaleUps{
+        *this,
+        {.group = "Scale Up of Response Spectrum Load Cases", .caseId = "rsLoadCase", .caseLabel = "RS Load Case :", .caseTitle = "IDS_ZEL_CMD_RS_Load_Name"},
+        {.refusesOddFactors = false, .testsPairsByTheBox = true, .keepsRefusedFactors = false, .rowsTickTheBox = true, .deletionShowsNext = true}};
 
     CGroup wind{*this, "Wind Direction"};
     CButton windSets{wind, "windSets", "Set Load Cases for Wind Direction..."};

@@ -9,34 +9,25 @@
 
 ZEL_DIALOG_NAME(CCMEnvlItemDlg)
 
-CCMEnvlItemDlg::CCMEnvlItemDlg(CWnd* parent) : CDlgMove(31004, "Define Envelope", parent)
+CCMEnvlItemDlg::CCMEnvlItemDlg(CWnd* parent) : CItemDialog(31004, "Define Envelope", parent)
 {
     SetDefButton(ok);
 }
 
 CCMEnvlItemDlg::~CCMEnvlItemDlg() = default;
 
-void CCMEnvlItemDlg::SetModifyData(const T_ENVL_D& envelope)
-{
-    m_record = envelope;
-    m_oldName = envelope.name;
-    m_modify = true;
-}
-
 int CCMEnvlItemDlg::OnInitDialog()
 {
-    CDlgMove::OnInitDialog();
+    CItemDialog::OnInitDialog();
     for (CListCtrl* list : {&candidates, &selected}) {
         list->DeleteAllColumns();
         list->AddColumn(zel::loadText("IDS_ZEL_CMD__Load_Case"), 110);
         list->AddColumn(zel::loadText("IDS_ZEL_CMD__Type"), 50);
     }
-    name.SetWindowText(m_record.name);
-    description.SetWindowText(m_record.description);
     m_candidates.clear();
     for (const T_ENVL_BASE& item : zel::loadcomb::envelopeCandidates())
         m_candidates.push_back({item, false});
-    for (const T_ENVL_BASE& item : m_record.items) {
+    for (const T_ENVL_BASE& item : m_record.edited.items) {
         const auto found = std::ranges::find(m_candidates, item, &Candidate::item);
         if (found != m_candidates.end())
             found->selected = true;
@@ -67,40 +58,22 @@ void CCMEnvlItemDlg::Move(CListCtrl& from, bool select)
     MakeItemEx();
 }
 
-bool CCMEnvlItemDlg::Save()
+bool CCMEnvlItemDlg::Dlg2Data()
 {
-    m_record.name = name.GetWindowText();
-    if (m_record.name.empty()) {  // a name of blanks is a name
-        zel::showMessage("IDS_ZEL_CMD__Error___Name_has_not_been_input_");
+    if (!CItemDialog::Dlg2Data())
         return false;
-    }
-    m_record.description = description.GetWindowText();
-    m_record.items.clear();
+    m_record.edited.items.clear();
     for (const Candidate& candidate : m_candidates) {
         if (candidate.selected)
-            m_record.items.push_back(candidate.item);
+            m_record.edited.items.push_back(candidate.item);
     }
-    if (m_record.items.empty()) {
-        zel::showMessage("IDS_ZEL_CMD__Error___No_selected_loadcase_");
-        return false;
-    }
-    CDataEnvl envelopes;
-    envelopes.currentRecord = m_record;
-    if (!m_modify)
-        return envelopes.Add(m_record) != 0;
-    if (envelopes.Modify(m_oldName) == 0)
-        return false;
-    m_oldName = m_record.name;  // a second Apply modifies it under its new name
     return true;
 }
 
-void CCMEnvlItemDlg::OnOK()
+bool CCMEnvlItemDlg::ValidItem(const T_ENVL_D& envelope)
 {
-    if (Save())
-        CDlgMove::OnOK();
-}
-
-void CCMEnvlItemDlg::OnApply()
-{
-    Save();
+    if (!envelope.items.empty())
+        return true;
+    zel::showMessage("IDS_ZEL_CMD__Error___No_selected_loadcase_");
+    return false;
 }

@@ -1,34 +1,31 @@
 #pragma once
 
-#include "contract/forms/forms.h"
-#include "contract/records/envl.h"
+#include "command/item_dialog.h"
+#include "contract/tables/envelope_table.h"
 
 #include <vector>
 
 /// Define Envelope: chooses what an envelope is made of. Both tables keep the order of their sources.
-class CCMEnvlItemDlg final : public CDlgMove {
+class CCMEnvlItemDlg final : public CItemDialog<CDataEnvl> {
 public:
     explicit CCMEnvlItemDlg(CWnd* parent = nullptr);
     ~CCMEnvlItemDlg() override;
-
-    /// Opens on an envelope that is to be modified. Without it, OK adds a new one.
-    void SetModifyData(const T_ENVL_D& envelope);
 
 private:
     int OnInitDialog() override;
     void MakeItemEx();
     void Move(CListCtrl& from, bool select);
-    bool Save();
-    void OnOK() override;
-    void OnApply();
+    bool Dlg2Data() override;
+    bool ValidItem(const T_ENVL_D& envelope) override;
+    void ReadyForNext() override {}  // Apply leaves the form as it stands
 
     struct Candidate {
         T_ENVL_BASE item;
         bool selected = false;
     };
 
-    CEdit name{*this, "name", "Envelope Name : "};
-    CEdit description{*this, "description", "Description        : "};
+    CEdit name{*this, "name", "Envelope Name : ", {&T_ENVL_D::name, zel::required, "IDS_ZEL_CMD__Error___Name_has_not_been_input_"}};
+    CEdit description{*this, "description", "Description        : ", &T_ENVL_D::description};
     CGroup candidateGroup{*this, "Load Case && Combination List"};
     CListCtrl candidates{candidateGroup, "candidates", {}, CListCtrl::Selection::multiple};
     CButtonRow moveButtons{*this};
@@ -42,7 +39,4 @@ private:
     CButton apply{buttons, "apply", "&Apply", &CCMEnvlItemDlg::OnApply};
 
     std::vector<Candidate> m_candidates;  ///< everything that can be enveloped, and the items of the envelope that no longer exist
-    T_ENVL_D m_record;
-    CString m_oldName;
-    bool m_modify = false;
 };

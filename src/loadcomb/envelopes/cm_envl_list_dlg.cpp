@@ -80,7 +80,7 @@ void CCMEnvlListDlg::OnModify()
     if (!GetSelectedItem(envelope))
         return;
     CCMEnvlItemDlg dialog(this);
-    dialog.SetModifyData(envelope);
+    dialog.openToModify(0, envelope);
     dialog.DoModal();
 }
 

@@ -1,7 +1,9 @@
 #include "loadcomb/envelopes/cm_load_mllc_dlg.h"
 
 #include "command/dialog_class.h"
+#include "command/load_cases.h"
 #include "command/messages.h"
+#include "command/record_fields.h"
 #include "command/view_buffer.h"
 #include "contract/tables/static_load_case_table.h"
 
@@ -40,11 +42,7 @@ void CCMLoadMLLCDlg::FillLoadCases()
 {
     const auto selected = static_cast<zel::Key>(loadCase.selectedData());
     loadCase.ResetContent();
-    std::vector<zel::Key> keys;
-    const CDataStld cases;
-    cases.GetKeyList(keys);
-    for (const zel::Key key : keys)
-        loadCase.AddString(cases.GetNameByKey(key), key);
+    zel::addLoadCases(loadCase, [](const T_STLD_D& /*each*/) { return true; });
     loadCase.SetCurSel(selected != 0 ? loadCase.FindData(selected) : -1);
 }
 
@@ -86,11 +84,7 @@ void CCMLoadMLLCDlg::OnApply()
         return;
     }
     T_LOAD_ATTR attributes;
-    attributes.selfWeight = selfWeight.GetCheck() ? 1 : 0;
-    attributes.pointLoad = pointLoad.GetCheck() ? 1 : 0;
-    attributes.specifiedDisplacement = specifiedDisplacement.GetCheck() ? 1 : 0;
-    attributes.lineLoad = lineLoad.GetCheck() ? 1 : 0;
-    attributes.areaLoad = areaLoad.GetCheck() ? 1 : 0;
+    zel::readFields(*this, attributes);
 
     m_suspended = true;
     const auto target = static_cast<zel::Key>(loadCase.selectedData());
@@ -103,8 +97,8 @@ void CCMLoadMLLCDlg::OnApply()
 
 void CCMLoadMLLCDlg::CheckAll(bool check)
 {
-    for (CCheckBox* each : {&selfWeight, &pointLoad, &specifiedDisplacement, &lineLoad, &areaLoad})
-        each->SetCheck(check);
+    const int each = check ? 1 : 0;
+    zel::showFields(*this, T_LOAD_ATTR{each, each, each, each, each});
 }
 
 void CCMLoadMLLCDlg::UpdateBuffer(const CViewBuff& buffer)

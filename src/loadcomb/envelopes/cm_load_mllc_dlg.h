@@ -40,11 +40,11 @@ private:
     CComboBox loadCase{loadCaseRow, "loadCase", "Load Case           :"};
     CButton loadCaseButton{loadCaseRow, "loadCaseButton", "...", [] { zel::sendHostCommand(32869); }};
     CCheckBox deleteCurrentLoads{*this, "deleteCurrentLoads", "Delete Current Loads in the Selected Load Case"};
-    CCheckBox selfWeight{*this, "selfWeight", "Self Weight"};
-    CCheckBox pointLoad{*this, "pointLoad", "Point Load"};
-    CCheckBox specifiedDisplacement{*this, "specifiedDisplacement", "Specified Displacement"};
-    CCheckBox lineLoad{*this, "lineLoad", "Line Load"};
-    CCheckBox areaLoad{*this, "areaLoad", "Area Load"};
+    CCheckBox selfWeight{*this, "selfWeight", "Self Weight", &T_LOAD_ATTR::selfWeight};
+    CCheckBox pointLoad{*this, "pointLoad", "Point Load", &T_LOAD_ATTR::pointLoad};
+    CCheckBox specifiedDisplacement{*this, "specifiedDisplacement", "Specified Displacement", &T_LOAD_ATTR::specifiedDisplacement};
+    CCheckBox lineLoad{*this, "lineLoad", "Line Load", &T_LOAD_ATTR::lineLoad};
+    CCheckBox areaLoad{*this, "areaLoad", "Area Load", &T_LOAD_ATTR::areaLoad};
     CButtonRow checkButtons{*this};
     CButton checkAll{checkButtons, "checkAll", "Check All", [this] { CheckAll(true); }};
     CButton checkNone{checkButtons, "checkNone", "Check None", [this] { CheckAll(false); }};

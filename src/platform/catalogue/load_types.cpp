@@ -1,12 +1,12 @@
-#include "platform/catalogue/load_types.h"
+#include "contract/load_db.h"
 
 #include "contract/load_types.h"
 
 #include <string_view>
 
-namespace zel {
-
 namespace {
+
+namespace load_type = zel::load_type;
 
 struct LoadType {
     std::string_view code;
@@ -41,14 +41,14 @@ CString displayName(const LoadType& type)
 
 }  // namespace
 
-void LoadTypes::GetLoadTypeList(CArray<CString, CString&>* types) const
+void CLoadDB::GetLoadTypeList(CArray<CString, CString&>* types) const
 {
     types->clear();
     for (const LoadType& type : loadTypes)
         types->emplace_back(type.code);
 }
 
-CString LoadTypes::GetLoadTypeName(const CString& type) const
+CString CLoadDB::GetLoadTypeName(const CString& type) const
 {
     for (const LoadType& row : loadTypes) {
         if (row.code == type)
@@ -57,7 +57,7 @@ CString LoadTypes::GetLoadTypeName(const CString& type) const
     return {};
 }
 
-CString LoadTypes::GetLoadType(const CString& name) const
+CString CLoadDB::GetLoadType(const CString& name) const
 {
     for (const LoadType& row : loadTypes) {
         if (displayName(row) == name)
@@ -65,5 +65,3 @@ CString LoadTypes::GetLoadType(const CString& name) const
     }
     return {};
 }
-
-}  // namespace zel
