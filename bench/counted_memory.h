@@ -6,7 +6,8 @@
 #include <malloc.h>
 #include <new>
 
-// Counts the allocations of the program. It replaces the global operators: include it in one file of a program.
+// Counts the allocations of the program. It replaces the global operators: include it in one file of a program. They are not inlined: a
+// compiler that saw malloc behind one `new` and not behind the next would warn of mismatched pairs.
 
 namespace zel::bench {
 
@@ -20,7 +21,7 @@ inline MemoryCount memory;
 
 }  // namespace zel::bench
 
-void* operator new(std::size_t size)
+[[gnu::noinline]] void* operator new(std::size_t size)
 {
     void* const taken = std::malloc(size == 0 ? 1 : size);
     if (taken == nullptr)
@@ -33,7 +34,7 @@ void* operator new(std::size_t size)
     return taken;
 }
 
-void* operator new(std::size_t size, const std::nothrow_t& /*nothrow*/) noexcept
+[[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t& /*nothrow*/) noexcept
 {
     try {
         return operator new(size);
@@ -42,7 +43,7 @@ void* operator new(std::size_t size, const std::nothrow_t& /*nothrow*/) noexcept
     }
 }
 
-void operator delete(void* given) noexcept
+[[gnu::noinline]] void operator delete(void* given) noexcept
 {
     using zel::bench::memory;
     if (memory.on)
@@ -50,7 +51,7 @@ void operator delete(void* given) noexcept
     std::free(given);
 }
 
-void operator delete(void* given, std::size_t) noexcept
+[[gnu::noinline]] void operator delete(void* given, std::size_t) noexcept
 {
     operator delete(given);
 }

@@ -53,7 +53,7 @@ function(zel_example name)
     target_link_libraries(${name}_example PRIVATE ${arg_USES})
 endfunction()
 
-# One program for each file <folder>/<prefix>*.cpp. WITH: further sources of each.
+# One program for each file <folder>/<prefix>*.cpp; the global property zel_programs_<prefix> names them all. WITH: further sources of each.
 function(zel_programs folder prefix)
     cmake_parse_arguments(arg "" "" "USES;OPTIONS;WITH" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${folder}/${prefix}*.cpp")
@@ -63,6 +63,7 @@ function(zel_programs folder prefix)
         target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/src")
         target_link_libraries(${name} PRIVATE ${arg_USES})
         target_link_options(${name} PRIVATE ${arg_OPTIONS})
+        set_property(GLOBAL APPEND PROPERTY "zel_programs_${prefix}" ${name})
     endforeach()
 endfunction()
 

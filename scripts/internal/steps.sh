@@ -20,12 +20,18 @@ step() {
     exit 1
 }
 
-# build PRESET [TARGET...]: configures and builds into build/PRESET.
+# build PRESET [TARGET...]: configures and builds into build/PRESET. With ZEL_WERROR=ON in the environment warnings are errors.
 build() {
     local preset=$1
     shift
-    step "configure $preset" cmake --preset "$preset"
+    step "configure $preset" cmake --preset "$preset" ${ZEL_WERROR:+-DZEL_WERROR="$ZEL_WERROR"}
     local targets=()
     [ $# -gt 0 ] && targets=(--target "$@")
     step "build $preset" cmake --build --preset "$preset" ${targets[@]+"${targets[@]}"}
+}
+
+# run_tests PRESET: runs the tests of build/PRESET and prints ctest's summary.
+run_tests() {
+    step "test $1" ctest --preset "$1" --timeout 300
+    sed -n '/^[0-9]*% tests passed/,$p' "$logs/test-$1.log"
 }
