@@ -46,6 +46,8 @@ const Layer layers[] = {
     {"src/platform/catalogue/", {"contract/", "platform/catalogue/"}, {}},
     {"src/platform/forms/", {"contract/", "platform/"}, {}},
     {"src/platform/modeldb/", {"contract/", "platform/"}, {"sqlite3.h", "xxhash.h", "nlohmann/"}},
+    {"src/platform/sections/", {"contract/", "platform/sections/"}, {"Eigen/"}},
+    {"src/platform/springs/", {"contract/", "platform/springs/"}, {}},
     {"src/platform/os/", {"contract/", "platform/os/"}, {""}},  // any system header: this is their place
     {"src/journal/", with(commandLibrary, {"platform/", "journal/"}), {"nlohmann/"}},
     {"src/cli/", with(commandLibrary, {"platform/", "journal/", "cli/"}), {"CLI/", "nlohmann/"}},
