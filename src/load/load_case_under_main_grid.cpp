@@ -16,9 +16,6 @@ constexpr int noColumn = 0;
 constexpr int loadCaseColumn = 1;
 constexpr int directionColumn = 2;
 
-constexpr int plus = 0;
-constexpr int minus = 1;
-
 std::vector<CString> namesOfEarthquakes()
 {
     std::vector<T_STLD_D> records;
@@ -47,18 +44,18 @@ void CLoadCaseUnderMainGrid::Initialize()
     SetColDisabled(noColumn);
     SetColAlign(noColumn, zel::GridAlign::right);
     SetColChoices(loadCaseColumn, namesOfEarthquakes());
-    SetColChoices(directionColumn, {GetDirTitle(plus), GetDirTitle(minus)});
+    SetColChoices(directionColumn, {GetDirTitle(zel::plusDirection), GetDirTitle(zel::minusDirection)});
     CTBCommon::Initialize();
 }
 
 CString CLoadCaseUnderMainGrid::GetDirTitle(int direction)
 {
-    return zel::loadText(direction == minus ? "IDS_ZEL_CMD_MINUS" : "IDS_ZEL_CMD_PLUS");
+    return zel::loadText(direction == zel::minusDirection ? "IDS_ZEL_CMD_MINUS" : "IDS_ZEL_CMD_PLUS");
 }
 
 int CLoadCaseUnderMainGrid::GetDirByTitle(const CString& title)
 {
-    return title == GetDirTitle(minus) ? minus : plus;
+    return title == GetDirTitle(zel::minusDirection) ? zel::minusDirection : zel::plusDirection;
 }
 
 T_LCUG_SEIS* CLoadCaseUnderMainGrid::GroupOf(int row)

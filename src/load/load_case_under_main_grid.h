@@ -6,6 +6,13 @@
 
 class CLoadCaseUndergroundDlg;
 
+namespace zel {
+
+/// Direction of a seismic case in a group, as records hold it.
+enum SeismicDirection : int { plusDirection = 0, minusDirection = 1 };
+
+}  // namespace zel
+
 /// Seismic load cases, each in one direction, with the earth pressures that act with it. The grid holds the rows and writes
 /// nothing by itself; the earth pressures of the current row stand in the check lists beside it.
 class CLoadCaseUnderMainGrid final : public CTBCommon {

@@ -65,7 +65,7 @@ void CLoadCaseUndergroundDlg::ReadRecord()
     for (std::size_t i = 0; i < keys.size() && proposed < proposedCases; ++i) {
         if (records[i].type != zel::load_type::earthquake)
             continue;
-        for (const int direction : {0, 1})
+        for (const int direction : {zel::plusDirection, zel::minusDirection})
             m_record.groups.push_back({keys[i], direction, {}, {}});
         ++proposed;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "command/load_cases.h"
 #include "command/model_listener.h"
 #include "contract/export.h"
 #include "contract/forms/forms.h"
@@ -18,6 +19,8 @@ private:
     int OnInitDialog() override;
     void OnOK() override { OnApply(); }
 
+    static constexpr unsigned openLoadCombinations = 32894;  ///< the host's command that opens Load Combinations
+
     /// Where a line of the combination list leads.
     struct Combination {
         int kind = 0;
@@ -35,10 +38,10 @@ private:
 
     CRow combinationRow{*this};
     CComboBox loadCombination{combinationRow, "loadCombination", "Load Combination :"};
-    CButton loadCombinationButton{combinationRow, "loadCombinationButton", "...", [] { zel::sendHostCommand(32894); }};
+    CButton loadCombinationButton{combinationRow, "loadCombinationButton", "...", [] { zel::sendHostCommand(openLoadCombinations); }};
     CRow loadCaseRow{*this};
     CComboBox loadCase{loadCaseRow, "loadCase", "Load Case           :"};
-    CButton loadCaseButton{loadCaseRow, "loadCaseButton", "...", [] { zel::sendHostCommand(32869); }};
+    CButton loadCaseButton{loadCaseRow, "loadCaseButton", "...", [] { zel::sendHostCommand(zel::openStaticLoadCases); }};
     CCheckBox deleteCurrentLoads{*this, "deleteCurrentLoads", "Delete Current Loads in the Selected Load Case"};
     CCheckBox selfWeight{*this, "selfWeight", "Self Weight", &T_LOAD_ATTR::selfWeight};
     CCheckBox pointLoad{*this, "pointLoad", "Point Load", &T_LOAD_ATTR::pointLoad};
