@@ -231,4 +231,33 @@ TEST(OverstrengthFactors, StandBehindTheScaleFactorOfOrthogonalMembers)
               "1 | DL 0.9, EX 2, EXT 2, EY 1.2 | 0.9D + 1.0(1.0(1.00)(2.00)[EX+EXT]+0.3(1.00)(4.00)EY)");
 }
 
+/// The rows of a run share what is the same for them; a row that meets other numbers than the row before it shows them.
+TEST(OrthogonalPairs, FollowWhatHasChangedSinceTheRowBefore)
+{
+    Earthquakes some;
+    some.orthogonal().eccentric("EX", "EXT").eccentric("EY", "EYT").scale("EX", 1.5);
+    some.options.combType = zel::codes::CombType::special;
+    zel::loadcomb::Generator generator(some.of, some.options);
+    generator.readOrthogonalPairs();
+    zel::loadcomb::ExpansionState& state = generator.state();
+    state.overstrength[key(some.of, "EX")] = 2.0;
+    const auto expectFirst = [&](int flag, std::size_t count, const char* line) {
+        generator.start(0, 0);
+        const Lines lines = generated::add(generator, some.of, flag, "EL", {{"EL", 1.0}});
+        EXPECT_EQ(lines.size(), count);
+        EXPECT_EQ(lines.front(), line);
+    };
+    expectFirst(1, 16, "1 | EX 3, EXT 3, EY 0.3, EYT 0.3 | (1.0(1.50)(2.00)[EX+EXT]+0.3(1.00)(1.00)[EY+EYT])");
+    expectFirst(0, 16, "0 | EX 1.5, EXT 1.5, EY 0.3, EYT 0.3 | (1.0(1.50)[EX+EXT]+0.3(1.00)[EY+EYT])");
+    expectFirst(1, 16, "1 | EX 3, EXT 3, EY 0.3, EYT 0.3 | (1.0(1.50)(2.00)[EX+EXT]+0.3(1.00)(1.00)[EY+EYT])");
+    state.overstrength[key(some.of, "EX")] = 4.0;
+    expectFirst(1, 16, "1 | EX 6, EXT 6, EY 0.3, EYT 0.3 | (1.0(1.50)(4.00)[EX+EXT]+0.3(1.00)(1.00)[EY+EYT])");
+    state.scaleFactors[key(some.of, "EX")] = 1.25;
+    expectFirst(1, 16, "1 | EX 5, EXT 5, EY 0.3, EYT 0.3 | (1.0(1.25)(4.00)[EX+EXT]+0.3(1.00)(1.00)[EY+EYT])");
+    state.eccentricCases[key(some.of, "EX")] = key(some.of, "EYT");
+    expectFirst(1, 16, "1 | EX 5, EYT 5, EY 0.3, EYT 0.3 | (1.0(1.25)(4.00)[EX+EYT]+0.3(1.00)(1.00)[EY+EYT])");
+    state.orthoPairs.erase(key(some.of, "EX"));
+    expectFirst(1, 8, "1 | EY 1, EYT 1, EX 1.5, EYT 1.5 | (1.0(1.00)(1.00)[EY+EYT]+0.3(1.25)(4.00)[EX+EYT])");
+}
+
 }  // namespace
