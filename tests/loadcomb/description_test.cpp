@@ -86,6 +86,9 @@ constexpr Rewriting wholeRewritings[] = {
     {"nothing of it",                 "1.0WX + 1.0EX",                          "1.0WX + 1.0EX"},
     {"negative vertical force",       "-(-0.2)DL + 1.0EX",                      "-(-0.2)D + 1.0EX"},
     {"only WP of two levels",         "1.6((WP))",                              "1.6WP"},
+    {"every group name that is shortened", "1.0DL + 1.6LL + 0.5SL + 0.2RL + 0.1TL", "1.0D + 1.6L + 0.5S + 0.2R + 0.1T"},
+    {"no other letter before an L",   "1.0WL + 1.0EL + 1.0AL + L",              "1.0WL + 1.0EL + 1.0AL + L"},
+    {"names inside names",            "1.0DLL + 1.0RSL + 1.0TLL",               "1.0DL + 1.0RS + 1.0T"},
     {"wind by one short name",        "0.9(DL+) + 1.3(WX)",                     "0.9D + 1.3WX"},
     {"wind by a long name",           "0.9(DL+) + 1.3(WEST)",                   "0.9D + 1.3(WEST)"},
 };

@@ -183,6 +183,14 @@ TEST(UndergroundExtras, HaveRatioOneWithoutLiveLoad)
               (Lines{"1 | DL 0.9, EX 0.7, S1 0.7, S2 0.7, P1 0.7 | 0.9D + 0.7EX + 0.7S1 + 0.7S2 + 0.7P1"}));
 }
 
+TEST(UndergroundExtras, TakeTheRatioOfSmallFactorsToo)
+{
+    // a = 0.125, b = 0.5: ratio 0.25.
+    EXPECT_EQ(undergroundRow(basement(), 1, "0.9DL + 0.5(SUF)EL + 0.125LL", {{"DL", 0.9}, {"EL", 0.5}, {"LL", 0.125}}), (Lines{
+        "1 | DL 0.9, EX 0.5, LL 0.125, S1 0.125, S2 0.125, P1 0.5 | 0.9D + 0.5EX + 0.125L + 0.125S1 + 0.125S2 + 0.5P1",
+    }));
+}
+
 TEST(UndergroundExtras, ComeInServiceRowsToo)
 {
     EXPECT_EQ(undergroundRow(basement(), 0, "DL - 0.7(SUF)EL", {{"DL", 1.0}, {"EL", -0.7}}), (Lines{"0 | DL 1, EX -0.7, S2 0.7 | D - 0.7EX + 0.7S2"}));

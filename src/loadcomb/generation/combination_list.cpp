@@ -37,11 +37,8 @@ std::uint32_t hashOf(const T_LCOM_D& record)
 std::int64_t leadingInteger(std::string_view text)
 {
     text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
-    if (!text.empty() && text.front() == '+') {
+    if (text.starts_with('+'))
         text.remove_prefix(1);
-        if (!text.empty() && text.front() == '-')
-            return 0;
-    }
     std::int64_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error == std::errc::result_out_of_range)

@@ -304,7 +304,7 @@ void Generator::appendExtras(T_LCOM_D& record) const
 {
     for (const T_LCOM_ITEM& item : m_state.extraItems.at(record.number)) {
         record.items.push_back(item);
-        record.description.append(" + ").append(item.factor < 0.0 ? "-" : "").append(generalText(std::abs(item.factor))).append(m_state.names.at(item.key));
+        record.description.append(" + ").append(generalText(item.factor)).append(m_state.names.at(item.key));  // no factor of them is below 0
     }
 }
 
