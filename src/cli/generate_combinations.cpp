@@ -114,7 +114,8 @@ int generateCombinations(const GenerateCombinations& job)
     if (!job.explain.empty() || job.whyNot)
         control.Trace();
     const int before = job.replace ? 0 : CDataLcom().GetCount(job.kind);
-    const bool ok = control.Generate(job.replace ? 1 : 0, job.code, job.dryRun ? CLoadCombCtrl::Storing::dryRun : CLoadCombCtrl::Storing::storeAndKeep) != 0;
+    const bool ok = control.Generate(job.replace ? CLoadCombCtrl::replaceMode : CLoadCombCtrl::addMode, job.code,
+                                     job.dryRun ? CLoadCombCtrl::Storing::dryRun : CLoadCombCtrl::Storing::storeAndKeep) != 0;
     print(job, control, ok, console, before, output.stream());
     if (ok || job.format == Format::json || job.whyNot)
         output.finish();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 /// The short codes of the static load types, as records hold them: permanent. `CLoadDB` tells their names.
@@ -27,6 +28,9 @@ inline constexpr std::string_view seismicEarth = "EEP";
 }  // namespace zel::load_type
 
 namespace zel {
+
+/// What an item of a load combination names by its key: a static load case. Records hold the number.
+inline constexpr std::int32_t staticCaseItem = 1;
 
 /// Stands behind the name of a static load case where lists hold several kinds of case: "DL(ST)".
 inline constexpr std::string_view staticCaseMark = "(ST)";

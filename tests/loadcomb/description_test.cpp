@@ -27,6 +27,7 @@ template <class Step> std::string after(const Step& step, std::string text)
 class LooseSigns : public testing::TestWithParam<Rewriting> {};
 TEST_P(LooseSigns, AreDeleted) { EXPECT_EQ(after(deleteLooseSigns, GetParam().text), GetParam().rewritten); }
 constexpr Rewriting looseSigns[] = {
+    {"a sign soon after another",     "()+a+)",             "a)"},
     {"before a closing parenthesis",        "1.0(LL+)",            "1.0(LL)"},
     {"behind an opening parenthesis",       "1.0(+LR)",            "1.0(LR)"},
     {"with an empty pair behind",           "1.6(LL+())",          "1.6(LL)"},

@@ -1,6 +1,7 @@
 #include "loadcomb/formula_factors.h"
 #include "loadcomb/handed_rows.h"
 
+#include <algorithm>
 #include <iterator>
 #include <map>
 
@@ -86,6 +87,39 @@ TEST(Formulas, ShowTheFactorsOfTheGroupsThatHaveCases)
                 compared += compareAll(code.name, groupsOf(bits) + other);
         }
         EXPECT_GE(compared, 16U * std::size(others)) << code.name;
+    }
+}
+
+/// Rows that are printed with one sign alone.
+bool isOneSided(std::string_view code, int type, const HandedRow& row)
+{
+    return (code == "CSA-A23.3-94" && row.text == "1.25DL + 0.7(1.5WL)") ||
+        (code == "KBC-USD05" && type == 2 && row.text == "0.75(1.4DL + 1.7(LL+LR) - 1.7WL)");
+}
+
+// Wind and earthquakes act in both directions.
+TEST(Formulas, OfWindAndEarthquakeStandWithBothSigns)
+{
+    for (const zel::codes::CodeEntry& code : zel::codes::codeRegistry) {
+        for (unsigned bits = 0; bits < 16; ++bits) {
+            for (const char* other : others) {
+                for (const int type : {0, 1, 2}) {
+                    const Rows rows = rowsOf(code.name, groupsOf(bits) + other, type);
+                    for (const HandedRow& row : rows) {
+                        if (isOneSided(code.name, type, row))
+                            continue;
+                        for (std::size_t i = 0; i < row.factors.size(); ++i) {
+                            if (row.factors[i].first != "WL" && row.factors[i].first != "EL")
+                                continue;
+                            auto opposite = row.factors;
+                            opposite[i].second = -opposite[i].second;
+                            EXPECT_TRUE(std::any_of(rows.begin(), rows.end(), [&](const HandedRow& each) { return each.flag == row.flag && each.factors == opposite; }))
+                                << code.name << ", " << groupsOf(bits) << other << ": " << row.text;
+                        }
+                    }
+                }
+            }
+        }
     }
 }
 

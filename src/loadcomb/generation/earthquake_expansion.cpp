@@ -1,3 +1,4 @@
+#include "contract/load_types.h"
 #include "loadcomb/generation/cut_text.h"
 #include "loadcomb/generation/expansion.h"
 #include "loadcomb/generation/number_token.h"
@@ -60,11 +61,11 @@ void RowExpansion::addSeparate(Drafts& to, std::size_t from, std::uint32_t key, 
         replaceAll(made.text, "(SUF)", "");
 
     const std::string& name = m_state.names.at(key);
-    made.items.push_back({1, key, factor * s * g});
+    made.items.push_back({staticCaseItem, key, factor * s * g});
     if (partner == 0) {
         replaceAll(made.text, earthquakeToken, name);
     } else {
-        made.items.push_back({1, partner, partnerSign < 0 ? -factor * s * g : factor * s * g});
+        made.items.push_back({staticCaseItem, partner, partnerSign < 0 ? -factor * s * g : factor * s * g});
         replaceAll(made.text, earthquakeToken, "[" + name + std::string(signText(partnerSign)) + m_state.names.at(partner) + "]");
     }
     if (!extras.empty()) {
@@ -84,7 +85,7 @@ std::vector<T_LCOM_ITEM> RowExpansion::undergroundItems(std::uint32_t key, doubl
             return;
         for (const std::uint32_t extra : found->second) {
             if (m_state.exists(extra))
-                items.push_back({1, extra, itemFactor});
+                items.push_back({staticCaseItem, extra, itemFactor});
         }
     };
     take(m_state.undergroundByCase, std::abs(factor) * m_state.underground);

@@ -1,5 +1,6 @@
 #include "loadcomb/generation/expansion.h"
 
+#include "contract/load_types.h"
 #include "loadcomb/generation/cut_text.h"
 #include "loadcomb/generation/number_token.h"
 #include "loadcomb/generation/replace_each.h"
@@ -94,7 +95,7 @@ void RowExpansion::plainForm(const _CCmd_Loadcase& group, double factor)
     start();
     for (Draft& draft : m_drafts.list) {
         for (const std::uint32_t key : group.cases)
-            draft.items.push_back({1, key, factor});
+            draft.items.push_back({staticCaseItem, key, factor});
         if (group.name == "DL") {
             if (m_state.isSpecial()) {
                 // Meant so: the token of the period coefficient shows where the vertical factor is expected, and the other way round.
@@ -117,7 +118,7 @@ void RowExpansion::windForm(const _CCmd_Loadcase& group, double factor)
         for (const std::uint32_t key : group.cases) {
             Draft made = copyOf(draft, 1);
             text.joinWith(m_state.names.at(key), made.text);
-            made.items.push_back({1, key, factor});
+            made.items.push_back({staticCaseItem, key, factor});
             add(to, std::move(made), from, m_state.tracing ? Choice{key, -1, {}} : Choice{});
         }
     });

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int replaceMode = 1;
 constexpr const char* noLoadCase = "IDS_QV_CMD__ADDD__No_Existing_Load_Case_";
 
 /// The one record of a table; nothing if it could not be read.

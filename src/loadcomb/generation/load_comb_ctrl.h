@@ -15,6 +15,10 @@
 /// One object serves one run: set the options in any order, then call Generate.
 class ZEL_CMD_API CLoadCombCtrl {
 public:
+    // What a run does with the combinations of the kind that are there.
+    static constexpr int addMode = 0;
+    static constexpr int replaceMode = 1;
+
     /// What happens to the rows of a run.
     enum class Storing {
         store,         ///< they go into the model
@@ -42,7 +46,7 @@ public:
 
     /// Runs the table of a code.
     ///
-    /// @param mode  0 adds to the combinations of the kind, 1 replaces them; replacing deletes the old ones first, whatever follows
+    /// @param mode  addMode, or replaceMode, which deletes the old ones first, whatever follows
     /// @return  1, or 0 when nothing was stored: no load case or no row (a message says so), or the model refused
     int Generate(int mode, const CString& codeName, Storing storing = Storing::store);
 

@@ -1,5 +1,6 @@
 #include "loadcomb/generation/orthogonal_pairs.h"
 
+#include "contract/load_types.h"
 #include "loadcomb/generation/expansion.h"
 #include "loadcomb/generation/number_token.h"
 
@@ -65,12 +66,12 @@ void appendMember(std::vector<T_LCOM_ITEM>& items, const EarthquakeChoice& membe
     const double s = member.scale;
     const double g = member.overstrength;
     if (member.partner == 0) {
-        items.push_back({1, member.key, factor * k * g * s});
+        items.push_back({staticCaseItem, member.key, factor * k * g * s});
         return;
     }
     const double product = k * factor * s * g;
-    items.push_back({1, member.key, product});
-    items.push_back({1, member.partner, member.partnerSign < 0 ? -product : product});
+    items.push_back({staticCaseItem, member.key, product});
+    items.push_back({staticCaseItem, member.partner, member.partnerSign < 0 ? -product : product});
 }
 
 }  // namespace

@@ -126,7 +126,7 @@ private:
     void term(std::uint32_t key, double factor, std::string_view sign, std::string_view factorText)
     {
         T_LCOM_D& made = m_made.back();
-        made.items.push_back({1, key, factor});
+        made.items.push_back({staticCaseItem, key, factor});
         if (!sign.empty())
             made.description.append(" ").append(sign).append(" ");
         made.description.append(factorText).append(m_names.at(key));
