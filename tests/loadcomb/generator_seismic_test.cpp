@@ -191,6 +191,13 @@ TEST(UndergroundExtras, TakeTheRatioOfSmallFactorsToo)
     }));
 }
 
+TEST(UndergroundExtras, FindTheFactorsOfTheRatioAtAnyPlace)
+{
+    EXPECT_EQ(undergroundRow(basement(), 1, "0.5LL + 0.25(SUF)EL", {{"LL", 0.5}, {"EL", 0.25}}), (Lines{
+        "1 | LL 0.5, EX 0.25, S1 0.5, S2 0.5, P1 0.25 | 0.5L + 0.25EX + 0.5S1 + 0.5S2 + 0.25P1",
+    }));
+}
+
 TEST(UndergroundExtras, ComeInServiceRowsToo)
 {
     EXPECT_EQ(undergroundRow(basement(), 0, "DL - 0.7(SUF)EL", {{"DL", 1.0}, {"EL", -0.7}}), (Lines{"0 | DL 1, EX -0.7, S2 0.7 | D - 0.7EX + 0.7S2"}));

@@ -166,6 +166,20 @@ TEST(Generator, ALoadCaseOfAnotherTypeTakesPartInNothing)
     EXPECT_EQ(run(model("DL:D LL:L T:T WA:WA"), "AIK-USD94"), run(model("DL:D LL:L"), "AIK-USD94"));
 }
 
+TEST(Generator, ANewStartForgetsTheRunBefore)
+{
+    Generator generator(model("DL:D LL:L"), {});
+    generator.trace();
+    for (int run = 0; run < 2; ++run) {
+        generator.start(0, 0);
+        ASSERT_TRUE(generator.dispatch("AIK-USD94"));
+        EXPECT_EQ(generator.rows().size(), 4U) << run;    // 1.0D + 1.0L; 1.4D + 1.7L; 0.75(1.4D + 1.7L); 1.4D
+        EXPECT_EQ(generator.rows().front().name, "gLCB1  ") << run;
+        EXPECT_EQ(generator.origins().size(), 4U) << run;
+        EXPECT_EQ(generator.outcomes().size(), 24U) << run << ": the printed rows of the code";
+    }
+}
+
 TEST(Generator, ALoadCodeOfZeroWouldSelectTheOtherWindScale)
 {
     const auto of = model("DL:D WX:W");
