@@ -1,7 +1,9 @@
 #pragma once
 
 #include "contract/table_store.h"
+#include "contract/view_ctrl.h"
 
+#include <optional>
 #include <vector>
 
 /// The active model view. Modelling modes: -1 none, 26 drawing an outline.
@@ -37,4 +39,8 @@ public:
     virtual void setPickClosed(bool closed) = 0;
     [[nodiscard]] virtual int modelingMode() const = 0;
     virtual void setModelingMode(int mode) = 0;
+    /// The objects that are active, each list in ascending order; nothing while all are.
+    [[nodiscard]] virtual std::optional<T_SELECTION> activeObjects() const = 0;
+    /// State of "Activated Object Only", as the last activation gave it.
+    [[nodiscard]] virtual bool showsActiveOnly() const = 0;
 };

@@ -74,4 +74,9 @@ Json modeEvent(int mode)
     return {{"event", "mode"}, {"value", mode}};
 }
 
+Json preferencesEvent(int page)
+{
+    return {{"event", "preferences"}, {"page", page}};
+}
+
 }  // namespace zel

@@ -28,5 +28,7 @@ Json processEvent(const CString& commandLine);
 /// While the notice runs: the changes are read from the document's buffer.
 Json noticeEvent(CDBDoc& document, long long hint);
 Json modeEvent(int mode);
+/// The preferences were asked for, at a page.
+Json preferencesEvent(int page);
 
 }  // namespace zel

@@ -8,6 +8,7 @@
 #include "journal/journal_events.h"
 #include "journal/model_commands.h"
 #include "journal/open_commands.h"
+#include "journal/view_command.h"
 
 #include <algorithm>
 #include <array>
@@ -56,14 +57,23 @@ JournalPlayer::JournalPlayer(CDBDoc& document, std::istream& script, std::ostrea
       m_options(std::move(options)),
       m_host(m_options.host != nullptr ? *m_options.host : m_ownHost),
       m_former(setUserInterface(this)),
-      m_formerView(m_options.watching != nullptr ? I_ZELModelBase::GetCurMySelfST() : I_ZELModelBase::setCurrent(&m_view))
+      m_formerView(m_options.watching != nullptr ? I_ZELModelBase::GetCurMySelfST() : I_ZELModelBase::setCurrent(&m_view)),
+      m_userSettings(ProgramSettings::of(document))
 {
+    ProgramSettings{}.putInto(m_document);
 }
 
 JournalPlayer::~JournalPlayer()
 {
+    giveSettingsBack();
     I_ZELModelBase::setCurrent(m_formerView);
     setUserInterface(m_former);
+}
+
+void JournalPlayer::giveSettingsBack()
+{
+    if (const auto settings = std::exchange(m_userSettings, std::nullopt))
+        settings->putInto(m_document);
 }
 
 JournalPlayer::Status JournalPlayer::play()
@@ -116,8 +126,10 @@ void JournalPlayer::endScript()
     const CDialog* front = activeDialog();
     m_cancelled = front != nullptr && front->isModal();
     m_left = m_options.watching != nullptr && m_options.ended && m_options.ended(status());
-    if (m_left)
-        setUserInterface(m_options.watching);  // from here on a person answers
+    if (m_left) {  // from here on a person answers
+        setUserInterface(m_options.watching);
+        giveSettingsBack();
+    }
 }
 
 JournalPlayer::Status JournalPlayer::status() const
@@ -172,6 +184,8 @@ std::optional<Json> JournalPlayer::perform(const JournalCommand& command)
         return actOnTable(m_document, command);
     case Verb::units:
         return changeUnits(m_document, command);
+    case Verb::settings:
+        return changeSettings(m_document, command);
     case Verb::view:
         return view(command);
     case Verb::undo:
@@ -241,10 +255,10 @@ std::optional<Json> JournalPlayer::queueFile(const JournalCommand& command)
 std::optional<Json> JournalPlayer::view(const JournalCommand& command)
 {
     if (!command.has("select") && !command.has("mode"))
-        throw JsonFault("select", "one of select and mode is needed");
+        return viewToJson(m_document, m_host);
     std::optional<T_SELECTION> selection;
     if (command.has("select"))
-        selection = selectionFromJson(command.at("select"));
+        selection = selectionFromJson(command.at("select"), "select");
     const std::string mode = command.has("mode") ? command.text("mode") : std::string();
     if (command.has("mode") && mode != "model" && mode != "post")
         throw JsonFault("mode", "must be model or post");
@@ -333,9 +347,9 @@ void JournalPlayer::postCommand(unsigned number)
     m_posted.push_back(number);
 }
 
-void JournalPlayer::showPreferences(int /*page*/)
+void JournalPlayer::showPreferences(int page)
 {
-    // They are the host's own: no script could close them again.
+    event(preferencesEvent(page));  // they stay closed: they are the host's own, and no script could close them again
 }
 
 void JournalPlayer::output(const CString& line)

@@ -6,6 +6,7 @@
 #include "journal/journal_command.h"
 #include "journal/journal_reply.h"
 #include "journal/journal_script.h"
+#include "journal/program_settings.h"
 #include "platform/forms/forwarding_user_interface.h"
 #include "platform/forms/headless_user_interface.h"
 
@@ -38,7 +39,8 @@ struct JournalOptions {
 };
 
 /// Plays a journal on the current document: reads commands from a script, does at the forms what they say, and writes one
-/// reply line for each. It is the user interface while it plays: messages and files are answered from the script.
+/// reply line for each. It is the user interface while it plays: messages and files are answered from the script. It begins with the default
+/// program settings, and gives the user's back when it goes or leaves a dialog to him.
 ///
 /// A modal dialog runs inside the command that opened it: the player goes on reading there until the dialog has ended. The
 /// reply to a command is written when the player is about to read the next one.
@@ -61,6 +63,7 @@ private:
     void playUntil(const std::function<bool()>& over);
     void writeReply();
     void endScript();
+    void giveSettingsBack();
     [[nodiscard]] Status status() const;
     void carryOut(const std::string& line);
     std::optional<Json> perform(const JournalCommand& command);
@@ -101,6 +104,7 @@ private:
     IUserInterface* m_former;
     HeadlessModelView m_view;
     I_ZELModelBase* m_formerView;
+    std::optional<ProgramSettings> m_userSettings;  ///< until they are given back
 
     std::optional<JournalReply> m_reply;  ///< of the command that was read last, until it is written
     std::deque<std::string> m_answers;

@@ -63,8 +63,21 @@ void JournalRecorder::note(const std::string& text)
     writeLine(line);
 }
 
+void JournalRecorder::writeSettings()
+{
+    const ProgramSettings settings = ProgramSettings::of(m_document);
+    if (settings == m_settings)
+        return;
+    Held held{nextTicket(), with(commandNamed(Verb::settings), "put", changesToJson(settings, m_settings)), {}, {}};
+    held.reply.result = settingsToJson(settings);
+    m_settings = settings;
+    ++m_commands;
+    write(std::move(held));
+}
+
 void JournalRecorder::writeStart(const HostCommands& host)
 {
+    writeSettings();
     const std::vector<CDialog*>& open = openDialogs();
     for (auto dialog = open.rbegin(); dialog != open.rend(); ++dialog) {
         const std::string id = idOfModeless((*dialog)->ClassName());
@@ -85,6 +98,7 @@ void JournalRecorder::stop()
     if (m_stopped)
         return;
     writeHeld();
+    writeSettings();
     writeReply();
     m_stopped = true;
     m_document.leave(*this);
@@ -145,8 +159,10 @@ JournalRecorder::Ticket JournalRecorder::begin(Json command)
 {
     if (m_stopped)
         return 0;
-    if (!command.is_null())
+    if (!command.is_null()) {
         writeHeld();
+        writeSettings();
+    }
     return hold(std::move(command));
 }
 
@@ -277,6 +293,12 @@ void JournalRecorder::postCommand(unsigned number)
 {
     event(hostCommandEvent(number, true));
     ForwardingUserInterface::postCommand(number);
+}
+
+void JournalRecorder::showPreferences(int page)
+{
+    event(preferencesEvent(page));
+    ForwardingUserInterface::showPreferences(page);
 }
 
 void JournalRecorder::output(const CString& line)

@@ -3,6 +3,7 @@
 #include "contract/document.h"
 #include "contract/notices.h"
 #include "journal/journal_reply.h"
+#include "journal/program_settings.h"
 #include "journal/recorder_ticket.h"
 #include "platform/forms/forwarding_user_interface.h"
 
@@ -36,7 +37,7 @@ public:
 
     /// Writes a line of comment.
     void note(const std::string& text);
-    /// Writes what a journal needs to begin where the user stands: open dialogs, the selection, the mode of the host.
+    /// Writes what a journal needs to begin where the user stands: program settings, open dialogs, the selection, the mode of the host.
     void writeStart(const HostCommands& host);
     /// Writes what is held, and steps aside. Nothing is recorded from then on.
     void stop();
@@ -81,6 +82,8 @@ private:
     void writeHeld();
     void writeReply();
     void writeLine(const std::string& line);
+    /// Writes a `settings` command if the program settings are no longer those that the journal has when it is played.
+    void writeSettings();
 
     // IUserInterface
     int messageBox(const CString& text, unsigned type) override;
@@ -90,6 +93,7 @@ private:
     void dialogClosed(CDialog& dialog) override;
     void sendCommand(unsigned number) override;
     void postCommand(unsigned number) override;
+    void showPreferences(int page) override;
     void output(const CString& line) override;
     void history(const CString& line) override;
     bool startProcess(const CString& commandLine) override;
@@ -107,6 +111,7 @@ private:
     Held m_carried;                       ///< what has happened without a command: because the focus moved
     std::optional<JournalReply> m_reply;  ///< of the command that was written last, until the next one is
     Ticket m_replyTo = 0;
+    ProgramSettings m_settings;  ///< as the journal has made them
     std::string m_lastNote;
     long m_line = 0;
     long m_commands = 0;

@@ -288,14 +288,14 @@ Json changeUnits(CDBDoc& document, const JournalCommand& command)
     return document.GetUnitCtrl()->SetUnitIndexCurrent(index, 1);
 }
 
-T_SELECTION selectionFromJson(const Json& json)
+T_SELECTION selectionFromJson(const Json& json, const std::string& field)
 {
     if (!json.is_object())
-        throw JsonFault("select", std::string("must be an object, not ") + jsonKind(json));
+        throw JsonFault(field, std::string("must be an object, not ") + jsonKind(json));
     T_SELECTION selection;
     for (const auto& member : json.get_ref<const Json::object_t&>()) {
-        const std::string path = memberPath("select", member.first);
-        std::vector<Key>& keys = selection.*entryNamed(objectKinds, member.first, "select", "kind of object").keys;
+        const std::string path = memberPath(field, member.first);
+        std::vector<Key>& keys = selection.*entryNamed(objectKinds, member.first, field, "kind of object").keys;
         if (!member.second.is_array())
             throw JsonFault(path, std::string("must be a list, not ") + jsonKind(member.second));
         for (const Json& key : member.second)

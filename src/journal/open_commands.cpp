@@ -3,6 +3,7 @@
 #include "command/command.h"
 #include "command/dialog_class.h"
 #include "command/dialog_table.h"
+#include "command/paged_dialog.h"
 #include "contract/forms/db_dlg_base.h"
 #include "contract/forms/dialog.h"
 #include "contract/nearest.h"
@@ -76,15 +77,35 @@ std::unique_ptr<CInternationalDlg> makeExported(const std::string& name)
     throw JsonFault("class", "there is no dialog class \"" + name + "\" that a host can build" + didYouMean(name, names));
 }
 
-/// The key that `args` name; 0 for none.
-Key keyOfArgs(const JournalCommand& command)
+OpenArgs readArgs(const JournalCommand& command)
 {
+    OpenArgs read;
     if (!command.has("args") || command.at("args").is_null())
-        return 0;
+        return read;
     const Json& args = command.at("args");
-    if (!args.is_object() || args.size() != 1 || !args.contains("key"))
-        throw JsonFault("args", "must be an object with the key of an object");
-    return keyFromJson(args.at("key"), "args.key");
+    if (!args.is_object() || args.size() != 1 || !(args.contains("key") || args.contains("page")))
+        throw JsonFault("args", "must be an object with the key of an object or with a page");
+    if (args.contains("key"))
+        read.key = keyFromJson(args.at("key"), "args.key");
+    else
+        read.page = static_cast<int>(integerFromJson(args.at("page"), "args.page", 0, std::numeric_limits<int>::max()));
+    return read;
+}
+
+/// Hands the arguments over.
+/// @throws JsonFault  when the dialog does not take one of them
+void handOver(CDialog& dialog, const OpenArgs& args)
+{
+    auto* ofKey = dynamic_cast<IScaleFactorsOfKey*>(&dialog);
+    auto* paged = dynamic_cast<IPagedDialog*>(&dialog);
+    if (args.key != 0 && ofKey == nullptr)
+        throw JsonFault("args", dialog.ClassName() + " takes no key");
+    if (args.page && paged == nullptr)
+        throw JsonFault("args", dialog.ClassName() + " takes no page");
+    if (args.key != 0)
+        ofKey->SetModifyData(args.key);
+    if (args.page)
+        paged->ActivateTab(*args.page);
 }
 
 }  // namespace
@@ -112,20 +133,26 @@ Json openModelessDialog(const JournalCommand& command)
 
 void openDialogOfClass(const JournalCommand& command)
 {
-    openDialogOfClass(command.text("class"), keyOfArgs(command));
+    openDialogOfClass(command.text("class"), readArgs(command));
 }
 
-void openDialogOfClass(const std::string& name, Key key)
+void openDialogOfClass(const std::string& name, const OpenArgs& args)
 {
     const ModelessDialog* modeless = modelessOfClass(name);
-    if (modeless != nullptr && key == 0 && CMD_DoModeless(*modeless->id, nullptr) != nullptr)
-        return;
-    std::unique_ptr<CInternationalDlg> dialog = makeExported(name);
-    auto* ofKey = dynamic_cast<IScaleFactorsOfKey*>(dialog.get());
-    if (key != 0 && ofKey == nullptr)
-        throw JsonFault("args", name + " takes no key");
-    if (key != 0)
-        ofKey->SetModifyData(key);
+    if (modeless != nullptr && args.key == 0) {
+        if (args.page)
+            handOver(*makeExported(name), args);  // tells whether the class takes a page, before anything is opened
+        if (CDialog* dialog = CMD_DoModeless(*modeless->id, nullptr)) {
+            handOver(*dialog, args);
+            return;
+        }
+    }
+    openDialog(makeExported(name), args);
+}
+
+void openDialog(std::unique_ptr<CInternationalDlg> dialog, const OpenArgs& args)
+{
+    handOver(*dialog, args);
     auto* global = dynamic_cast<CGlobalModeless*>(dialog.get());
     if (global == nullptr) {
         dialog->DoModal();

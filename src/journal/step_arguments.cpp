@@ -3,6 +3,7 @@
 #include "contract/forms/find_control.h"
 #include "contract/forms/grid.h"
 #include "journal/control_name.h"
+#include "journal/model_commands.h"
 
 #include <algorithm>
 #include <array>
@@ -73,6 +74,22 @@ int readDelta(const JournalCommand& command)
     return delta;
 }
 
+/// The kinds of objects that a field may take.
+PickedObjects readObjects(const JournalCommand& command)
+{
+    if (command.has("keys"))
+        throw JsonFault("objects", "one of keys and objects is taken, not both");
+    const T_SELECTION picked = selectionFromJson(command.at("objects"), "objects");
+    if (!picked.nodes.empty() || !picked.elements.empty())
+        throw JsonFault("objects", "must be points, lines and areas");
+    return {picked.points, picked.lines, picked.areas};
+}
+
+Json writeObjects(const PickedObjects& objects)
+{
+    return selectionToJson({objects.points, objects.lines, objects.areas, {}, {}});
+}
+
 struct KeyName {
     const char* name;
     UserKey key;
@@ -135,7 +152,14 @@ const StepArgument keys{"keys",
                             if (command.has("keys"))
                                 step.keys = command.keys("keys");
                         },
-                        [](const UserStep& step, const Control&) { return Json(step.keys); }};
+                        [](const UserStep& step, const Control&) { return step.objects ? Json() : Json(step.keys); }};
+
+const StepArgument objects{"objects",
+                           [](const JournalCommand& command, const Control&, UserStep& step) {
+                               if (command.has("objects"))
+                                   step.objects = readObjects(command);
+                           },
+                           [](const UserStep& step, const Control&) { return step.objects ? writeObjects(*step.objects) : Json(); }};
 
 const StepArgument closed{"closed",
                           [](const JournalCommand& command, const Control&, UserStep& step) { step.closed = command.has("closed") && command.flag("closed"); },

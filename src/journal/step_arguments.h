@@ -10,6 +10,7 @@ struct StepArgument {
     std::string_view name;  ///< of its field in journals: never rename it
     /// Throws a JsonFault that names the field.
     void (*read)(const JournalCommand&, const Control&, UserStep&);
+    /// Null where the field is left out.
     Json (*write)(const UserStep&, const Control&);
 };
 
@@ -24,9 +25,10 @@ extern const StepArgument gridRow;  ///< a number, or "append"
 extern const StepArgument column;   ///< by title where that leads to it, else by number
 extern const StepArgument text;
 extern const StepArgument to;
-extern const StepArgument key;     ///< "value", the name of a key
-extern const StepArgument keys;    ///< may be left out
-extern const StepArgument closed;  ///< may be left out
+extern const StepArgument key;      ///< "value", the name of a key
+extern const StepArgument keys;     ///< may be left out
+extern const StepArgument objects;  ///< stands instead of the keys; may be left out
+extern const StepArgument closed;   ///< may be left out
 
 }  // namespace step_argument
 

@@ -28,8 +28,10 @@ Json commandTo(Verb verb, const CDialog& dialog)
 Json commandOf(const UserStep& step, const Control& control)
 {
     Json command = with(commandTo(step.verb, control.dialog()), "control", controlName(control));
-    for (const StepArgument* argument : rowOf(step.verb).arguments)
-        command[std::string(argument->name)] = argument->write(step, control);
+    for (const StepArgument* argument : rowOf(step.verb).arguments) {
+        if (Json value = argument->write(step, control); !value.is_null())
+            command[std::string(argument->name)] = std::move(value);
+    }
     return command;
 }
 

@@ -254,7 +254,7 @@ bool UserHand::open(std::string_view className)
     return step([&] { return with(commandNamed(Verb::open), "class", name); },
                 [&](JournalRecorder::Ticket) -> Taken {
                     try {
-                        openDialogOfClass(name, 0);
+                        openDialogOfClass(name, {});
                     } catch (const JsonFault& fault) {
                         return {fault.what()};
                     }

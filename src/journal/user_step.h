@@ -1,9 +1,10 @@
 #pragma once
 
-#include "contract/forms/control.h"
+#include "contract/forms/picked_objects.h"
 #include "contract/table_store.h"
 #include "journal/verbs.h"
 
+#include <optional>
 #include <vector>
 
 namespace zel {
@@ -21,8 +22,9 @@ struct UserStep {
     bool on = false;
     int delta = 0;  ///< +1 for a click up, -1 for a click down
     UserKey key = UserKey::enter;
-    std::vector<Key> keys{};  ///< that were picked
-    bool closed = false;      ///< the picked outline is closed
+    std::vector<Key> keys{};                 ///< that were picked
+    std::optional<PickedObjects> objects{};  ///< that were picked, by kind; in place of `keys`
+    bool closed = false;                     ///< the picked outline is closed
 
     bool operator==(const UserStep&) const = default;
 };

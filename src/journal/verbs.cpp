@@ -71,8 +71,10 @@ std::vector<VerbRow> makeTable()
         {Verb::pick,
          "pick",
          everything,
-         {&arg::keys, &arg::closed},
-         [](Control& control, const UserStep& step) { return control.pick(step.keys, step.closed); }},
+         {&arg::keys, &arg::objects, &arg::closed},
+         [](Control& control, const UserStep& step) {
+             return step.objects ? pickObjects(control, *step.objects, step.closed) : control.pick(step.keys, step.closed);
+         }},
 
         {Verb::answer, "answer", {"with"}},
         {Verb::file, "file", {"path"}},
@@ -82,6 +84,7 @@ std::vector<VerbRow> makeTable()
         {Verb::dialogs, "dialogs", {}},
         {Verb::db, "db", {"op", "table", "kind", "key", "name", "keys", "names", "record", "newKey", "after"}},
         {Verb::units, "units", {"length", "force"}},
+        {Verb::settings, "settings", {"put"}},
         {Verb::view, "view", {"select", "mode"}},
         {Verb::undo, "undo", {}},
         {Verb::redo, "redo", {}},

@@ -41,6 +41,7 @@ enum class Verb {
     dialogs,
     db,
     units,
+    settings,
     view,
     undo,
     redo,

@@ -190,7 +190,6 @@ TEST_F(ModelCommands, ViewSelectsObjectsAndLeavesModes)
     EXPECT_EQ(document->GetViewCtrl()->selection().points, (std::vector<zel::Key>{1}));
     EXPECT_EQ(errorOf(R"({"do": "view", "select": {"point": [1]}})"), "select: there is no kind of object \"point\"; did you mean \"points\"?");
     EXPECT_EQ(errorOf(R"({"do": "view", "mode": "both"})"), "mode: must be model or post");
-    EXPECT_EQ(errorOf(R"({"do": "view"})"), "select: one of select and mode is needed");
 }
 
 }  // namespace

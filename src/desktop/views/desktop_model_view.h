@@ -32,6 +32,8 @@ public:
     void setPickClosed(bool closed) override;
     [[nodiscard]] int modelingMode() const override { return m_mode; }
     void setModelingMode(int mode) override;
+    [[nodiscard]] std::optional<T_SELECTION> activeObjects() const override { return m_active.selection(); }
+    [[nodiscard]] bool showsActiveOnly() const override { return m_objectsOnly; }
 
 private:
     void changed() const;

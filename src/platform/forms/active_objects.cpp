@@ -45,6 +45,17 @@ ActiveObjects::Keys allOfModel()
 
 }  // namespace
 
+std::optional<T_SELECTION> ActiveObjects::selection() const
+{
+    if (!m_keys)
+        return std::nullopt;
+    T_SELECTION selection;
+    selection.points = m_keys->points;
+    selection.lines = m_keys->lines;
+    selection.areas = m_keys->areas;
+    return selection;
+}
+
 void ActiveObjects::only(Keys keys)
 {
     sortOnce(keys);

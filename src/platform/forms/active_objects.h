@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contract/table_store.h"
+#include "contract/view_ctrl.h"
 
 #include <optional>
 #include <vector>
@@ -25,6 +26,8 @@ public:
 
     /// None: all are active.
     [[nodiscard]] const std::optional<Keys>& keys() const { return m_keys; }
+    /// The same with all kinds of objects.
+    [[nodiscard]] std::optional<T_SELECTION> selection() const;
 
 private:
     std::optional<Keys> m_keys;

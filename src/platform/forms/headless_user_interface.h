@@ -17,18 +17,22 @@ public:
     [[nodiscard]] bool IsPickClosed() const override { return m_closed; }
     void ResetPick() override { m_closed = false; }
     void GetSelectedLines(std::vector<Key>& keys) const override;
-    void ActivateOnly(const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool /*objectsOnly*/) override
+    void ActivateOnly(const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool objectsOnly) override
     {
         m_active.only({points, lines, areas});
+        m_objectsOnly = objectsOnly;
     }
-    void ActivateCommon(int mode, const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool /*objectsOnly*/) override
+    void ActivateCommon(int mode, const std::vector<Key>& points, const std::vector<Key>& lines, const std::vector<Key>& areas, bool objectsOnly) override
     {
         m_active.common(mode, {points, lines, areas});
+        m_objectsOnly = objectsOnly;
     }
     void ActivateAll() override { m_active.all(); }
     void setPickClosed(bool closed) override { m_closed = closed; }
     [[nodiscard]] int modelingMode() const override { return m_mode; }
     void setModelingMode(int mode) override { m_mode = mode; }
+    [[nodiscard]] std::optional<T_SELECTION> activeObjects() const override { return m_active.selection(); }
+    [[nodiscard]] bool showsActiveOnly() const override { return m_objectsOnly; }
 
     using Objects = ActiveObjects::Keys;
     /// The active objects, each list ascending; none: all are active.
@@ -37,6 +41,7 @@ public:
 private:
     ActiveObjects m_active;
     int m_mode = -1;
+    bool m_objectsOnly = false;
     bool m_closed = false;
 };
 

@@ -152,6 +152,11 @@ Json fieldsToJson(const RecordInfo& info, const void* record)
     return object;
 }
 
+void fieldsFromJson(const RecordInfo& info, const Json& json, void* record, const std::string& path)
+{
+    readFields(json, info, record, path);
+}
+
 Json recordToJson(const TableInfo& table, int kind, Key key, const void* record)
 {
     Json object = Json::object();

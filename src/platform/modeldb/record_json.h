@@ -14,6 +14,11 @@ namespace zel {
 /// The fields of a record, without key and kind.
 Json fieldsToJson(const RecordInfo& info, const void* record);
 
+/// Puts the fields that `json` names into a record and leaves the others as they are.
+/// @param path  of the record, for the faults
+/// @throws JsonFault  as recordFromJson; fields before the fault are changed
+void fieldsFromJson(const RecordInfo& info, const Json& json, void* record, const std::string& path);
+
 /// One record of a table.
 Json recordToJson(const TableInfo& table, int kind, Key key, const void* record);
 
