@@ -134,7 +134,6 @@ const std::set<std::pair<std::string, std::string>> bodiesElsewhere{
     {"src/contract/load_db.h", "src/platform/catalogue/load_types.cpp"},
     {"src/contract/table_handle.h", "src/platform/modeldb/unit_ctrl.cpp"},
     {"src/contract/table_store.h", "src/platform/modeldb/refusals.cpp"},
-    {"src/contract/tables/load_combination_table.h", "src/platform/modeldb/loads_by_combination.cpp"},
 };
 
 TEST(HouseRules, WhatTheContractDeclaresHasItsBodyBesideIt)

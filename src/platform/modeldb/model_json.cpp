@@ -1,5 +1,6 @@
 #include "platform/modeldb/model_json.h"
 
+#include "contract/name_text.h"
 #include "contract/nearest.h"
 #include "contract/units.h"
 #include "platform/modeldb/record_json.h"

@@ -115,13 +115,6 @@ const CString& recordName(const TableInfo& table, const void* record)
     return table.nameField != nullptr ? *static_cast<const CString*>(table.nameField->in(record)) : none;
 }
 
-CString foldedName(std::string_view name)
-{
-    CString folded(name);
-    std::transform(folded.begin(), folded.end(), folded.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return folded;
-}
-
 NameFault nameFault(const TableInfo& table, const CString& name)
 {
     const bool blank = name.find_first_not_of(" \t\r\n") == CString::npos;

@@ -23,9 +23,6 @@ std::string_view notFiniteField(const TableInfo& table, const void* record);
 /// The name of a record; empty for a table without names.
 const CString& recordName(const TableInfo& table, const void* record);
 
-/// The name as the tables compare it: without regard to the case of A to Z.
-CString foldedName(std::string_view name);
-
 /// What a table holds against a name.
 enum class NameFault { none, notFilled, tooLong };
 NameFault nameFault(const TableInfo& table, const CString& name);

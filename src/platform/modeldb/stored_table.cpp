@@ -1,5 +1,6 @@
 #include "platform/modeldb/stored_table.h"
 
+#include "contract/name_text.h"
 #include "platform/modeldb/record_values.h"
 #include "platform/modeldb/refusals.h"
 
