@@ -2,7 +2,7 @@
 
 #include "contract/design_kind.h"
 #include "contract/nearest.h"
-#include "contract/table_handle.h"
+#include "contract/table_operations.h"
 #include "contract/units.h"
 #include "platform/modeldb/record_json.h"
 
@@ -126,11 +126,26 @@ void needSameKind(const TableCommand& on, const JsonRecord& read)
         throw JsonFault("record.kind", "is " + std::to_string(read.kind) + ", but the command says " + std::to_string(on.kind()));
 }
 
+/// One record for each of several keys, replacing what stands there.
+Json addForKeys(const TableCommand& on, const JsonRecord& read)
+{
+    if (!offers(on.info(), Op::AddForKeys))
+        throw JsonFault("keys", on.code() + " takes each record under a key of its own; use key");
+    if (on.command.has("key") || read.key != 0)
+        throw JsonFault("keys", "stands beside key; give one of them");
+    const std::vector<Key> keys = on.command.keys("keys");
+    if (keys.empty())
+        throw JsonFault("keys", "is empty; a record needs a key");
+    return on.table.add(on.kind(), keys, std::vector<RecordPtr>(keys.size(), read.record), true);
+}
+
 Json addRecord(const TableCommand& on)
 {
     needMany(on);
     const JsonRecord read = on.record(nullptr);
     needSameKind(on, read);
+    if (on.command.has("keys"))
+        return addForKeys(on, read);
     const Key key = agreedKey(on.command.has("key") ? on.command.key("key") : 0, read.key);
     return on.table.add(on.kind(), {key}, {read.record}, false);
 }

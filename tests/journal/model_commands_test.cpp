@@ -49,6 +49,24 @@ TEST_F(ModelCommands, EveryWriteGivesOneNoticeWithItsChanges)
     EXPECT_EQ(played.events(3, "notice"), R"([{"event": "notice", "hint": 0, "changes": []}])") << "a table without update codes";
 }
 
+TEST_F(ModelCommands, AddWritesARecordForEachOfSeveralKeys)
+{
+    ASSERT_EQ(resultOf(R"({"do": "db", "op": "add", "table": "SECF", "keys": [3, 4], "record": {"fArea": 0.5}})"), 1);
+    ASSERT_EQ(resultOf(R"({"do": "db", "op": "add", "table": "SECF", "keys": [4, 7], "record": {"fArea": 0.7}})"), 1);
+    EXPECT_EQ(resultOf(R"({"do": "db", "op": "count", "table": "SECF"})"), 3);
+    EXPECT_EQ(resultOf(R"({"do": "db", "op": "get", "table": "SECF", "key": 3})").at("fArea"), 0.5);
+    EXPECT_EQ(resultOf(R"({"do": "db", "op": "get", "table": "SECF", "key": 4})").at("fArea"), 0.7);
+}
+
+TEST_F(ModelCommands, AddWithKeysIsRefusedWhereARecordHasOneKey)
+{
+    EXPECT_EQ(errorOf(R"({"do": "db", "op": "add", "table": "STLD", "keys": [7, 8], "record": {"name": "EX"}})"),
+              "keys: STLD takes each record under a key of its own; use key");
+    EXPECT_EQ(errorOf(R"({"do": "db", "op": "add", "table": "SECF", "keys": [7], "key": 8, "record": {}})"), "keys: stands beside key; give one of them");
+    EXPECT_EQ(errorOf(R"({"do": "db", "op": "add", "table": "SECF", "keys": [], "record": {}})"), "keys: is empty; a record needs a key");
+    EXPECT_EQ(names(), "DL LL WX ");
+}
+
 TEST_F(ModelCommands, ARefusalByTheTableIsResultZeroWithAMessageAndNoError)
 {
     const Played played = play(R"({"do": "db", "op": "add", "table": "STLD", "record": {"name": "dl"}})"
