@@ -1,4 +1,5 @@
 #include "contract/import_file.h"
+#include "contract/table.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"
 #include "contract/tables/load_type_tables.h"
@@ -155,6 +156,58 @@ TEST_F(ModelFiles, EveryFieldOfEveryRecordSurvives)
         ASSERT_TRUE(read) << table.code;
         EXPECT_TRUE(table.record->equal(written[static_cast<std::size_t>(table.table)].get(), read.get())) << table.code;
     }
+}
+
+TEST_F(ModelFiles, HoldNoRowsOfListsOfDeletedRecords)
+{
+    {
+        const auto model = ModelDocument::create(path);
+        CDataStld().Add(loadCase("DL"));
+        std::vector<T_LCOM_D> combinations(5);
+        for (std::size_t i = 0; i < combinations.size(); ++i) {
+            combinations[i].name = "C" + std::to_string(i + 1);
+            combinations[i].items.resize(i + 1, {1, 1, 1.0});
+        }
+        CDataLcom().Add(1, combinations);
+        T_LCUG_D sets;
+        sets.groups.resize(2);
+        sets.groups[1].seismicKeys = {4, 5};
+        CDataLcug().Add(sets);
+        ASSERT_NE(CDataLcom().Del(1, std::vector<CString>{"C5", "C2", "C1"}), 0);
+        ASSERT_NE(model->table(Table::LCUG).remove(0, {1}), 0);
+    }
+    EXPECT_EQ(query("select parent, count(*) from LCOM_items group by 1"), "3|3\n4|4\n");
+    EXPECT_EQ(query("select count(*) from LCUG_groups"), "0\n");
+    EXPECT_EQ(query("select count(*) from LCUG_groups_seismicKeys"), "0\n");
+    ModelDocument::open(path);
+}
+
+TEST_F(ModelFiles, ThatNeedMoreMemoryThanThereIsSayThatAndStayAsTheyWere)
+{
+    {
+        const auto model = ModelDocument::create(path);
+        ASSERT_NE(CDataStld().Add(loadCase("DL")), 0);
+        sqlite3_hard_heap_limit64(sqlite3_memory_used() + 1000);
+        EXPECT_EQ(CDataLcom().Add(1, std::vector<T_LCOM_D>(1)), 0);
+        sqlite3_hard_heap_limit64(0);
+        ASSERT_FALSE(host.boxes.empty());
+        EXPECT_NE(host.boxes.back().text.find("needs more memory than there is"), std::string::npos) << host.boxes.back().text;
+        EXPECT_EQ(CDataLcom().GetCount(1), 0);
+    }
+    const auto model = ModelDocument::open(path);
+    EXPECT_EQ(CDataStld().GetCount(), 1);
+    EXPECT_EQ(CDataLcom().GetCount(1), 0);
+}
+
+TEST_F(ModelFiles, WithATriggerUnderANameOfTheDatabaseItselfAreRefused)
+{
+    ModelDocument::create(path);
+    query("create trigger innocent after insert on STLD begin delete from LCOM; end; PRAGMA writable_schema=ON; "
+          "update sqlite_schema set name='sqlite_stat9', sql=replace(sql, 'innocent', 'sqlite_stat9') where name='innocent'");
+    ASSERT_EQ(query("select name from sqlite_schema where type='trigger'"), "sqlite_stat9\n");
+    std::string sentence;
+    EXPECT_EQ(refusalOf(path, &sentence), FileRefusal::Reason::damaged);
+    EXPECT_NE(sentence.find("it holds \"sqlite_stat9\", which is not of a model"), std::string::npos) << sentence;
 }
 
 TEST_F(ModelFiles, AreOneFileWhenClosedAndAnswerPlainSql)

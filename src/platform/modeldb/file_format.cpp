@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <unordered_map>
+#include <xxhash.h>
 
 namespace zel {
 
@@ -100,11 +101,11 @@ void complete(SqlTable& table, const SqlTable* parent)
     }
 }
 
-void collect(const SqlTable& table, std::vector<CString>& statements)
+void collect(const SqlTable& table, std::string_view code, std::vector<SchemaObject>& objects)
 {
-    statements.push_back(table.create);
+    objects.push_back({table.name, table.create, code});
     for (const SqlTable& list : table.lists)
-        collect(list, statements);
+        collect(list, code, objects);
 }
 
 }  // namespace
@@ -127,16 +128,26 @@ const SqlTable& sqlTable(const TableInfo& table)
     return tables.at(table.code);
 }
 
-std::vector<CString> schemaStatements()
+std::vector<SchemaObject> schemaObjects()
 {
-    std::vector<CString> statements{
-        "CREATE TABLE " + CString(settingTable) + "(\n    name TEXT NOT NULL PRIMARY KEY,\n    value TEXT NOT NULL\n) STRICT, WITHOUT ROWID",
-        "CREATE TABLE " + CString(checkTable) +
-            "(\n    code TEXT NOT NULL PRIMARY KEY,\n    row_count INTEGER NOT NULL,\n    row_hash INTEGER NOT NULL\n) STRICT, WITHOUT ROWID",
+    std::vector<SchemaObject> objects{
+        {CString(settingTable),
+         "CREATE TABLE " + CString(settingTable) + "(\n    name TEXT NOT NULL PRIMARY KEY,\n    value TEXT NOT NULL\n) STRICT, WITHOUT ROWID",
+         {}},
+        {CString(checkTable),
+         "CREATE TABLE " + CString(checkTable) +
+             "(\n    code TEXT NOT NULL PRIMARY KEY,\n    row_count INTEGER NOT NULL,\n    row_hash INTEGER NOT NULL\n) STRICT, WITHOUT ROWID",
+         {}},
     };
     for (const TableInfo& table : tableList())
-        collect(sqlTable(table), statements);
-    return statements;
+        collect(sqlTable(table), table.code, objects);
+    return objects;
+}
+
+std::uint64_t settingHash(const CString& name, const CString& value)
+{
+    const CString row = name + '\0' + value;
+    return XXH3_64bits(row.data(), row.size());
 }
 
 CString insertStatement(const SqlTable& table)
@@ -145,12 +156,13 @@ CString insertStatement(const SqlTable& table)
     return "insert into " + quoted(table.name) + "(" + joined(names, ", ") + ") values(" + joined(std::vector<CString>(names.size(), "?"), ", ") + ")";
 }
 
-CString selectStatement(const SqlTable& table)
+CString selectStatement(const SqlTable& table, std::size_t addressColumns, SqlOrder order)
 {
-    std::vector<CString> order;
+    std::vector<CString> columns;
     for (const CString& column : table.address)
-        order.push_back(quoted(column));
-    return "select " + joined(columnNames(table), ", ") + " from " + quoted(table.name) + " order by " + joined(order, ", ");
+        columns.push_back(quoted(column) + (order == SqlOrder::descending ? " desc" : ""));
+    const CString condition = addressColumns > 0 ? " where " + conditions(table, addressColumns) : CString();
+    return "select " + joined(columnNames(table), ", ") + " from " + quoted(table.name) + condition + " order by " + joined(columns, ", ");
 }
 
 CString updateStatement(const SqlTable& table)
@@ -165,7 +177,11 @@ CString updateStatement(const SqlTable& table)
 
 CString deleteStatement(const SqlTable& table, std::size_t addressColumns)
 {
-    return "delete from " + quoted(table.name) + " where " + conditions(table, addressColumns);
+    if (addressColumns == 0)
+        return "delete from " + quoted(table.name);
+    const CString given = conditions(table, addressColumns - 1);
+    return "delete from " + quoted(table.name) + " where " + given + (given.empty() ? "" : " and ") + quoted(table.address[addressColumns - 1]) +
+        " between ? and ?";
 }
 
 }  // namespace zel

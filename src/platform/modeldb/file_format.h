@@ -33,12 +33,26 @@ struct SqlTable {
 /// The SQL tables of a model table.
 const SqlTable& sqlTable(const TableInfo& table);
 
-/// Every statement that makes the schema, in order.
-std::vector<CString> schemaStatements();
+/// A table of the schema and the statement that makes it.
+struct SchemaObject {
+    CString name;
+    CString text;
+    std::string_view table;  ///< four letters of the model table that it belongs to; empty for settings and checks
+};
 
-/// "insert into STLD(...) values(...)", "select ... from STLD order by ...", "update ...", "delete ...".
+/// The whole schema, in the order in which it is made.
+std::vector<SchemaObject> schemaObjects();
+
+/// Hash of a setting, as a row of the setting table.
+std::uint64_t settingHash(const CString& name, const CString& value);
+
+enum class SqlOrder { ascending, descending };
+
+/// "insert into STLD(...) values(...)", "select ... from STLD order by ...", "update ...", "delete ...". Parameters are the columns
+/// in the order of the table. A selection takes the rows whose first `addressColumns` are given; a deletion those whose first but
+/// the last of them are given and the last is between the two last parameters; with 0 it takes all rows.
 CString insertStatement(const SqlTable& table);
-CString selectStatement(const SqlTable& table);
+CString selectStatement(const SqlTable& table, std::size_t addressColumns = 0, SqlOrder order = SqlOrder::ascending);
 CString updateStatement(const SqlTable& table);
 CString deleteStatement(const SqlTable& table, std::size_t addressColumns);
 

@@ -13,14 +13,17 @@ public:
     enum class Reason { missing, exists, notAModel, newer, damaged, locked, readOnly, failed };
 
     FileRefusal(Reason reason, const std::filesystem::path& path, const CString& sentence)
-        : std::runtime_error("\"" + path.string() + "\" " + sentence), m_reason(reason)
+        : std::runtime_error("\"" + path.string() + "\" " + sentence), m_reason(reason), m_sentence(sentence)
     {
     }
 
     [[nodiscard]] Reason reason() const { return m_reason; }
+    /// The sentence without the file's name.
+    [[nodiscard]] const CString& sentence() const { return m_sentence; }
 
 private:
     Reason m_reason;
+    CString m_sentence;
 };
 
 }  // namespace zel

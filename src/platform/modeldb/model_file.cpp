@@ -7,8 +7,9 @@
 #include "platform/modeldb/record_values.h"
 #include "platform/os/file_access.h"
 
-#include <set>
-#include <xxhash.h>
+#include <map>
+#include <new>
+#include <utility>
 
 namespace zel {
 
@@ -17,13 +18,6 @@ namespace {
 using Reason = FileRefusal::Reason;
 
 constexpr int lockWait = 250;  // milliseconds for another program that is just closing the file
-
-/// Hash of a setting, as a row of the setting table.
-std::uint64_t settingHash(const CString& name, const CString& value)
-{
-    const CString row = name + '\0' + value;
-    return XXH3_64bits(row.data(), row.size());
-}
 
 /// Removes a file when the work on it has failed.
 class Temporary {
@@ -94,7 +88,7 @@ void ModelFile::prepareConnection(Access access)
         sqlite3_busy_timeout(m_database->handle(), lockWait);
         m_database->run("PRAGMA locking_mode=EXCLUSIVE");
     }
-    m_database->run("PRAGMA trusted_schema=OFF; PRAGMA cell_size_check=ON; PRAGMA foreign_keys=ON; PRAGMA synchronous=FULL; "
+    m_database->run("PRAGMA trusted_schema=OFF; PRAGMA cell_size_check=ON; PRAGMA foreign_keys=OFF; PRAGMA synchronous=FULL; "
                     "PRAGMA temp_store=MEMORY; PRAGMA cache_size=-65536");
     if (access == Access::write)
         m_database->run("BEGIN IMMEDIATE; COMMIT");  // takes the lock now, and finishes what a crash has left
@@ -103,14 +97,16 @@ void ModelFile::prepareConnection(Access access)
 
 void ModelFile::checkSchema()
 {
-    std::multiset<CString> expected;
-    for (const CString& statement : schemaStatements())
-        expected.insert(statement);
-    Statement statement(*m_database, "select type, name, sql from sqlite_schema where name not like 'sqlite_stat%'");
+    // Only what the program itself makes, by its exact text: a trigger or a view would run with it, whatever its name.
+    std::map<CString, CString> expected;
+    for (SchemaObject& object : schemaObjects())
+        expected.emplace(std::move(object.name), std::move(object.text));
+    Statement statement(*m_database, "select type, name, tbl_name, sql from sqlite_schema");
     while (statement.step()) {
-        const auto found = expected.find(CString(statement.text(2)));
-        if (found == expected.end())
-            throw damaged("it holds \"" + CString(statement.text(1)) + "\", which is not of a model");
+        const CString name(statement.text(1));
+        const auto found = expected.find(name);
+        if (found == expected.end() || statement.text(0) != "table" || statement.text(2) != name || statement.text(3) != found->second)
+            throw damaged("it holds \"" + name + "\", which is not of a model");
         expected.erase(found);
     }
     if (!expected.empty())
@@ -156,6 +152,8 @@ std::vector<StoredRow> ModelFile::read(const TableInfo& table)
         throw refusalFor(error);
     } catch (const DamagedRows& error) {
         throw damaged("in table " + CString(table.code) + " " + error.what());
+    } catch (const std::bad_alloc&) {
+        throw outOfMemory();
     }
 }
 
@@ -176,7 +174,7 @@ void ModelFile::create(const std::filesystem::path& path, const T_UNIT_INDEX& un
     ModelFile file(path, Unchecked{});
     try {
         file.m_database = std::make_unique<Database>(temporary.path(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-        file.m_database->run("PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=OFF; PRAGMA foreign_keys=ON; PRAGMA synchronous=FULL; "
+        file.m_database->run("PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=OFF; PRAGMA foreign_keys=OFF; PRAGMA synchronous=FULL; "
                              "PRAGMA temp_store=MEMORY; PRAGMA cache_size=-65536; PRAGMA application_id=" +
                              std::to_string(applicationId) + "; PRAGMA user_version=" + std::to_string(schemaVersion));
         file.m_rows = std::make_unique<RowStore>(*file.m_database);
@@ -209,8 +207,8 @@ void ModelFile::create(const std::filesystem::path& path, const T_UNIT_INDEX& un
 
 void ModelFile::makeSchema(const T_UNIT_INDEX& units)
 {
-    for (const CString& statement : schemaStatements())
-        m_database->run(statement);
+    for (const SchemaObject& object : schemaObjects())
+        m_database->run(object.text);
     for (const TableInfo& table : tableList())
         m_state.checks[CString(table.code)] = {};
     m_state.checks[CString(settingTable)] = {};
@@ -250,15 +248,18 @@ void ModelFile::inTransaction(const std::function<void()>& work)
         const FileRefusal refusal = damaged(error.what());
         rollback();
         throw refusal;
+    } catch (const std::bad_alloc&) {
+        rollback();
+        throw outOfMemory();
     }
 }
 
 void ModelFile::write(const Batch& batch)
 {
     inTransaction([&] {
-        m_rows->write(batch);
         const TableInfo& table = tableInfo(batch.table);
         TableCheck& check = m_state.checks[CString(table.code)];
+        m_rows->write(batch, static_cast<std::size_t>(check.rows));
         for (const Step& step : batch.steps) {
             if (step.before) {
                 --check.rows;
@@ -341,6 +342,11 @@ FileRefusal ModelFile::damaged(const CString& detail) const
     return {Reason::damaged, m_path, "is damaged: " + detail + ". Restore it from a copy."};
 }
 
+FileRefusal ModelFile::outOfMemory() const
+{
+    return {Reason::failed, m_path, "needs more memory than there is. Close other programs and try again; nothing was changed."};
+}
+
 FileRefusal ModelFile::refusalFor(const SqliteError& error) const
 {
     switch (error.code()) {
@@ -356,6 +362,8 @@ FileRefusal ModelFile::refusalFor(const SqliteError& error) const
     case SQLITE_READONLY:
     case SQLITE_PERM:
         return {Reason::readOnly, m_path, CString("can't be written (") + error.what() + "). Allow writing to the file and its folder."};
+    case SQLITE_NOMEM:
+        return outOfMemory();
     case SQLITE_FULL:
         return {Reason::failed, m_path, "can't be written: the disk is full. Make room and try again."};
     default:

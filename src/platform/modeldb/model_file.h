@@ -83,6 +83,7 @@ private:
     void storeSetting(const CString& name, const CString& value);
     void inTransaction(const std::function<void()>& work);
     [[nodiscard]] FileRefusal refusalFor(const SqliteError& error) const;
+    [[nodiscard]] FileRefusal outOfMemory() const;
     [[nodiscard]] FileRefusal damaged(const CString& detail) const;
 
     std::filesystem::path m_path;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace zel {
 
@@ -101,16 +102,37 @@ bool sameLists(const FlatLayout& layout, const void* left, const void* right)
     return std::all_of(layout.lists.begin(), layout.lists.end(), [&](const FlatList& list) { return sameList(list, left, right); });
 }
 
+/// Whether the row does not stay where it is.
+bool moves(const Step& step)
+{
+    return !step.after || step.oldKey != step.newKey;
+}
+
 }  // namespace
 
-bool RowStore::Address::operator==(const Address& other) const
+bool RowAddress::operator==(const RowAddress& other) const
 {
     return size == other.size && std::equal(parts, parts + size, other.parts);
 }
 
-RowStore::Address RowStore::addressOf(const TableInfo& table, int kind, Key key)
+int RowAddress::bindTo(Statement& statement, int parameter) const
 {
-    Address address;
+    for (std::size_t i = 0; i < size; ++i)
+        statement.bind(parameter++, parts[i]);
+    return parameter;
+}
+
+void setAddressFields(const TableInfo& table, const StoredRow& row)
+{
+    if (table.kindField != nullptr)
+        *static_cast<std::int32_t*>(table.kindField->in(row.record.get())) = row.kind;
+    if (table.keyField != nullptr)
+        *static_cast<Key*>(table.keyField->in(row.record.get())) = row.key;
+}
+
+RowAddress rowAddress(const TableInfo& table, int kind, Key key)
+{
+    RowAddress address;
     if (table.shape == TableShape::kinded)
         address.push(kind);
     address.push(key);
@@ -124,38 +146,36 @@ Statement& RowStore::prepared(std::unique_ptr<Statement>& statement, const CStri
     return *statement;
 }
 
-void RowStore::insert(const SqlTable& table, const Address& address, const void* record)
+void RowStore::insert(const SqlTable& table, const RowAddress& address, const void* record)
 {
     std::unique_ptr<Statement>& held = m_statements[&table].insert;
     Statement& statement = held ? *held : prepared(held, insertStatement(table));
-    int parameter = 1;
-    for (std::size_t i = 0; i < address.size; ++i)
-        statement.bind(parameter++, address.parts[i]);
-    bindColumns(statement, table, record, parameter);
+    bindColumns(statement, table, record, address.bindTo(statement));
     statement.run();
     insertLists(table, address, record);
 }
 
-void RowStore::insertLists(const SqlTable& table, const Address& address, const void* record)
+void RowStore::insertLists(const SqlTable& table, const RowAddress& address, const void* record)
 {
-    for (const SqlTable& child : table.lists) {
-        const FlatList& list = table.layout->lists[child.list];
-        const auto size = list.operations->size(list.in(record));
-        for (std::size_t i = 0; i < size; ++i) {
-            Address place = address;
-            place.push(static_cast<std::int64_t>(i));
-            insert(child, place, list.operations->at(list.in(record), i));
-        }
+    for (const SqlTable& child : table.lists)
+        insertList(child, table.layout->lists[child.list], address, record);
+}
+
+void RowStore::insertList(const SqlTable& child, const FlatList& list, const RowAddress& address, const void* record)
+{
+    const auto size = list.operations->size(list.in(record));
+    for (std::size_t i = 0; i < size; ++i) {
+        RowAddress place = address;
+        place.push(static_cast<std::int64_t>(i));
+        insert(child, place, list.operations->at(list.in(record), i));
     }
 }
 
-void RowStore::update(const SqlTable& table, const Address& address, const void* before, const void* after)
+void RowStore::update(const SqlTable& table, const RowAddress& address, const void* before, const void* after)
 {
     if (!sameScalars(*table.layout, before, after)) {
         Statement& statement = prepared(m_statements[&table].update, updateStatement(table));
-        int parameter = bindColumns(statement, table, after, 1);
-        for (std::size_t i = 0; i < address.size; ++i)
-            statement.bind(parameter++, address.parts[i]);
+        address.bindTo(statement, bindColumns(statement, table, after, 1));
         statement.run();
         if (m_database.changes() != 1)
             throw DamagedRows("a row to change is not there");
@@ -164,44 +184,72 @@ void RowStore::update(const SqlTable& table, const Address& address, const void*
         const FlatList& list = table.layout->lists[child.list];
         if (sameList(list, before, after))
             continue;
-        Statement& statement = prepared(m_statements[&child].removeList, deleteStatement(child, address.size));
-        for (std::size_t i = 0; i < address.size; ++i)
-            statement.bind(static_cast<int>(i) + 1, address.parts[i]);
-        statement.run();
-        if (static_cast<std::size_t>(m_database.changes()) != list.operations->size(list.in(before)))
-            throw DamagedRows("a list to change is not as long as it was");
-        const auto size = list.operations->size(list.in(after));
-        for (std::size_t i = 0; i < size; ++i) {
-            Address place = address;
-            place.push(static_cast<std::int64_t>(i));
-            insert(child, place, list.operations->at(list.in(after), i));
-        }
+        removeList(child, list, {address, static_cast<Key>(address.parts[address.size - 1]), {before}, false});
+        insertList(child, list, address, after);
     }
 }
 
-void RowStore::remove(const SqlTable& table, const Address& address)
+void RowStore::remove(const SqlTable& table, const Run& run, std::size_t rows)
 {
-    Statement& statement = prepared(m_statements[&table].remove, deleteStatement(table, address.size));
-    for (std::size_t i = 0; i < address.size; ++i)
-        statement.bind(static_cast<int>(i) + 1, address.parts[i]);
-    statement.run();  // its lists go with it
-    if (m_database.changes() != 1)
-        throw DamagedRows("a row to delete is not there");
+    Statements& statements = m_statements[&table];
+    Statement& statement =
+        run.all ? prepared(statements.removeAll, deleteStatement(table, 0)) : prepared(statements.remove, deleteStatement(table, run.first.size));
+    if (!run.all)
+        statement.bind(run.first.bindTo(statement), static_cast<std::int64_t>(run.last));
+    statement.run();
+    if (static_cast<std::size_t>(m_database.changes()) != rows)
+        throw DamagedRows("rows to delete are not there");
 }
 
-void RowStore::write(const Batch& batch)
+void RowStore::removeLists(const SqlTable& table, const Run& run)
+{
+    for (const SqlTable& child : table.lists)
+        removeList(child, table.layout->lists[child.list], run);
+}
+
+/// The lists go before what they belong to, inner ones first.
+void RowStore::removeList(const SqlTable& child, const FlatList& list, const Run& run)
+{
+    Run elements{run.first, run.last, {}, run.all};
+    for (const void* record : run.records) {
+        for (std::size_t i = 0; i < list.operations->size(list.in(record)); ++i)
+            elements.records.push_back(list.operations->at(list.in(record), i));
+    }
+    removeLists(child, elements);
+    remove(child, run, elements.records.size());
+}
+
+void RowStore::removeMoved(const TableInfo& info, const SqlTable& table, const Batch& batch, std::size_t stored)
+{
+    std::vector<const Step*> leaving;
+    for (const Step& step : batch.steps) {
+        if (step.before && moves(step))
+            leaving.push_back(&step);
+    }
+    const auto place = [](const Step* step) { return std::pair(step->kind, step->oldKey); };
+    std::sort(leaving.begin(), leaving.end(), [&](const Step* left, const Step* right) { return place(left) < place(right); });
+    const bool all = leaving.size() == stored;
+    for (auto step = leaving.begin(); step != leaving.end();) {
+        Run run{rowAddress(info, (*step)->kind, (*step)->oldKey), (*step)->oldKey, {(*step)->before.get()}, all};
+        const int kind = (*step)->kind;
+        for (++step; step != leaving.end() && (all || place(*step) == std::pair(kind, run.last + 1)); ++step) {
+            run.last = (*step)->oldKey;
+            run.records.push_back((*step)->before.get());
+        }
+        removeLists(table, run);
+        remove(table, run, run.records.size());
+    }
+}
+
+void RowStore::write(const Batch& batch, std::size_t stored)
 {
     const TableInfo& info = tableInfo(batch.table);
     const SqlTable& table = sqlTable(info);
-    const auto moves = [](const Step& step) { return !step.after || step.oldKey != step.newKey; };
-    for (const Step& step : batch.steps) {
-        if (step.before && moves(step))
-            remove(table, addressOf(info, step.kind, step.oldKey));
-    }
+    removeMoved(info, table, batch, stored);
     for (const Step& step : batch.steps) {
         if (!step.after)
             continue;
-        const Address address = addressOf(info, step.kind, step.newKey);
+        const RowAddress address = rowAddress(info, step.kind, step.newKey);
         if (step.before && !moves(step))
             update(table, address, step.before.get(), step.after.get());
         else
@@ -226,15 +274,12 @@ std::vector<StoredRow> RowStore::read(const TableInfo& table)
         if (row.key == 0 || (kinded && !isDesignKind(row.kind)) || (table.shape == TableShape::single && row.key != 1))
             throw DamagedRows("a row has an impossible key");
         row.record = table.record->create();
-        if (table.kindField != nullptr)
-            *static_cast<std::int32_t*>(table.kindField->in(row.record.get())) = row.kind;
-        if (table.keyField != nullptr)
-            *static_cast<Key*>(table.keyField->in(row.record.get())) = row.key;
+        setAddressFields(table, row);
         readColumns(statement, sql, row.record.get(), place);
         for (const FlatList& list : sql.layout->lists)
             list.operations->resize(list.in(row.record.get()), 0);
         if (!sql.lists.empty())
-            owners.push_back({addressOf(table, row.kind, row.key), row.record.get()});
+            owners.push_back({rowAddress(table, row.kind, row.key), row.record.get()});
         rows.push_back(std::move(row));
     }
     readLists(sql, owners);
@@ -249,7 +294,7 @@ void RowStore::readLists(const SqlTable& table, const std::vector<Owner>& owners
         auto owner = owners.begin();
         std::size_t size = 0;
         while (statement.step()) {
-            Address address;
+            RowAddress address;
             for (std::size_t i = 0; i + 1 < child.address.size(); ++i)
                 address.push(statement.integer(static_cast<int>(i)));
             for (; owner != owners.end() && !(owner->address == address); ++owner)

@@ -25,14 +25,31 @@ struct StoredRow {
     std::shared_ptr<void> record;
 };
 
+/// A row's address: key, or kind and key, then the places in lists.
+struct RowAddress {
+    std::int64_t parts[4]{};
+    std::size_t size = 0;
+
+    void push(std::int64_t part) { parts[size++] = part; }
+    bool operator==(const RowAddress& other) const;
+    /// Binds the parts to the parameters from `parameter` on; returns the next one.
+    int bindTo(Statement& statement, int parameter = 1) const;
+};
+
+/// Puts kind and key into the fields of the record that repeat them.
+void setAddressFields(const TableInfo& table, const StoredRow& row);
+
+RowAddress rowAddress(const TableInfo& table, int kind, Key key);
+
 /// Reads and writes the records of the model tables in an open database.
 class RowStore {
 public:
     explicit RowStore(Database& database) : m_database(database) {}
 
     /// Writes the steps of a batch: first all that removes a row, then all that puts one there.
+    /// @param stored  records that the table holds before it
     /// @throws SqliteError, DamagedRows
-    void write(const Batch& batch);
+    void write(const Batch& batch, std::size_t stored);
 
     /// Reads all records of a table, in the order of their addresses.
     /// @throws SqliteError, DamagedRows
@@ -44,27 +61,31 @@ private:
         std::unique_ptr<Statement> insert;
         std::unique_ptr<Statement> update;
         std::unique_ptr<Statement> remove;
-        std::unique_ptr<Statement> removeList;
+        std::unique_ptr<Statement> removeAll;
     };
-    /// A row's address: key, or kind and key, then the places in lists.
-    struct Address {
-        std::int64_t parts[4]{};
-        std::size_t size = 0;
-        void push(std::int64_t part) { parts[size++] = part; }
-        bool operator==(const Address& other) const;
+    /// Records under consecutive keys of one kind.
+    struct Run {
+        RowAddress first;
+        Key last = 0;
+        std::vector<const void*> records;
+        bool all = false;  ///< these are all records of the table, which SQLite empties without a look at each row
     };
     /// A record or list element whose lists are to be read, with its address.
     struct Owner {
-        Address address;
+        RowAddress address;
         void* object = nullptr;
     };
 
-    [[nodiscard]] static Address addressOf(const TableInfo& table, int kind, Key key);
     Statement& prepared(std::unique_ptr<Statement>& statement, const CString& sql);
-    void insert(const SqlTable& table, const Address& address, const void* record);
-    void insertLists(const SqlTable& table, const Address& address, const void* record);
-    void update(const SqlTable& table, const Address& address, const void* before, const void* after);
-    void remove(const SqlTable& table, const Address& address);
+    void insert(const SqlTable& table, const RowAddress& address, const void* record);
+    void insertLists(const SqlTable& table, const RowAddress& address, const void* record);
+    void insertList(const SqlTable& child, const FlatList& list, const RowAddress& address, const void* record);
+    void update(const SqlTable& table, const RowAddress& address, const void* before, const void* after);
+    /// Deletes the rows of a table that belong to the records of a run: all rows, when the run is all that the table holds.
+    void remove(const SqlTable& table, const Run& run, std::size_t rows);
+    void removeLists(const SqlTable& table, const Run& run);
+    void removeList(const SqlTable& child, const FlatList& list, const Run& run);
+    void removeMoved(const TableInfo& info, const SqlTable& table, const Batch& batch, std::size_t stored);
     void readLists(const SqlTable& table, const std::vector<Owner>& owners);
 
     Database& m_database;

@@ -59,6 +59,7 @@ public:
     void reset() { sqlite3_reset(m_handle.get()); }
 
     [[nodiscard]] bool isNull(int column) const { return sqlite3_column_type(m_handle.get(), column) == SQLITE_NULL; }
+    [[nodiscard]] int type(int column) const { return sqlite3_column_type(m_handle.get(), column); }  ///< SQLITE_INTEGER, ...
     [[nodiscard]] std::int64_t integer(int column) const { return sqlite3_column_int64(m_handle.get(), column); }
     [[nodiscard]] double real(int column) const { return sqlite3_column_double(m_handle.get(), column); }
     [[nodiscard]] std::string_view text(int column) const;
