@@ -28,6 +28,14 @@ struct ModelInfo {
 };
 int modelInfo(const ModelInfo& job);
 
+struct CheckModel {
+    std::filesystem::path model;
+    std::optional<std::filesystem::path> salvage;  ///< new file for what can be read
+    bool json = false;
+};
+/// @return  0 without a fault, 1 with faults, 2 when the file can't be read at all
+int checkModel(const CheckModel& job);
+
 struct LoadModel {
     std::string file;  ///< "-" is standard input
     std::filesystem::path model;

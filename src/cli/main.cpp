@@ -59,6 +59,18 @@ void addInfo(CLI::App& app, Job& job)
     command.callback([options, &job] { job = [options] { return modelInfo(*options); }; });
 }
 
+void addCheck(CLI::App& app, Job& job)
+{
+    CLI::App& command = addCommand(app, "check", "Look for every fault of a model file, and save what can be read", "zel check tower.qvx --salvage saved.qvx");
+    auto options = std::make_shared<CheckModel>();
+    command.add_option("MODEL", options->model, "the model file; it is not altered")->required();
+    command.add_option("--salvage", options->salvage, "make this new model of what can be read")->type_name("FILE");
+    command.add_flag("--json", options->json, "print one JSON object");
+    command.callback([options, &job] { job = [options] { return checkModel(*options); }; });
+    command.footer("Example:\n  zel check tower.qvx --salvage saved.qvx\n\n"
+                   "Exit status: 0 no fault; 1 faults, or the new model can't be made; 2 MODEL can't be read at all.");
+}
+
 void addLoad(CLI::App& app, Job& job)
 {
     CLI::App& command = addCommand(app, "load", "Make a model file from a model in JSON", "zel load tower.json tower.qvx --replace");
@@ -216,6 +228,7 @@ int main(int argc, char** argv)
     app.footer("\"zel COMMAND --help\" tells more about a command.\nExample:\n  zel new tower.qvx --length M --force KN");
     addNew(app, job);
     addInfo(app, job);
+    addCheck(app, job);
     addLoad(app, job);
     addDump(app, job);
     addPlay(app, job);
