@@ -6,12 +6,17 @@
 /// ("Dead Load (D)"), which forms offer; each tells the other.
 class CLoadDB {
 public:
+    CLoadDB() = default;
+    CLoadDB(const CLoadDB&) = delete;
+    CLoadDB& operator=(const CLoadDB&) = delete;
+    virtual ~CLoadDB() = default;
+
     /// Fills `types` with the codes, in catalogue order.
-    void GetLoadTypeList(CArray<CString, CString&>* types) const;
+    virtual void GetLoadTypeList(CArray<CString, CString&>* types) const = 0;
 
     /// The display name of a code; empty for a code that is not in the catalogue. Case matters.
-    [[nodiscard]] CString GetLoadTypeName(const CString& type) const;
+    [[nodiscard]] virtual CString GetLoadTypeName(const CString& type) const = 0;
 
     /// The code of a display name; empty for a name that is not in the catalogue. Case matters.
-    [[nodiscard]] CString GetLoadType(const CString& name) const;
+    [[nodiscard]] virtual CString GetLoadType(const CString& name) const = 0;
 };

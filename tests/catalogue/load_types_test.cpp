@@ -1,4 +1,4 @@
-#include "contract/load_db.h"
+#include "platform/catalogue/load_types.h"
 
 #include <set>
 
@@ -9,13 +9,13 @@ namespace {
 TEST(LoadTypes, AreListedInCatalogueOrder)
 {
     CArray<CString, CString&> types{"old"};
-    CLoadDB().GetLoadTypeList(&types);
+    zel::LoadTypes().GetLoadTypeList(&types);
     EXPECT_EQ(types, (CArray<CString>{"USER", "D", "L", "LR", "W", "WA", "WT", "E", "S", "R", "IL", "B", "FP", "EP", "WP", "EH", "EV", "EEP"}));
 }
 
 TEST(LoadTypes, DisplayNameEndsWithTheCode)
 {
-    const CLoadDB catalogue;
+    const zel::LoadTypes catalogue;
     EXPECT_EQ(catalogue.GetLoadTypeName("D"), "Dead Load (D)");
     EXPECT_EQ(catalogue.GetLoadTypeName("USER"), "User Defined Load (USER)");
     EXPECT_EQ(catalogue.GetLoadTypeName("WA"), "Across Wind Load (WA)");
@@ -24,7 +24,7 @@ TEST(LoadTypes, DisplayNameEndsWithTheCode)
 
 TEST(LoadTypes, CodeAndDisplayNameTellEachOther)
 {
-    const CLoadDB catalogue;
+    const zel::LoadTypes catalogue;
     CArray<CString, CString&> types;
     catalogue.GetLoadTypeList(&types);
     std::set<CString> names;
@@ -38,7 +38,7 @@ TEST(LoadTypes, CodeAndDisplayNameTellEachOther)
 
 TEST(LoadTypes, UnknownCodeOrNameGivesAnEmptyText)
 {
-    const CLoadDB catalogue;
+    const zel::LoadTypes catalogue;
     EXPECT_EQ(catalogue.GetLoadTypeName("d"), "");
     EXPECT_EQ(catalogue.GetLoadTypeName(""), "");
     EXPECT_EQ(catalogue.GetLoadType("Dead Load"), "");

@@ -88,7 +88,7 @@ TEST_F(StaticLoadCases, OpensWithNoSubLoadCasesAndTheirFieldsDisabled)
 
 TEST_F(StaticLoadCases, OffersTheTypesOfTheCatalogueInItsOrder)
 {
-    const CLoadDB catalogue;
+    const CLoadDB& catalogue = *model->GetLoadDB();
     CArray<CString> codes;
     catalogue.GetLoadTypeList(&codes);
     Texts display;

@@ -1,12 +1,12 @@
-#include "contract/load_db.h"
+#include "platform/catalogue/load_types.h"
 
 #include "contract/load_types.h"
 
 #include <string_view>
 
-namespace {
+namespace zel {
 
-namespace load_type = zel::load_type;
+namespace {
 
 struct LoadType {
     std::string_view code;
@@ -41,14 +41,14 @@ CString displayName(const LoadType& type)
 
 }  // namespace
 
-void CLoadDB::GetLoadTypeList(CArray<CString, CString&>* types) const
+void LoadTypes::GetLoadTypeList(CArray<CString, CString&>* types) const
 {
     types->clear();
     for (const LoadType& type : loadTypes)
         types->emplace_back(type.code);
 }
 
-CString CLoadDB::GetLoadTypeName(const CString& type) const
+CString LoadTypes::GetLoadTypeName(const CString& type) const
 {
     for (const LoadType& row : loadTypes) {
         if (row.code == type)
@@ -57,7 +57,7 @@ CString CLoadDB::GetLoadTypeName(const CString& type) const
     return {};
 }
 
-CString CLoadDB::GetLoadType(const CString& name) const
+CString LoadTypes::GetLoadType(const CString& name) const
 {
     for (const LoadType& row : loadTypes) {
         if (displayName(row) == name)
@@ -65,3 +65,5 @@ CString CLoadDB::GetLoadType(const CString& name) const
     }
     return {};
 }
+
+}  // namespace zel

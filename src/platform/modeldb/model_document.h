@@ -2,8 +2,8 @@
 
 #include "contract/document.h"
 #include "contract/forms/dlg_modeless_mgr.h"
-#include "contract/load_db.h"
 #include "contract/records/unit_index.h"
+#include "platform/catalogue/load_types.h"
 #include "platform/modeldb/change.h"
 #include "platform/modeldb/model_file.h"
 #include "platform/modeldb/settings.h"
@@ -97,7 +97,7 @@ private:
     Settings m_settings;
     ViewCtrl m_view;
     CViewBuff m_viewBuffer;
-    CLoadDB m_loadTypes;
+    LoadTypes m_loadTypes;
     CDlgModelessMgr m_dialogs;
 
     std::vector<CDBUpdateConnector*> m_listeners;  // null where one left during a notice

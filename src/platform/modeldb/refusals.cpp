@@ -1,7 +1,6 @@
 #include "platform/modeldb/refusals.h"
 
 #include "contract/messages.h"
-#include "contract/table_store.h"
 #include "contract/user_interface.h"
 
 namespace zel {
@@ -51,11 +50,6 @@ int refuse(Refusal reason, const CString& detail, int number)
     const CString text = CMsgDll::pfuncLoadStr(keyOf(reason), 0);
     AfxMessageBox(filled(filled(text, "%d", std::to_string(number)), "%s", detail), 0, 0);
     return 0;
-}
-
-int refuseMissing(const TableInfo& /*table*/, const CString& /*name*/)
-{
-    return refuse(Refusal::noRecord);
 }
 
 }  // namespace zel
