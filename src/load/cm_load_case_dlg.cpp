@@ -92,9 +92,10 @@ void CCMLoadCaseDlg::Data2Dlg()
         majorCase.SetCurSel(m_record.majorCase - 1);
 }
 
-void CCMLoadCaseDlg::ShowLoadCase(zel::Key key)
+/// Shows the load case of a row of the grid in the form.
+void CCMLoadCaseDlg::OnLoadCase(int row)
 {
-    if (CDataStld().Get(key, m_record) != 0)
+    if (CDataStld().Get(grid.KeyOf(row), m_record) != 0)
         Data2Dlg();
 }
 

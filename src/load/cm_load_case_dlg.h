@@ -12,9 +12,6 @@ public:
     explicit CCMLoadCaseDlg(CWnd* parent = nullptr);
     ~CCMLoadCaseDlg() override;
 
-    /// Shows a load case in the form.
-    void ShowLoadCase(zel::Key key);
-
     int DestroyWindow() override;
 
 private:
@@ -28,6 +25,7 @@ private:
     [[nodiscard]] bool HasMajorCase() const;
     void RefreshMajorCases();
 
+    void OnLoadCase(int row);
     void OnAdd();
     void OnModify();
     void OnDelete();
@@ -57,7 +55,7 @@ private:
         *this, "combinationType", "Combination Type :", {&T_STLD_D::combinationType, combinationTypes}, &CCMLoadCaseDlg::RefreshMajorCases};
     CComboBox majorCase{*this, "majorCase", "Major Case :"};
     CEdit description{*this, "description", "Description :", &T_STLD_D::description};
-    CCMLoadCaseGrid grid{*this, "grid"};
+    CCMLoadCaseGrid grid{*this, "grid", &CCMLoadCaseDlg::OnLoadCase};
     CButtonRow buttons{*this};
     CButton add{buttons, "add", "Add", &CCMLoadCaseDlg::OnAdd};
     CButton modify{buttons, "modify", "Modify", &CCMLoadCaseDlg::OnModify};

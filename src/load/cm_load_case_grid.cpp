@@ -5,7 +5,6 @@
 #include "contract/document.h"
 #include "contract/load_db.h"
 #include "contract/number_text.h"
-#include "load/cm_load_case_dlg.h"
 
 #include <algorithm>
 
@@ -50,8 +49,6 @@ const CLoadDB& loadTypes()
 }
 
 }  // namespace
-
-CCMLoadCaseGrid::CCMLoadCaseGrid(CCMLoadCaseDlg& dialog, std::string_view id) : CTBCommon(dialog, id), m_dialog(dialog) {}
 
 void CCMLoadCaseGrid::Initialize()
 {
@@ -313,23 +310,11 @@ void CCMLoadCaseGrid::UpdateBuffer(const CViewBuff& buffer)
         ResetSelection();
 }
 
-zel::Key CCMLoadCaseGrid::GetCurrentKey() const
-{
-    const int row = GetCurrentRow();
-    return IsDataRow(row) ? GetRowKey(row) : 0;
-}
-
 void CCMLoadCaseGrid::ShowLoadCase(zel::Key key, const T_STLD_D& record)
 {
     int row = 0;
     if (FindRecordByKey(SortTextsOf(TextsOf(key, record)), row) != 0 && MakeRowCurrent(row) != 0)
         ShowCurrentRow();
-}
-
-void CCMLoadCaseGrid::OnCurrentRowChanged(int row)
-{
-    if (IsDataRow(row))
-        m_dialog.ShowLoadCase(GetRowKey(row));
 }
 
 // Dragging
@@ -355,7 +340,7 @@ bool CCMLoadCaseGrid::OnSelDragRowsDrop(int /*firstRow*/, int /*lastRow*/, int t
     std::vector<zel::Key> keys;
     for (const int row : selected)
         keys.push_back(GetRowKey(row));
-    CDataStld().ChangeSequence(keys, afterRow == 0 ? 0 : GetRowKey(afterRow));
+    CDataStld().ChangeSequence(keys, KeyOf(afterRow));
     return false;
 }
 

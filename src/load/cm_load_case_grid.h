@@ -4,23 +4,21 @@
 #include "contract/notices.h"
 #include "contract/tables/static_load_case_table.h"
 
-class CCMLoadCaseDlg;
-
 /// The list of the static load cases, in their sequence. It shows the table and lets the user select rows and drag them to
 /// another place; what is entered goes through the form of its dialog.
 class CCMLoadCaseGrid final : public CTBCommon {
 public:
-    CCMLoadCaseGrid(CCMLoadCaseDlg& dialog, std::string_view id);
+    using CTBCommon::CTBCommon;
 
     void Initialize() override;
     /// Follows the changes of the load cases.
     void UpdateBuffer(const CViewBuff& buffer);
-    /// Key of the current row; 0 if no row is current, and on the append row.
-    [[nodiscard]] zel::Key GetCurrentKey() const;
+    /// Key of the load case in a row; 0 on the append row and where there is no row.
+    [[nodiscard]] zel::Key KeyOf(int row) const { return IsDataRow(row) ? GetRowKey(row) : 0; }
+    [[nodiscard]] zel::Key GetCurrentKey() const { return KeyOf(GetCurrentRow()); }
     /// Makes the row of a load case current, which shows it in the form.
     void ShowLoadCase(zel::Key key, const T_STLD_D& record);
 
-    void OnCurrentRowChanged(int row) override;
     bool AddToDB(int row) override;
     bool AddToDB(const zel::GridValues& keys, const zel::GridValues& records) override;
     bool DeleteFromDB(int row) override;
@@ -49,6 +47,4 @@ private:
     [[nodiscard]] CArray<CString> SortTextsFor(const CDataStld& data) const { return SortTextsOf(TextsOf(data.currentKey, data.currentRecord)); }
     void InsertRow(const CDataStld& data);
     void DeleteRow(const CDataStld& data);
-
-    CCMLoadCaseDlg& m_dialog;
 };

@@ -5,7 +5,6 @@
 #include "contract/load_types.h"
 #include "contract/number_text.h"
 #include "contract/tables/static_load_case_table.h"
-#include "load/load_case_underground_dlg.h"
 
 #include <algorithm>
 
@@ -29,11 +28,6 @@ std::vector<CString> namesOfEarthquakes()
 }
 
 }  // namespace
-
-CLoadCaseUnderMainGrid::CLoadCaseUnderMainGrid(const zel::Place& place, std::string_view id, CLoadCaseUndergroundDlg& dialog)
-    : CTBCommon(place, id), m_dialog(dialog)
-{
-}
 
 void CLoadCaseUnderMainGrid::Initialize()
 {
@@ -84,11 +78,6 @@ void CLoadCaseUnderMainGrid::ShowRows()
 {
     const zel::GridUpdate update(*this);
     RebuildRows();
-}
-
-void CLoadCaseUnderMainGrid::OnCurrentRowChanged(int row)
-{
-    m_dialog.OnChangedGridRow(row);
 }
 
 // Texts and rows
@@ -146,7 +135,8 @@ bool CLoadCaseUnderMainGrid::ModifyToDB(int row)
 
 bool CLoadCaseUnderMainGrid::DeleteFromDB(const CArray<int>& rows)
 {
-    m_dialog.ForgetGridRow();
+    if (m_onDelete)
+        m_onDelete(dialog());
     CArray<int> lastFirst = rows;
     std::ranges::sort(lastFirst, std::greater());
     for (const int row : lastFirst) {

@@ -4,8 +4,6 @@
 #include "contract/records/lcug.h"
 #include "contract/table_store.h"
 
-class CLoadCaseUndergroundDlg;
-
 namespace zel {
 
 /// Direction of a seismic case in a group, as records hold it.
@@ -17,7 +15,11 @@ enum SeismicDirection : int { plusDirection = 0, minusDirection = 1 };
 /// nothing by itself; the earth pressures of the current row stand in the check lists beside it.
 class CLoadCaseUnderMainGrid final : public CTBCommon {
 public:
-    CLoadCaseUnderMainGrid(const zel::Place& place, std::string_view id, CLoadCaseUndergroundDlg& dialog);
+    /// @param onDelete  rows are about to be deleted: what stands beside the grid belongs to none of them from now on
+    CLoadCaseUnderMainGrid(const zel::Place& place, std::string_view id, zel::Action<int> onCurrentRow, zel::Action<> onDelete)
+        : CTBCommon(place, id, std::move(onCurrentRow)), m_onDelete(std::move(onDelete))
+    {
+    }
 
     void Initialize() override;
     /// Takes other rows over; Initialize or RebuildRows shows them.
@@ -27,7 +29,6 @@ public:
     [[nodiscard]] T_LCUG_SEIS* GroupOf(int row);
     [[nodiscard]] T_LCUG_SEIS* GroupOf(const CString& rowName);
 
-    void OnCurrentRowChanged(int row) override;
     bool AddToDB(int row) override;
     bool AddToDB(const zel::GridValues& keys, const zel::GridValues& records) override;
     bool DeleteFromDB(int row) override { return DeleteFromDB(CArray<int>{row}); }
@@ -55,6 +56,6 @@ private:
     bool Take(const CArray<T_LCUG_SEIS>& groups);
     void ShowRows();
 
-    CLoadCaseUndergroundDlg& m_dialog;
+    zel::Action<> m_onDelete;
     CArray<T_LCUG_SEIS> m_groups;  ///< one a row, in their order
 };

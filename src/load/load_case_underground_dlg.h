@@ -14,11 +14,6 @@ public:
     explicit CLoadCaseUndergroundDlg(CWnd* parent = nullptr);
     ~CLoadCaseUndergroundDlg() override;
 
-    /// The current row of the grid has changed: stores the check lists into the row that is left, and shows those of the new one.
-    void OnChangedGridRow(int row);
-    /// The check lists belong to no row from now on.
-    void ForgetGridRow();
-
 private:
     int OnInitDialog() override;
     void ReadRecord();
@@ -34,6 +29,10 @@ private:
     void SetAllCheck_CheckBoxList(bool check);
     /// What the ticks are of; null if they belong to no row.
     [[nodiscard]] T_LCUG_SEIS* TickedGroup();
+    /// The current row of the grid has changed: stores the check lists into the row that is left, and shows those of the new one.
+    void OnChangedGridRow(int row);
+    /// The check lists belong to no row from now on.
+    void ForgetGridRow();
     void OnClickCmdSeismicList();
     void OnClickCmdStaticList();
     void OnCmdLoadcombLcomTypeFactorBtn();
@@ -50,7 +49,7 @@ private:
         {.refusesOddFactors = true, .testsPairsByTheBox = false, .keepsRefusedFactors = true, .rowsTickTheBox = false, .deletionShowsNext = false}};
 
     CGroup loadGroup{*this, "Seismic Load Case List"};
-    CLoadCaseUnderMainGrid grid{loadGroup, "grid", *this};
+    CLoadCaseUnderMainGrid grid{loadGroup, "grid", &CLoadCaseUndergroundDlg::OnChangedGridRow, &CLoadCaseUndergroundDlg::ForgetGridRow};
     CGroup earthPressure{*this, "Earth Pressure Load Case"};
     CCheckListBox seismicList{earthPressure, "seismicList", "Seismic", &CLoadCaseUndergroundDlg::OnClickCmdSeismicList};
     CCheckListBox staticList{earthPressure, "staticList", "Static", &CLoadCaseUndergroundDlg::OnClickCmdStaticList};

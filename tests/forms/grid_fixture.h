@@ -86,7 +86,7 @@ class MemberGrid : public CTBCommon {
 public:
     enum Column { number, name, length, kind, active };
 
-    explicit MemberGrid(const Place& place) : CTBCommon(place, "members")
+    explicit MemberGrid(const Place& place) : CTBCommon(place, "members", [this](int row) { calls.push_back("row " + std::to_string(row)); })
     {
         AddColInfo("Key", 1, 0);
         AddColInfo("Name", 3, 0);
@@ -202,7 +202,6 @@ public:
             line += " " + std::to_string(row);
         calls.push_back(line);
     }
-    void OnCurrentRowChanged(int row) override { calls.push_back("row " + std::to_string(row)); }
     void OnClickCell(int row, int column) override { note("click", row, column); }
     void OnDoubleClickCell(int row, int column) override { note("double click", row, column); }
     void OnRightDoubleClickCell(int row, int column) override { note("right double click", row, column); }

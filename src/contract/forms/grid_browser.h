@@ -23,7 +23,12 @@ using GridValues = CArray<std::any>;
 /// InsertRecord, DeleteRecord or new texts, is mirrored by the browser.
 class CTBBrowserWnd : public CTBGrid {
 public:
-    using CTBGrid::CTBGrid;
+    /// @param onCurrentRow  another row (or 0 for none) has become current by the user, or holds another record after an update. Also called
+    ///                      with the append row
+    CTBBrowserWnd(const zel::Place& place, std::string_view id, zel::Action<int> onCurrentRow = {})
+        : CTBGrid(place, id), m_onCurrentRow(std::move(onCurrentRow))
+    {
+    }
 
     // What a grid of the program overrides. Rows are the grid's; `columns` and `column` are indices, `texts` stand in their order.
 
@@ -72,8 +77,6 @@ public:
 
     // Further points, all of them for doing more; the base's do nothing.
 
-    /// Another row has become current by the user, or holds another record after an update. Also called with the append row.
-    virtual void OnCurrentRowChanged(int /*row*/) {}
     virtual void OnCurrentCellChanged(int /*row*/, int /*column*/) {}
     virtual void OnClickCell(int /*row*/, int /*column*/) {}
     virtual void OnDoubleClickCell(int /*row*/, int /*column*/) {}
@@ -123,10 +126,10 @@ public:
     [[nodiscard]] const CString& GetShownWarning() const { return m_shownWarning; }
 
     int SetCurrentCell(int row, int column) override;
-    /// Makes a row current, at the current column if that is possible, and calls OnCurrentRowChanged if it is another one.
+    /// Makes a row current, at the current column if that is possible, and fires the handler of the current row if it is another one.
     /// Returns 0 if it can't.
     int MakeRowCurrent(int row);
-    /// Calls OnCurrentRowChanged for the current row, whether it is another one or not.
+    /// Fires the handler of the current row, whether it is another one or not.
     void ShowCurrentRow();
 
     /// The value of an expression of numbers, + - * / ^ and parentheses, with "%.15g"; any other text, plain numbers too, as it is.
@@ -192,7 +195,7 @@ protected:
     /// The same for a row as a whole; a row without any valid cell becomes current too.
     bool goToRow(int row);
     void showWarning();
-    /// Tells OnCurrentRowChanged if the current row is another one than before.
+    /// Fires the handler of the current row if it is another one than before.
     void tellCurrentRow();
     void selectByUser(const CArray<int>& rows);
     /// Gives the grid the focus for an action at a cell of the user's channel, and gives the cell in the grid's numbers; a refusal where there is
@@ -250,10 +253,11 @@ private:
     void goOn();
     void goDown();
 
+    zel::Action<int> m_onCurrentRow;
     std::optional<RowEdit> m_edit;
     CArray<int> m_tracked;       ///< rows that are followed on their way while the row under edit is written
     bool m_rowsTouched = false;  ///< the grid of the program has changed rows since this was cleared
-    int m_toldRow = 0;           ///< row that OnCurrentRowChanged was last told of
+    int m_toldRow = 0;           ///< row that the handler was last told of
     bool m_displayOnly = false;
     bool m_writeEachCell = false;
     bool m_onDemand = false;
@@ -267,7 +271,7 @@ namespace zel {
 
 /// An update of a grid's rows, such as a change notice asks for: painting is locked, and at the end the current cell is the same
 /// row number and column as before, or the last row, or the next valid cell to the right or left; not so while the append row
-/// is being written. If the current row then has another key, OnCurrentRowChanged is told.
+/// is being written. If the current row then has another key, its handler is fired.
 class GridUpdate {
 public:
     explicit GridUpdate(CTBBrowserWnd& grid);

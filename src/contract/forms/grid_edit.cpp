@@ -238,7 +238,8 @@ bool CTBBrowserWnd::goToRow(int row)
 void CTBBrowserWnd::ShowCurrentRow()
 {
     m_toldRow = GetCurrentRow();
-    OnCurrentRowChanged(m_toldRow);
+    if (m_onCurrentRow)
+        m_onCurrentRow(dialog(), m_toldRow);
 }
 
 void CTBBrowserWnd::tellCurrentRow()

@@ -178,6 +178,11 @@ int CDataLcom::Modify(int kind, const CString& oldName)
     return store().modify(kind, {oldKey}, {currentKey != 0 ? currentKey : oldKey}, {zel::share(currentRecord)});
 }
 
+int CDataLcom::Modify(int kind, const std::vector<zel::Key>& keys, const std::vector<T_LCOM_D>& records)
+{
+    return store().modify(kind, keys, keys, zel::shareAll(records));
+}
+
 int CDataLcom::Del(int kind, const std::vector<CString>& names)
 {
     std::vector<zel::Key> keys;

@@ -40,7 +40,11 @@ public:
     int Add(int kind, std::vector<T_LCOM_D>&& records);
     /// Replaces the combination of that name by the current record; its key stays unless the current key is another.
     int Modify(int kind, const CString& oldName);
+    /// Replaces several combinations, each under its key, in one change.
+    int Modify(int kind, const std::vector<zel::Key>& keys, const std::vector<T_LCOM_D>& records);
     int Del(int kind, zel::Key key) { return store().remove(kind, {key}); }
+    /// Deletes several in one change.
+    int Del(int kind, const std::vector<zel::Key>& keys) { return store().remove(kind, keys); }
     int Del(int kind, const std::vector<CString>& names);
     int ChangeSequence(int kind, const std::vector<zel::Key>& keys, zel::Key afterKey) { return store().changeSequence(kind, keys, afterKey); }
     void Initialize() { currentRecord = T_LCOM_D{}; }

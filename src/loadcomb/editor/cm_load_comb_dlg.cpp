@@ -107,8 +107,8 @@ void CCMLoadCombDlg::OnSelectTab()
     }
     m_tab = tab;
     m_kind = kindsOfTabs[static_cast<std::size_t>(tab)].kind;
-    mainGrid.SetKind(m_kind);
-    grid.SetKind(m_kind);
+    mainGrid.ShowKind();
+    grid.ShowKind();
 }
 
 // The buttons
@@ -176,6 +176,7 @@ void CCMLoadCombDlg::UpdateBuffer(const CViewBuff& buffer)
     }
     if (combinations) {
         mainGrid.Follow(changed);
+        subGrid.Follow(changed);
         grid.Follow(changed);
     }
 }

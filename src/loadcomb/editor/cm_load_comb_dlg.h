@@ -14,15 +14,13 @@ public:
     explicit CCMLoadCombDlg(CWnd* parent = nullptr);
     ~CCMLoadCombDlg() override;
 
-    /// Shows the items of a combination in the normal form; key 0: of none.
-    void ShowItems(zel::Key key) { subGrid.ShowItems(m_kind, key); }
-
     int DestroyWindow() override;
 
 private:
     int OnInitDialog() override;
 
     void OnSelectTab();
+    void OnCombination(int row) { subGrid.ShowItems(mainGrid.KeyOf(row)); }
     void OnCopy();
     void OnImport();
     void OnAutoGeneration();
@@ -42,8 +40,8 @@ private:
     int m_tab = 0;
 
     CDlgTabCtrl tabs{*this, "tabs", &CCMLoadCombDlg::OnSelectTab};
-    CCMLoadCombMainGrid mainGrid{*this, "mainGrid", m_kind};
-    CCMLoadCombSubGrid subGrid{*this, "subGrid"};
+    CCMLoadCombMainGrid mainGrid{*this, "mainGrid", m_kind, &CCMLoadCombDlg::OnCombination};
+    CCMLoadCombSubGrid subGrid{*this, "subGrid", m_kind};
     CCMLoadCombGrid grid{*this, "grid", m_kind};
     CButtonRow buttons{*this};
     CButton copy{buttons, "copy", "Copy", &CCMLoadCombDlg::OnCopy};

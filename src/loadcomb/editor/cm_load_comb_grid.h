@@ -1,6 +1,6 @@
 #pragma once
 
-#include "loadcomb/editor/lcomb_editor_rows.h"
+#include "loadcomb/editor/combination_grid.h"
 
 #include <cstdint>
 #include <unordered_map>

@@ -1,9 +1,6 @@
 #include "loadcomb/editor/cm_load_comb_main_grid.h"
 
 #include "command/messages.h"
-#include "loadcomb/editor/cm_load_comb_dlg.h"
-
-CCMLoadCombMainGrid::CCMLoadCombMainGrid(CCMLoadCombDlg& dialog, std::string_view id, int kind) : CombinationGrid(dialog, id, kind), m_dialog(dialog) {}
 
 void CCMLoadCombMainGrid::AddColumns()
 {
@@ -11,11 +8,6 @@ void CCMLoadCombMainGrid::AddColumns()
     AddName();
     AddActive();
     AddDescription();
-}
-
-void CCMLoadCombMainGrid::OnCurrentRowChanged(int row)
-{
-    m_dialog.ShowItems(KeyOf(row));
 }
 
 bool CCMLoadCombMainGrid::ValidateField(const CString& /*text*/, int column)

@@ -1,20 +1,15 @@
 #pragma once
 
-#include "loadcomb/editor/lcomb_editor_rows.h"
-
-class CCMLoadCombDlg;
+#include "loadcomb/editor/combination_grid.h"
 
 /// The list of the combinations in the normal form. The items of its current row stand in the grid beside it.
 class CCMLoadCombMainGrid final : public zel::CombinationGrid {
 public:
-    CCMLoadCombMainGrid(CCMLoadCombDlg& dialog, std::string_view id, int kind);
+    using CombinationGrid::CombinationGrid;
 
-    void OnCurrentRowChanged(int row) override;
     bool ValidateField(const CString& text, int column) override;
 
 private:
     [[nodiscard]] Columns columns() const override { return {.name = 1, .active = 2, .description = 3}; }
     void AddColumns() override;
-
-    CCMLoadCombDlg& m_dialog;
 };

@@ -5,7 +5,7 @@
 #include "contract/load_types.h"
 #include "contract/number_text.h"
 #include "contract/tables/static_load_case_table.h"
-#include "loadcomb/editor/lcomb_editor_rows.h"
+#include "loadcomb/editor/combination_grid.h"
 
 #include <algorithm>
 
@@ -75,18 +75,23 @@ void CCMLoadCombSubGrid::FollowLoadCases()
         return;
     OnTerminate(2);
     OfferCases(std::move(cases));
-    ShowItems(m_kind, m_key);
+    ShowItems(m_key);
 }
 
-void CCMLoadCombSubGrid::ShowItems(int kind, zel::Key key)
+void CCMLoadCombSubGrid::ShowItems(zel::Key key)
 {
-    if (IsEdit() && (kind != m_kind || key != m_key))
+    if (IsEdit() && key != m_key)
         OnTerminate(2);
     const zel::GridUpdate update(*this);
-    m_kind = kind;
     m_key = key;
     SetAppendRow(HasCombination());
     RebuildRows();
+}
+
+void CCMLoadCombSubGrid::Follow(const std::unordered_set<zel::Key>& changed)
+{
+    if (changed.contains(m_key))
+        ShowItems(m_key);
 }
 
 // Texts and items
@@ -167,7 +172,7 @@ bool CCMLoadCombSubGrid::Write(const std::vector<T_LCOM_ITEM>& items)
     if (items.size() > data.currentRecord.items.size() && !zel::itemsFit(items))
         return false;
     data.currentRecord.items = items;
-    return zel::writeCombinations(m_kind, {m_key}, {data.currentRecord});
+    return data.Modify(m_kind, {m_key}, {data.currentRecord}) != 0;
 }
 
 bool CCMLoadCombSubGrid::AddToDB(int row)

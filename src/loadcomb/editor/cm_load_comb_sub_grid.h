@@ -4,17 +4,21 @@
 #include "contract/tables/load_combination_table.h"
 
 #include <optional>
+#include <unordered_set>
 #include <vector>
 
 /// The items of one combination in the normal form, in their order: a load case and its factor. A row that is left writes the
 /// combination.
 class CCMLoadCombSubGrid final : public CTBCommon {
 public:
-    using CTBCommon::CTBCommon;
+    /// @param kind  the design kind, which is the editor's
+    CCMLoadCombSubGrid(const zel::Place& place, std::string_view id, const int& kind) : CTBCommon(place, id), m_kind(kind) {}
 
     void Initialize() override;
     /// Shows the items of a combination, as they are now; key 0: of none. A row under edit of another one is ended first.
-    void ShowItems(int kind, zel::Key key);
+    void ShowItems(zel::Key key);
+    /// Follows a change of combinations: those with the keys `changed` may have other items now.
+    void Follow(const std::unordered_set<zel::Key>& changed);
     [[nodiscard]] bool HasCombination() const { return m_key != 0; }
     /// Follows changes of the load cases. If any came, went or has another name, a row under edit is ended first.
     void FollowLoadCases();
@@ -69,7 +73,7 @@ private:
     /// Writes the items of the combination in place of all. False, with nothing changed, if there are too many or the model refuses.
     bool Write(const std::vector<T_LCOM_ITEM>& items);
 
-    int m_kind = 1;
+    const int& m_kind;
     zel::Key m_key = 0;  ///< of the combination that is shown
     std::vector<Case> m_cases;
     std::optional<std::vector<T_LCOM_ITEM>> m_beforePaste;  ///< while a block is pasted: the items before any of it was written

@@ -17,18 +17,19 @@ bool isLoadCase(Key key);
 /// The first "LCB%d" that no combination of the kind bears; %d starts behind their count.
 CString newCombinationName(int kind);
 
-/// Replaces combinations in one change. False where the model refuses it.
-bool writeCombinations(int kind, const std::vector<Key>& keys, const std::vector<T_LCOM_D>& records);
-
 /// A grid whose rows are the load combinations of one design kind, in their sequence. Rows are read from the model when they are
 /// looked at, so that thousands of them open at once.
 class CombinationGrid : public CTBCommon {
 public:
-    CombinationGrid(const Place& place, std::string_view id, int kind) : CTBCommon(place, id), m_kind(kind) {}
+    /// @param kind  the design kind, which is the editor's
+    CombinationGrid(const Place& place, std::string_view id, const int& kind, Action<int> onCurrentRow = {})
+        : CTBCommon(place, id, std::move(onCurrentRow)), m_kind(kind)
+    {
+    }
 
     void Initialize() override;
-    /// Shows the combinations of another design kind.
-    void SetKind(int kind);
+    /// Shows the combinations of the design kind anew, which is another one now.
+    void ShowKind();
     /// Follows a change of the model. The time goes with the number of rows, for a long change as for a single one.
     /// @param changed  keys of the combinations that were added or modified; those that are gone show by themselves
     void Follow(const std::unordered_set<Key>& changed);
@@ -85,7 +86,7 @@ private:
     void TakeOrder(const std::vector<Key>& keys);
     void Refresh(const std::unordered_set<Key>& changed);
 
-    int m_kind;
+    const int& m_kind;
     std::vector<Key> m_keys;  ///< of the rows, in order
 };
 

@@ -1,7 +1,6 @@
-#include "loadcomb/editor/lcomb_editor_rows.h"
+#include "loadcomb/editor/combination_grid.h"
 
 #include "command/messages.h"
-#include "contract/document.h"
 #include "contract/number_text.h"
 #include "contract/table.h"
 #include "contract/tables/static_load_case_table.h"
@@ -48,11 +47,6 @@ CString newCombinationName(int kind)
     }
 }
 
-bool writeCombinations(int kind, const std::vector<Key>& keys, const std::vector<T_LCOM_D>& records)
-{
-    return CDBDoc::GetDocPoint()->table(Table::LCOM).modify(kind, keys, keys, shareAll(records)) != 0;
-}
-
 // Columns
 
 void CombinationGrid::Initialize()
@@ -87,11 +81,10 @@ void CombinationGrid::AddDescription()
     SetColWidth(AddColInfo(loadText("IDS_ZEL_CMD__Description"), static_cast<int>(GridKind::text), 0), 200);
 }
 
-void CombinationGrid::SetKind(int kind)
+void CombinationGrid::ShowKind()
 {
     {
         const GridUpdate update(*this);
-        m_kind = kind;
         RebuildRows();
     }
     ShowCurrentRow();
@@ -166,7 +159,7 @@ bool CombinationGrid::ModifyToDB(int row)
 {
     CDataLcom data;
     const Key key = KeyOf(row);
-    return data.Get(m_kind, key) != 0 && ReadTexts(GetRowTexts(row), data.currentRecord) && writeCombinations(m_kind, {key}, {data.currentRecord});
+    return data.Get(m_kind, key) != 0 && ReadTexts(GetRowTexts(row), data.currentRecord) && data.Modify(m_kind, {key}, {data.currentRecord}) != 0;
 }
 
 bool CombinationGrid::DeleteFromDB(const CArray<int>& rows)
@@ -176,7 +169,7 @@ bool CombinationGrid::DeleteFromDB(const CArray<int>& rows)
     std::vector<Key> keys;
     for (const int row : rows)
         keys.push_back(KeyOf(row));
-    return CDBDoc::GetDocPoint()->table(Table::LCOM).remove(m_kind, keys) != 0;
+    return CDataLcom().Del(m_kind, keys) != 0;
 }
 
 // Pasting. The place in the sequence says which combination a row holds; 0 is the key of a new one.
@@ -231,7 +224,7 @@ bool CombinationGrid::ModifyToDB(const GridValues& oldKeys, const GridValues& /*
         keys.push_back(std::any_cast<Key>(oldKeys[i]));
         changed.push_back(std::any_cast<const T_LCOM_D&>(records[i]));
     }
-    return writeCombinations(m_kind, keys, changed);
+    return CDataLcom().Modify(m_kind, keys, changed) != 0;
 }
 
 CString CombinationGrid::GetPasteRefusedText(const CString& /*warning*/)
@@ -270,8 +263,7 @@ void CombinationGrid::Follow(const std::unordered_set<Key>& changed)
         TakeOrder(keys);
         Refresh(changed);
     }
-    const Key current = KeyOf(GetCurrentRow());
-    if (current != former || changed.contains(current))
+    if (KeyOf(GetCurrentRow()) != former)
         ShowCurrentRow();
 }
 
