@@ -78,8 +78,8 @@ public:
     void readScreen(int first) const
     {
         const auto* grid = dynamic_cast<CTBGrid*>(zel::findControl(*m_editor, "grid").control);
-        for (int row = first; row < first + screenful; ++row) {
-            for (int index = 0; index < grid->GetColCount(); ++index)
+        for (zel::Row row = zel::Row::of(first); row < first + screenful; ++row) {
+            for (const zel::ColumnIndex index : grid->GetAllColumns())
                 benchmark::DoNotOptimize(grid->GetShownText(row, index));
         }
     }

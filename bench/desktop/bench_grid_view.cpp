@@ -35,8 +35,7 @@ public:
     {
         AddColInfo("No", 1, 0);
         for (int index = 1; index < columnCount; ++index) {
-            AddColInfo("Factor " + std::to_string(index), 2, 0);
-            SetColPlaces(index, 4);
+            SetColPlaces(AddColInfo("Factor " + std::to_string(index), 2, 0), 4);
         }
         SetColDisabled(0);
         SetColFrozen(0);
@@ -46,14 +45,14 @@ public:
     int filled = 0;  ///< rows; they are filled when they are painted
 
     int GetCountData() override { return rowCount; }
-    void MakeItemNormal(int /*count*/, const CArray<int>& /*columns*/) override {}
-    void MakeItemFiltered(int /*count*/, const CArray<int>& rows, const CArray<int>& /*columns*/) override
+    void MakeItemNormal(int /*count*/, const CArray<ColumnIndex>& /*columns*/) override {}
+    void MakeItemFiltered(int /*count*/, const CArray<Row>& rows, const CArray<ColumnIndex>& /*columns*/) override
     {
         filled += static_cast<int>(rows.size());
-        for (const int row : rows) {
-            CArray<CString> texts{std::to_string(row)};
+        for (const Row row : rows) {
+            CArray<CString> texts{std::to_string(row.number())};
             for (int index = 1; index < columnCount; ++index)
-                texts.push_back(std::to_string(row % 97) + "." + std::to_string(index));
+                texts.push_back(std::to_string(row.number() % 97) + "." + std::to_string(index));
             SetRowTexts(row, texts);
         }
     }
@@ -162,7 +161,7 @@ void Refresh(benchmark::State& state)
         });
         scan += timed([&] {
             int hidden = 0;
-            for (int row = 1; row <= rowCount; ++row)
+            for (zel::Row row = 1; row <= rowCount; ++row)
                 hidden += desk.dialog.grid.IsRowHidden(row) ? 1 : 0;
             benchmark::DoNotOptimize(hidden);
         });

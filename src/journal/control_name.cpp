@@ -51,17 +51,17 @@ CString controlName(const Control& control)
     return {};
 }
 
-Json columnName(const CTBGrid& grid, int column)
+Json columnName(const CTBGrid& grid, UserColumn column)
 {
-    const int index = grid.GetColIndex(column + 1);
+    const ColumnIndex index = grid.GetColIndex(CTBGrid::toColumn(column));
     if (index >= 0 && !grid.GetColTitle(index).empty() && grid.columnByTitle(grid.GetColTitle(index)) == column)
         return grid.GetColTitle(index);
-    return column;
+    return column.number();
 }
 
-Json rowName(int row)
+Json rowName(UserRow row)
 {
-    return row == CTBGrid::append ? Json("append") : Json(row);
+    return row == CTBGrid::append ? Json("append") : Json(row.number());
 }
 
 UserValue entryName(const std::vector<CString>& entries, int index)

@@ -11,9 +11,9 @@ namespace zel {
 [[nodiscard]] CString controlName(const Control& control);
 
 /// A column of a grid as a journal names it: its title where that leads to it, else its number from 0.
-[[nodiscard]] Json columnName(const CTBGrid& grid, int column);
+[[nodiscard]] Json columnName(const CTBGrid& grid, UserColumn column);
 /// A row as a journal names it: its number from 0, or "append".
-[[nodiscard]] Json rowName(int row);
+[[nodiscard]] Json rowName(UserRow row);
 /// What is entered to choose the entry at `index`: its text where that leads to it, else its number.
 [[nodiscard]] UserValue entryName(const std::vector<CString>& entries, int index);
 

@@ -16,7 +16,7 @@ namespace {
 
 // Rows and columns
 
-int readRow(const JournalCommand& command, std::string_view field)
+UserRow readRow(const JournalCommand& command, std::string_view field)
 {
     if (command.at(field) == Json("append"))
         return CTBGrid::append;
@@ -26,18 +26,18 @@ int readRow(const JournalCommand& command, std::string_view field)
     return row;
 }
 
-int columnBehindKey(const CTBGrid& grid, const std::string& title)
+UserColumn columnBehindKey(const CTBGrid& grid, const std::string& title)
 {
     const CString wanted = normalisedLabel(title);
-    for (int column = 0; column < grid.GetColCount(); ++column) {
-        const std::string_view shown = grid.GetColTitle(grid.GetColIndex(column + 1));
+    for (UserColumn column = 0; column < grid.GetColCount(); ++column) {
+        const std::string_view shown = grid.GetColTitle(grid.GetColIndex(CTBGrid::toColumn(column)));
         if (withoutKey(shown) != shown && normalisedLabel(withoutKey(shown)) == wanted)
             return column;
     }
     return -1;
 }
 
-int readColumn(const JournalCommand& command, const CTBGrid& grid)
+UserColumn readColumn(const JournalCommand& command, const CTBGrid& grid)
 {
     const Json& json = command.at("column");
     if (!json.is_string()) {
@@ -47,7 +47,7 @@ int readColumn(const JournalCommand& command, const CTBGrid& grid)
         return column;
     }
     const std::string& title = command.text("column");
-    int column = grid.columnByTitle(title);
+    UserColumn column = grid.columnByTitle(title);
     if (column < 0)
         column = columnBehindKey(grid, title);
     if (column < 0)
@@ -122,7 +122,7 @@ const StepArgument rows{"rows", [](const JournalCommand& command, const Control&
                         [](const UserStep& step, const Control&) { return Json(step.rows); }};
 
 const StepArgument row{"row", [](const JournalCommand& command, const Control&, UserStep& step) { step.row = command.integer("row"); },
-                       [](const UserStep& step, const Control&) { return Json(step.row); }};
+                       [](const UserStep& step, const Control&) { return Json(step.row.number()); }};
 
 const StepArgument on{"value", [](const JournalCommand& command, const Control&, UserStep& step) { step.on = command.flag("value"); },
                       [](const UserStep& step, const Control&) { return Json(step.on); }};

@@ -27,29 +27,29 @@ Json nothing()
 
 /// Place of the current cell in the user's numbers.
 struct Cell {
-    int row = 0;
-    int column = -1;  ///< -1: no cell is current
+    UserRow row = 0;
+    UserColumn column = -1;  ///< -1: no cell is current
     bool operator==(const Cell&) const = default;
 };
 
 Cell currentCell(const CTBBrowserWnd& grid)
 {
-    int row = 0;
-    int column = 0;
-    return grid.GetCurrentCell(row, column) != 0 ? Cell{grid.toUserRow(row), column - 1} : Cell{};
+    Row row;
+    ColumnPlace column;
+    return grid.GetCurrentCell(row, column) != 0 ? Cell{grid.toUserRow(row), CTBGrid::toUserColumn(column)} : Cell{};
 }
 
 /// Place of the open cell.
 Cell openCellOf(const CTBBrowserWnd& grid)
 {
-    int column = 0;
+    ColumnPlace column;
     const bool open = grid.GetOpenCell() >= 0 && grid.GetColumnNoFor(grid.GetOpenCell(), column) != 0;
-    return open ? Cell{grid.toUserRow(grid.GetEditRow()), column - 1} : Cell{};
+    return open ? Cell{grid.toUserRow(grid.GetEditRow()), CTBGrid::toUserColumn(column)} : Cell{};
 }
 
-bool isFrozen(const CTBBrowserWnd& grid, int column)
+bool isFrozen(const CTBBrowserWnd& grid, UserColumn column)
 {
-    const int index = grid.GetColIndex(column + 1);
+    const ColumnIndex index = grid.GetColIndex(CTBGrid::toColumn(column));
     return index >= 0 && grid.GetColInfo(index).frozen;
 }
 
@@ -408,7 +408,7 @@ Taken UserHand::choose(Control& control, int index)
 
 // Grids
 
-Taken UserHand::openCell(CTBBrowserWnd& grid, int row, int column)
+Taken UserHand::openCell(CTBBrowserWnd& grid, UserRow row, UserColumn column)
 {
     const Cell wanted{row, column};
     if (m_typing.control == &grid && openCellOf(grid) == wanted)
@@ -465,22 +465,22 @@ Taken UserHand::leaveCell(CTBBrowserWnd& grid)
                 [&](JournalRecorder::Ticket) { return grid.leaveCell(); });
 }
 
-Taken UserHand::dragColumns(CTBBrowserWndEx& grid, int first, int last, int to)
+Taken UserHand::dragColumns(CTBBrowserWndEx& grid, UserColumn first, UserColumn last, UserColumn to)
 {
     return unrecorded("Columns were moved. No command does that.", [&] { return grid.dragColumns(first, last, to); });
 }
 
-Taken UserHand::resizeColumn(CTBBrowserWnd& grid, int column, int width)
+Taken UserHand::resizeColumn(CTBBrowserWnd& grid, UserColumn column, int width)
 {
     return unrecorded("A column was made wider or narrower. No command does that.", [&] { return grid.resizeColumn(column, width); });
 }
 
-Taken UserHand::goToCell(CTBBrowserWnd& grid, int row, int column)
+Taken UserHand::goToCell(CTBBrowserWnd& grid, UserRow row, UserColumn column)
 {
     return currentCell(grid) == Cell{row, column} ? locked() : act(grid, {.verb = Verb::current, .row = row, .column = column});
 }
 
-Taken UserHand::doubleClickCell(CTBBrowserWnd& grid, int row, int column)
+Taken UserHand::doubleClickCell(CTBBrowserWnd& grid, UserRow row, UserColumn column)
 {
     if (Taken there = goToCell(grid, row, column); !there)
         return there;
@@ -490,14 +490,14 @@ Taken UserHand::doubleClickCell(CTBBrowserWnd& grid, int row, int column)
     return unrecorded("A cell was double-clicked. No command does that.", [&] { return act(0); });
 }
 
-Taken UserHand::rightDoubleClickCell(CTBBrowserWnd& grid, int row, int column)
+Taken UserHand::rightDoubleClickCell(CTBBrowserWnd& grid, UserRow row, UserColumn column)
 {
     if (Taken there = goToCell(grid, row, column); !there)
         return there;
     return unrecorded("A cell was double-clicked with the right button. No command does that.", [&] { return grid.rightDoubleClickCell(row, column); });
 }
 
-Taken UserHand::pressCell(CTBBrowserWnd& grid, int row, int column)
+Taken UserHand::pressCell(CTBBrowserWnd& grid, UserRow row, UserColumn column)
 {
     if (Taken there = goToCell(grid, row, column); !there)
         return there;

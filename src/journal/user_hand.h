@@ -78,16 +78,16 @@ public:
 
     // Grids.
 
-    Taken openCell(CTBBrowserWnd& grid, int row, int column);
+    Taken openCell(CTBBrowserWnd& grid, UserRow row, UserColumn column);
     /// Types into the open cell; written, as an edit of the whole cell, when it is left.
     Taken typeText(CTBBrowserWnd& grid, const CString& text);
     Taken leaveCell(CTBBrowserWnd& grid);
     /// Without a journal command: they change nothing of the model.
-    Taken dragColumns(CTBBrowserWndEx& grid, int first, int last, int to);
-    Taken resizeColumn(CTBBrowserWnd& grid, int column, int width);
-    Taken doubleClickCell(CTBBrowserWnd& grid, int row, int column);
-    Taken rightDoubleClickCell(CTBBrowserWnd& grid, int row, int column);
-    Taken pressCell(CTBBrowserWnd& grid, int row, int column);
+    Taken dragColumns(CTBBrowserWndEx& grid, UserColumn first, UserColumn last, UserColumn to);
+    Taken resizeColumn(CTBBrowserWnd& grid, UserColumn column, int width);
+    Taken doubleClickCell(CTBBrowserWnd& grid, UserRow row, UserColumn column);
+    Taken rightDoubleClickCell(CTBBrowserWnd& grid, UserRow row, UserColumn column);
+    Taken pressCell(CTBBrowserWnd& grid, UserRow row, UserColumn column);
 
 private:
     /// What is being typed into.
@@ -96,8 +96,8 @@ private:
         const CDialog* form = nullptr;
         RecorderTicket ticket = 0;
         CString text{};
-        int row = 0;  ///< of a grid's cell
-        int column = 0;
+        UserRow row = 0;  ///< of a grid's cell
+        UserColumn column = 0;
         bool typed = false;   ///< something was typed into the cell
         bool opened = false;  ///< the cell was opened for it; else it had stayed open when it was refused
         bool moved = false;   ///< opening it made it the current cell
@@ -126,7 +126,7 @@ private:
     [[nodiscard]] bool isTypedInto(const CDialog& dialog) const;
     Taken leaveCellOf(const Typing& typing);
     /// Clicks into a cell unless it is the current one.
-    Taken goToCell(CTBBrowserWnd& grid, int row, int column);
+    Taken goToCell(CTBBrowserWnd& grid, UserRow row, UserColumn column);
     /// What is held for a cell that is given up becomes a mere click, or nothing.
     void forgetCell(Typing& typing);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/forms/control.h"
+#include "contract/forms/grid_places.h"
 #include "contract/forms/picked_objects.h"
 #include "contract/table_store.h"
 #include "journal/verbs.h"
@@ -15,9 +17,9 @@ struct UserStep {
     Verb verb;
     UserValue value{};  ///< what is entered or chosen
     std::vector<int> rows{};
-    int row = 0;  ///< from 0, in a grid also CTBGrid::append
-    int column = 0;
-    int to = 0;  ///< row before which rows are dropped
+    UserRow row = 0;  ///< of a list or a grid; in a grid also CTBGrid::append
+    UserColumn column = 0;
+    UserRow to = 0;  ///< row before which rows are dropped
     CString text{};
     bool on = false;
     int delta = 0;  ///< +1 for a click up, -1 for a click down

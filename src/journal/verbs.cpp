@@ -33,8 +33,8 @@ std::vector<VerbRow> makeTable()
         {Verb::set, "set", everything, {&arg::value}, [](Control& control, const UserStep& step) { return control.set(step.value); }},
         {Verb::press, "press", everything, {}, [](Control& control, const UserStep&) { return control.press(); }},
         {Verb::select, "select", everything, {&arg::rows}, [](Control& control, const UserStep& step) { return control.select(step.rows); }},
-        {Verb::doubleClick, "double_click", everything, {&arg::row}, [](Control& control, const UserStep& step) { return control.doubleClick(step.row); }},
-        {Verb::tick, "tick", everything, {&arg::row, &arg::on}, [](Control& control, const UserStep& step) { return control.tick(step.row, step.on); }},
+        {Verb::doubleClick, "double_click", everything, {&arg::row}, [](Control& control, const UserStep& step) { return control.doubleClick(step.row.number()); }},
+        {Verb::tick, "tick", everything, {&arg::row, &arg::on}, [](Control& control, const UserStep& step) { return control.tick(step.row.number(), step.on); }},
         {Verb::spin, "spin", everything, {&arg::delta}, [](Control& control, const UserStep& step) { return control.spin(step.delta); }},
         {Verb::tab, "tab", tabs, {&arg::value}, [](Control& control, const UserStep& step) { return control.choose(step.value); }},
 

@@ -93,7 +93,7 @@ void CCMLoadCaseDlg::Data2Dlg()
 }
 
 /// Shows the load case of a row of the grid in the form.
-void CCMLoadCaseDlg::OnLoadCase(int row)
+void CCMLoadCaseDlg::OnLoadCase(zel::Row row)
 {
     if (CDataStld().Get(grid.KeyOf(row), m_record) != 0)
         Data2Dlg();
@@ -130,7 +130,7 @@ void CCMLoadCaseDlg::OnModify()
 
 void CCMLoadCaseDlg::OnDelete()
 {
-    const CArray<int> selected = grid.GetSelectedRows();
+    const CArray<zel::Row> selected = grid.GetSelectedRows();
     if (!selected.empty())
         grid.DeleteFromDB(selected);
     else if (grid.IsDataRow(grid.GetCurrentRow()))

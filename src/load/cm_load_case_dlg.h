@@ -25,7 +25,7 @@ private:
     [[nodiscard]] bool HasMajorCase() const;
     void RefreshMajorCases();
 
-    void OnLoadCase(int row);
+    void OnLoadCase(zel::Row row);
     void OnAdd();
     void OnModify();
     void OnDelete();

@@ -1,6 +1,7 @@
 #include "load/cm_load_case_grid.h"
 
 #include "command/messages.h"
+#include "command/row_move.h"
 #include "command/view_buffer.h"
 #include "contract/document.h"
 #include "contract/load_db.h"
@@ -11,12 +12,12 @@
 namespace {
 
 // Indices of the columns.
-constexpr int keyColumn = 0;
-constexpr int noColumn = 1;
-constexpr int nameColumn = 2;
-constexpr int typeColumn = 3;
-constexpr int factorColumn = 4;
-constexpr int descriptionColumn = 5;
+constexpr zel::ColumnIndex keyColumn = 0;
+constexpr zel::ColumnIndex noColumn = 1;
+constexpr zel::ColumnIndex nameColumn = 2;
+constexpr zel::ColumnIndex typeColumn = 3;
+constexpr zel::ColumnIndex factorColumn = 4;
+constexpr zel::ColumnIndex descriptionColumn = 5;
 
 /// Texts with which a new row begins, one for each column.
 const CArray<CString> defaultTexts(6);
@@ -54,7 +55,7 @@ void CCMLoadCaseGrid::Initialize()
 {
     RemoveColumns();
     for (const ColumnStyle& style : columnStyles) {
-        const int index = AddColInfo(titleOf(style), static_cast<int>(style.kind), T_STLD_D::unit[style.unit]);
+        const ColumnIndex index = AddColInfo(titleOf(style), static_cast<int>(style.kind), T_STLD_D::unit[style.unit]);
         SetColWidth(index, style.width);
         SetColAlign(index, style.places < 0 ? zel::GridAlign::left : zel::GridAlign::right);
         if (style.places >= 0)
@@ -79,7 +80,7 @@ CArray<CString> CCMLoadCaseGrid::TextsOf(zel::Key key, const T_STLD_D& record)
             record.description};
 }
 
-bool CCMLoadCaseGrid::MakeKeyAndData(const CArray<CString>& texts, const CArray<int>& columns, zel::Key& key, T_STLD_D& record)
+bool CCMLoadCaseGrid::MakeKeyAndData(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, zel::Key& key, T_STLD_D& record)
 {
     for (std::size_t i = 0; i < columns.size(); ++i) {
         if (!ValidateField(texts[i], columns[i]))
@@ -89,23 +90,23 @@ bool CCMLoadCaseGrid::MakeKeyAndData(const CArray<CString>& texts, const CArray<
         return false;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const CString text = ConvertFormulaToValue(texts[i]);
-        switch (columns[i]) {
-        case keyColumn:
+        switch (columns[i].number()) {
+        case keyColumn.number():
             key = static_cast<zel::Key>(std::max(0, zel::number::readInteger(text).value_or(0)));
             break;
-        case noColumn:
+        case noColumn.number():
             record.no = zel::number::readInteger(text).value_or(0);
             break;
-        case nameColumn:
+        case nameColumn.number():
             record.name = text;
             break;
-        case typeColumn:
+        case typeColumn.number():
             record.type = loadTypes().GetLoadType(text);
             break;
-        case factorColumn:
+        case factorColumn.number():
             record.selfWeightFactor = RealOf(text);
             break;
-        case descriptionColumn:
+        case descriptionColumn.number():
             record.description = text;
             break;
         default:
@@ -115,7 +116,7 @@ bool CCMLoadCaseGrid::MakeKeyAndData(const CArray<CString>& texts, const CArray<
     return true;
 }
 
-bool CCMLoadCaseGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records)
+bool CCMLoadCaseGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, Keys& keys, Records& records)
 {
     zel::Key key = 0;
     T_STLD_D record;
@@ -126,13 +127,7 @@ bool CCMLoadCaseGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CA
     return true;
 }
 
-void CCMLoadCaseGrid::DeleteKeyAndDataArray(zel::GridValues& keys, zel::GridValues& records)
-{
-    keys.clear();
-    records.clear();
-}
-
-bool CCMLoadCaseGrid::ValidateField(const CString& /*text*/, int column)
+bool CCMLoadCaseGrid::ValidateField(const CString& /*text*/, ColumnIndex column)
 {
     if (column < GetColCount())
         return true;
@@ -140,10 +135,10 @@ bool CCMLoadCaseGrid::ValidateField(const CString& /*text*/, int column)
     return false;
 }
 
-bool CCMLoadCaseGrid::ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns)
+bool CCMLoadCaseGrid::ValidateRecord(const CArray<CString>& texts, const CArray<ColumnIndex>& columns)
 {
     CArray<CString> checkedTexts;
-    CArray<int> checked;
+    CArray<ColumnIndex> checked;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         if (columns[i] == nameColumn || columns[i] == typeColumn || columns[i] == factorColumn) {
             checked.push_back(columns[i]);
@@ -165,22 +160,19 @@ const CArray<CString>& CCMLoadCaseGrid::GetDefValueArray()
     return defaultTexts;
 }
 
-bool CCMLoadCaseGrid::AddToDB(int row)
+bool CCMLoadCaseGrid::AddToDB(Row row)
 {
     zel::Key key = 0;
     T_STLD_D record;
     return MakeKeyAndData(GetRowTexts(row), GetAllColumns(), key, record) && CDataStld().Add(record) != 0;
 }
 
-bool CCMLoadCaseGrid::AddToDB(const zel::GridValues& /*keys*/, const zel::GridValues& records)
+bool CCMLoadCaseGrid::AddToDB(const Keys& /*keys*/, const Records& records)
 {
-    std::vector<T_STLD_D> added;
-    for (const std::any& record : records)
-        added.push_back(std::any_cast<const T_STLD_D&>(record));
-    return CDataStld().Add(added) != 0;
+    return CDataStld().Add(records) != 0;
 }
 
-bool CCMLoadCaseGrid::ModifyToDB(int row)
+bool CCMLoadCaseGrid::ModifyToDB(Row row)
 {
     CDataStld data;
     const CString oldName = TextBeforeEdit(row, nameColumn);
@@ -194,17 +186,17 @@ bool CCMLoadCaseGrid::ModifyToDB(int row)
     return data.Modify(oldName) != 0;
 }
 
-bool CCMLoadCaseGrid::ModifyToDB(const zel::GridValues& oldKeys, const zel::GridValues& /*keys*/, const zel::GridValues& records)
+bool CCMLoadCaseGrid::ModifyToDB(const Keys& oldKeys, const Keys& /*keys*/, const Records& records)
 {
     CDataStld data;
     std::vector<CString> oldNames;
     std::vector<T_STLD_D> changed;
     for (std::size_t i = 0; i < oldKeys.size(); ++i) {
         T_STLD_D stored;
-        if (data.Get(std::any_cast<zel::Key>(oldKeys[i]), stored) == 0)
+        if (data.Get(oldKeys[i], stored) == 0)
             return false;
         oldNames.push_back(stored.name);
-        const auto& texts = std::any_cast<const T_STLD_D&>(records[i]);
+        const T_STLD_D& texts = records[i];
         stored.name = texts.name;
         stored.type = texts.type;
         stored.selfWeightFactor = texts.selfWeightFactor;
@@ -214,17 +206,17 @@ bool CCMLoadCaseGrid::ModifyToDB(const zel::GridValues& oldKeys, const zel::Grid
     return data.Modify(oldNames, changed) != 0;
 }
 
-bool CCMLoadCaseGrid::DeleteFromDB(int row)
+bool CCMLoadCaseGrid::DeleteFromDB(Row row)
 {
     return CDataStld().Del(TextAt(row, nameColumn)) != 0;
 }
 
-bool CCMLoadCaseGrid::DeleteFromDB(const CArray<int>& rows)
+bool CCMLoadCaseGrid::DeleteFromDB(const CArray<Row>& rows)
 {
     if (rows.empty())
         return true;
     std::vector<CString> names;
-    for (const int row : rows)
+    for (const Row row : rows)
         names.push_back(TextBeforeEdit(row, nameColumn));
     return CDataStld().Del(names) != 0;
 }
@@ -234,28 +226,27 @@ int CCMLoadCaseGrid::GetCountData()
     return CDataStld().GetCount();
 }
 
-void CCMLoadCaseGrid::MakeItemNormal(int count, const CArray<int>& /*columns*/)
+void CCMLoadCaseGrid::MakeItemNormal(int count, const CArray<ColumnIndex>& /*columns*/)
 {
     std::vector<zel::Key> keys;
     std::vector<T_STLD_D> records;
     CDataStld().GetList(keys, records);
-    for (int row = 1; row <= count; ++row) {
-        const auto place = static_cast<std::size_t>(row - 1);
-        SetRowTexts(row, TextsOf(keys[place], records[place]));
-        SetRowKey(row, keys[place]);
+    for (Row row = 1; row <= count; ++row) {
+        SetRowTexts(row, TextsOf(keys[row.place()], records[row.place()]));
+        SetRowKey(row, keys[row.place()]);
     }
 }
 
-void CCMLoadCaseGrid::MakeItemFiltered(int /*count*/, const CArray<int>& rows, const CArray<int>& /*columns*/)
+void CCMLoadCaseGrid::MakeItemFiltered(int /*count*/, const CArray<Row>& rows, const CArray<ColumnIndex>& /*columns*/)
 {
     CDataStld data;
-    for (const int row : rows) {
+    for (const Row row : rows) {
         if (data.Get(GetRowKey(row)) != 0)
             SetRowTexts(row, TextsOf(data.currentKey, data.currentRecord));
     }
 }
 
-void CCMLoadCaseGrid::MakeItemEditingRecord(int row, const CArray<CString>& texts)
+void CCMLoadCaseGrid::MakeItemEditingRecord(Row row, const CArray<CString>& texts)
 {
     CDataStld data;
     data.Initialize();
@@ -269,7 +260,7 @@ void CCMLoadCaseGrid::MakeItemEditingRecord(int row, const CArray<CString>& text
 
 void CCMLoadCaseGrid::InsertRow(const CDataStld& data)
 {
-    int row = 0;
+    Row row;
     FindRecordByKey(SortTextsFor(data), row);
     InsertRecord(row);
     SetRowTexts(row, TextsOf(data.currentKey, data.currentRecord));
@@ -278,7 +269,7 @@ void CCMLoadCaseGrid::InsertRow(const CDataStld& data)
 
 void CCMLoadCaseGrid::DeleteRow(const CDataStld& data)
 {
-    int row = 0;
+    Row row;
     if (FindRecordByKey(SortTextsFor(data), row) != 0)
         DeleteRecord(row);
 }
@@ -312,7 +303,7 @@ void CCMLoadCaseGrid::UpdateBuffer(const CViewBuff& buffer)
 
 void CCMLoadCaseGrid::ShowLoadCase(zel::Key key, const T_STLD_D& record)
 {
-    int row = 0;
+    Row row;
     if (FindRecordByKey(SortTextsOf(TextsOf(key, record)), row) != 0 && MakeRowCurrent(row) != 0)
         ShowCurrentRow();
 }
@@ -320,33 +311,19 @@ void CCMLoadCaseGrid::ShowLoadCase(zel::Key key, const T_STLD_D& record)
 // Dragging
 
 /// Always refuses the move: the grid itself moves nothing, since the notice of the new sequence rebuilds the rows.
-bool CCMLoadCaseGrid::OnSelDragRowsDrop(int /*firstRow*/, int /*lastRow*/, int targetRow)
+bool CCMLoadCaseGrid::OnSelDragRowsDrop(Row /*firstRow*/, Row /*lastRow*/, Row targetRow)
 {
-    if (IsEdit()) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Can_t_move_row_while_editing_");
-        return false;
-    }
-    const CArray<int> selected = GetSelectedRows();
-    if (selected.empty()) {
-        zel::showMessage("IDS_ZEL_CMD__Error___No_selected_static_load_case_");
-        return false;
-    }
-    const int behindAppendRow = GetRowCount() + 1;
-    const int afterRow = targetRow == behindAppendRow ? targetRow - 2 : targetRow - 1;
-    if (std::ranges::find(selected, afterRow) != selected.end()) {
-        zel::showMessage("IDS_ZEL_CMD__Error___Select_target_load_case_which_");
-        return false;
-    }
-    std::vector<zel::Key> keys;
-    for (const int row : selected)
-        keys.push_back(GetRowKey(row));
-    CDataStld().ChangeSequence(keys, KeyOf(afterRow));
+    constexpr zel::RowMoveRefusals refusals{.editing = "IDS_ZEL_CMD__Error___Can_t_move_row_while_editing_",
+                                            .nothingSelected = "IDS_ZEL_CMD__Error___No_selected_static_load_case_",
+                                            .noTarget = "IDS_ZEL_CMD__Error___Select_target_load_case_which_"};
+    if (const auto move = zel::droppedRows(*this, targetRow, refusals))
+        CDataStld().ChangeSequence(move->keys, move->afterKey);
     return false;
 }
 
 /// The key and the number stay in front.
-bool CCMLoadCaseGrid::OnSelDragColsDrop(int firstColumn, int /*lastColumn*/, int targetColumn)
+bool CCMLoadCaseGrid::OnSelDragColsDrop(ColumnPlace firstColumn, ColumnPlace /*lastColumn*/, ColumnPlace targetColumn)
 {
-    constexpr int lastFixedColumn = 2;
+    constexpr ColumnPlace lastFixedColumn = 2;
     return firstColumn > lastFixedColumn && targetColumn > lastFixedColumn;
 }

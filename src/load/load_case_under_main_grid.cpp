@@ -11,9 +11,9 @@
 namespace {
 
 // Indices of the columns.
-constexpr int noColumn = 0;
-constexpr int loadCaseColumn = 1;
-constexpr int directionColumn = 2;
+constexpr zel::ColumnIndex noColumn = 0;
+constexpr zel::ColumnIndex loadCaseColumn = 1;
+constexpr zel::ColumnIndex directionColumn = 2;
 
 std::vector<CString> namesOfEarthquakes()
 {
@@ -52,25 +52,25 @@ int CLoadCaseUnderMainGrid::GetDirByTitle(const CString& title)
     return title == GetDirTitle(zel::minusDirection) ? zel::minusDirection : zel::plusDirection;
 }
 
-T_LCUG_SEIS* CLoadCaseUnderMainGrid::GroupOf(int row)
+T_LCUG_SEIS* CLoadCaseUnderMainGrid::GroupOf(Row row)
 {
-    return row >= 1 && row <= GetCountData() ? &m_groups[static_cast<std::size_t>(row - 1)] : nullptr;
+    return row >= 1 && row <= GetCountData() ? &m_groups[row.place()] : nullptr;
 }
 
 T_LCUG_SEIS* CLoadCaseUnderMainGrid::GroupOf(const CString& rowName)
 {
-    for (int row = 1; row <= GetDataRowCount(); ++row) {
+    for (Row row = 1; row <= GetDataRowCount(); ++row) {
         if (GetRowHeaderText(row) == rowName)
             return GroupOf(row);
     }
     return nullptr;
 }
 
-void CLoadCaseUnderMainGrid::MakeItemNormal(int count, const CArray<int>& /*columns*/)
+void CLoadCaseUnderMainGrid::MakeItemNormal(int count, const CArray<ColumnIndex>& /*columns*/)
 {
-    for (int row = 1; row <= count; ++row) {
-        const T_LCUG_SEIS& group = m_groups[static_cast<std::size_t>(row - 1)];
-        SetRowTexts(row, {std::to_string(row), CDataStld().GetNameByKey(group.loadCaseKey), GetDirTitle(group.direction)});
+    for (Row row = 1; row <= count; ++row) {
+        const T_LCUG_SEIS& group = m_groups[row.place()];
+        SetRowTexts(row, {std::to_string(row.number()), CDataStld().GetNameByKey(group.loadCaseKey), GetDirTitle(group.direction)});
     }
 }
 
@@ -84,15 +84,20 @@ void CLoadCaseUnderMainGrid::ShowRows()
 
 void CLoadCaseUnderMainGrid::ReadTexts(const CArray<CString>& texts, T_LCUG_SEIS& group)
 {
-    group.loadCaseKey = CDataStld().GetKeyByName(texts[loadCaseColumn]);
-    group.direction = GetDirByTitle(texts[directionColumn]);
+    group.loadCaseKey = CDataStld().GetKeyByName(texts[loadCaseColumn.place()]);
+    group.direction = GetDirByTitle(texts[directionColumn.place()]);
 }
 
-bool CLoadCaseUnderMainGrid::IsFree(const T_LCUG_SEIS& group, const CArray<T_LCUG_SEIS>& groups, int exceptRow)
+zel::Row CLoadCaseUnderMainGrid::RowOf(const CArray<CString>& texts)
+{
+    return Row::of(zel::number::readInteger(texts[noColumn.place()]).value_or(0));
+}
+
+bool CLoadCaseUnderMainGrid::IsFree(const T_LCUG_SEIS& group, const CArray<T_LCUG_SEIS>& groups, Row exceptRow)
 {
     for (std::size_t i = 0; i < groups.size(); ++i) {
         const bool same = groups[i].loadCaseKey == group.loadCaseKey && groups[i].direction == group.direction;
-        if (same && static_cast<int>(i) + 1 != exceptRow) {
+        if (same && Row::at(i) != exceptRow) {
             const CString name = CDataStld().GetNameByKey(group.loadCaseKey);
             SetWarningText(zel::formatText(zel::loadText("IDS_CMD_ERR_SAME_LC_SAME_DIR"), {name, GetDirTitle(group.direction)}));
             return false;
@@ -104,19 +109,19 @@ bool CLoadCaseUnderMainGrid::IsFree(const T_LCUG_SEIS& group, const CArray<T_LCU
 bool CLoadCaseUnderMainGrid::IsComplete(const CArray<CString>& texts)
 {
     const CString missing = zel::loadText("IDS_ZEL_CMD___has_not_been_entered_");
-    return ValidateTexts({texts[loadCaseColumn], texts[directionColumn]}, {loadCaseColumn, directionColumn}, missing, Fields::passOver);
+    return ValidateTexts({texts[loadCaseColumn.place()], texts[directionColumn.place()]}, {loadCaseColumn, directionColumn}, missing, Fields::passOver);
 }
 
-bool CLoadCaseUnderMainGrid::ValidateRecord(const CArray<CString>& texts, const CArray<int>& /*columns*/)
+bool CLoadCaseUnderMainGrid::ValidateRecord(const CArray<CString>& texts, const CArray<ColumnIndex>& /*columns*/)
 {
     if (!IsComplete(texts))
         return false;
     T_LCUG_SEIS group;
     ReadTexts(texts, group);
-    return IsFree(group, m_groups, zel::number::readInteger(texts[noColumn]).value_or(0));
+    return IsFree(group, m_groups, RowOf(texts));
 }
 
-bool CLoadCaseUnderMainGrid::AddToDB(int row)
+bool CLoadCaseUnderMainGrid::AddToDB(Row row)
 {
     T_LCUG_SEIS group;
     ReadTexts(GetRowTexts(row), group);
@@ -124,7 +129,7 @@ bool CLoadCaseUnderMainGrid::AddToDB(int row)
     return true;
 }
 
-bool CLoadCaseUnderMainGrid::ModifyToDB(int row)
+bool CLoadCaseUnderMainGrid::ModifyToDB(Row row)
 {
     T_LCUG_SEIS* group = GroupOf(row);
     if (group == nullptr)
@@ -133,15 +138,15 @@ bool CLoadCaseUnderMainGrid::ModifyToDB(int row)
     return true;
 }
 
-bool CLoadCaseUnderMainGrid::DeleteFromDB(const CArray<int>& rows)
+bool CLoadCaseUnderMainGrid::DeleteFromDB(const CArray<Row>& rows)
 {
     if (m_onDelete)
         m_onDelete(dialog());
-    CArray<int> lastFirst = rows;
+    CArray<Row> lastFirst = rows;
     std::ranges::sort(lastFirst, std::greater());
-    for (const int row : lastFirst) {
+    for (const Row row : lastFirst) {
         if (GroupOf(row) != nullptr)
-            m_groups.erase(m_groups.begin() + (row - 1));
+            m_groups.erase(m_groups.begin() + static_cast<std::ptrdiff_t>(row.place()));
     }
     ShowRows();
     ShowCurrentRow();  // under the same number there may stand another case now
@@ -150,23 +155,23 @@ bool CLoadCaseUnderMainGrid::DeleteFromDB(const CArray<int>& rows)
 
 // Pasting: the key of a row is its number. Whether rows are alike shows when all of them stand together.
 
-bool CLoadCaseUnderMainGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& /*columns*/, zel::GridValues& keys, zel::GridValues& records)
+bool CLoadCaseUnderMainGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<ColumnIndex>& /*columns*/, Keys& keys, Records& records)
 {
     if (!IsComplete(texts))
         return false;
-    const int row = zel::number::readInteger(texts[noColumn]).value_or(0);
+    const Row row = RowOf(texts);
     const T_LCUG_SEIS* stored = GroupOf(row);
     T_LCUG_SEIS group = stored != nullptr ? *stored : T_LCUG_SEIS();
     ReadTexts(texts, group);
-    keys.emplace_back(row);
-    records.emplace_back(group);
+    keys.push_back(static_cast<std::uint32_t>(row.number()));
+    records.push_back(group);
     return true;
 }
 
 bool CLoadCaseUnderMainGrid::Take(const CArray<T_LCUG_SEIS>& groups)
 {
     for (std::size_t i = 0; i < groups.size(); ++i) {
-        if (!IsFree(groups[i], groups, static_cast<int>(i) + 1))
+        if (!IsFree(groups[i], groups, Row::at(i)))
             return false;
     }
     m_groups = groups;
@@ -174,20 +179,17 @@ bool CLoadCaseUnderMainGrid::Take(const CArray<T_LCUG_SEIS>& groups)
     return true;
 }
 
-bool CLoadCaseUnderMainGrid::AddToDB(const zel::GridValues& /*keys*/, const zel::GridValues& records)
+bool CLoadCaseUnderMainGrid::AddToDB(const Keys& /*keys*/, const Records& records)
 {
     CArray<T_LCUG_SEIS> groups = m_groups;
-    for (const std::any& record : records)
-        groups.push_back(std::any_cast<const T_LCUG_SEIS&>(record));
+    groups.insert(groups.end(), records.begin(), records.end());
     return Take(groups);
 }
 
-bool CLoadCaseUnderMainGrid::ModifyToDB(const zel::GridValues& oldKeys, const zel::GridValues& /*keys*/, const zel::GridValues& records)
+bool CLoadCaseUnderMainGrid::ModifyToDB(const Keys& oldKeys, const Keys& /*keys*/, const Records& records)
 {
     CArray<T_LCUG_SEIS> groups = m_groups;
-    for (std::size_t i = 0; i < oldKeys.size(); ++i) {
-        const int row = std::any_cast<int>(oldKeys[i]);
-        groups[static_cast<std::size_t>(row - 1)] = std::any_cast<const T_LCUG_SEIS&>(records[i]);
-    }
+    for (std::size_t i = 0; i < oldKeys.size(); ++i)
+        groups[oldKeys[i] - 1] = records[i];
     return Take(groups);
 }

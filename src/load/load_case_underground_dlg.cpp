@@ -135,7 +135,7 @@ T_LCUG_SEIS* CLoadCaseUndergroundDlg::TickedGroup()
     return m_rowName == noRow() ? nullptr : grid.GroupOf(m_rowName);
 }
 
-void CLoadCaseUndergroundDlg::OnChangedGridRow(int row)
+void CLoadCaseUndergroundDlg::OnChangedGridRow(zel::Row row)
 {
     if (T_LCUG_SEIS* left = TickedGroup())
         GetData_CheckBoxList(left->seismicKeys, left->staticKeys, false);

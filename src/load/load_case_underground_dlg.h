@@ -30,7 +30,7 @@ private:
     /// What the ticks are of; null if they belong to no row.
     [[nodiscard]] T_LCUG_SEIS* TickedGroup();
     /// The current row of the grid has changed: stores the check lists into the row that is left, and shows those of the new one.
-    void OnChangedGridRow(int row);
+    void OnChangedGridRow(zel::Row row);
     /// The check lists belong to no row from now on.
     void ForgetGridRow();
     void OnClickCmdSeismicList();

@@ -68,7 +68,7 @@ TEST_F(GridColumns, ThatAreFrozenStayInSightRowForRow)
     EXPECT_EQ(frozen.x(), free.x());
 
     screen->click(9, 1);
-    EXPECT_EQ(grid.GetSelectedRows(), CArray<int>({10}));
+    EXPECT_EQ(grid.GetSelectedRows(), CArray<Row>({10}));
     // A cell that the frozen column would cover is scrolled out from under it.
     screen->click(9, 4);
     screen->key(Qt::Key_Left);
@@ -103,10 +103,10 @@ public:
         SetCellStyle(3, 1, {.background = zel::Colour{255, 255, 200}});
         SetCellStyle(3, 2, {.foreground = zel::Colour{255, 0, 0}});
     }
-    void OnButtonCell(int row, int index) override { pressed.push_back(std::to_string(row) + " " + std::to_string(index)); }
-    bool OnDropText(int row, int column, const CString& text) override
+    void OnButtonCell(Row row, ColumnIndex index) override { pressed.push_back(std::to_string(row.number()) + " " + std::to_string(index.number())); }
+    bool OnDropText(Row row, ColumnPlace column, const CString& text) override
     {
-        dropped = std::to_string(row) + " " + std::to_string(column) + " " + text;
+        dropped = std::to_string(row.number()) + " " + std::to_string(column.number()) + " " + text;
         return true;
     }
 };

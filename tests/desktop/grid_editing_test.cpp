@@ -196,7 +196,7 @@ public:
     using MemberGrid::MemberGrid;
     using MemberGrid::ModifyToDB;
 
-    bool ModifyToDB(int row) override
+    bool ModifyToDB(Row row) override
     {
         const bool written = MemberGrid::ModifyToDB(row);
         dialog().DestroyWindow();

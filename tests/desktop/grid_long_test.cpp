@@ -21,18 +21,18 @@ public:
         ShowRowsOnDemand(true);
     }
 
-    std::vector<int> filled;  ///< rows, in the order in which they were asked for
+    CArray<Row> filled;  ///< rows, in the order in which they were asked for
     int fills = 0;
 
     void Initialize() override { CTBCommon::Initialize(); }
     int GetCountData() override { return rowCount; }
-    void MakeItemNormal(int /*count*/, const CArray<int>& /*columns*/) override {}
-    void MakeItemFiltered(int /*count*/, const CArray<int>& rows, const CArray<int>& /*columns*/) override
+    void MakeItemNormal(int /*count*/, const CArray<ColumnIndex>& /*columns*/) override {}
+    void MakeItemFiltered(int /*count*/, const CArray<Row>& rows, const CArray<ColumnIndex>& /*columns*/) override
     {
         ++fills;
         filled.insert(filled.end(), rows.begin(), rows.end());
-        for (const int row : rows)
-            SetRowTexts(row, CArray<CString>(columnCount, std::to_string(row)));
+        for (const Row row : rows)
+            SetRowTexts(row, CArray<CString>(columnCount, std::to_string(row.number())));
     }
 };
 

@@ -7,6 +7,9 @@
 
 namespace desktop_test {
 
+using zel::ColumnIndex;
+using zel::Row;
+
 /// Three members in a window: hidden keys, names, lengths, kinds to choose from, and checks. Columns on screen: key 0, name 1, length 2, kind 3,
 /// active 4.
 template <class Grid = zel::test::MemberGrid> class MembersOnScreenOf : public DesktopTest {

@@ -13,7 +13,7 @@ protected:
     [[nodiscard]] std::vector<CString> names() const
     {
         std::vector<CString> all;
-        for (int row = 1; row <= grid.GetDataRowCount(); ++row)
+        for (Row row = 1; row <= grid.GetDataRowCount(); ++row)
             all.push_back(grid.TextAt(row, 1));
         return all;
     }
@@ -22,14 +22,14 @@ protected:
 TEST_F(GridRows, AreSelectedByTheirHeadersWithControlAndShift)
 {
     screen->clickRow(1);
-    EXPECT_EQ(grid.GetSelectedRows(), CArray<int>({2}));
+    EXPECT_EQ(grid.GetSelectedRows(), CArray<Row>({2}));
     EXPECT_EQ(screen->selected(), std::vector<int>({1}));
     screen->clickRow(0, Qt::ControlModifier);
-    EXPECT_EQ(grid.GetSelectedRows(), CArray<int>({2, 1}));
+    EXPECT_EQ(grid.GetSelectedRows(), CArray<Row>({2, 1}));
     screen->clickRow(2, Qt::ShiftModifier);
-    EXPECT_EQ(grid.GetSelectedRows(), CArray<int>({1, 2, 3}));
+    EXPECT_EQ(grid.GetSelectedRows(), CArray<Row>({1, 2, 3}));
     screen->clickRow(1);
-    EXPECT_EQ(grid.GetSelectedRows(), CArray<int>({2}));
+    EXPECT_EQ(grid.GetSelectedRows(), CArray<Row>({2}));
     screen->click(0, 1);
     EXPECT_TRUE(screen->selected().empty());
 }
@@ -50,7 +50,7 @@ TEST_F(GridRows, WhatAnAssistiveToolSelectsReachesTheController)
     screen->table().selectionModel()->setCurrentIndex(screen->cell(1, 2), QItemSelectionModel::NoUpdate);
     EXPECT_EQ(grid.GetCurrentRow(), 2);
     screen->table().selectionModel()->select(screen->cell(2, 1), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    EXPECT_EQ(grid.GetSelectedRows(), CArray<int>({3}));
+    EXPECT_EQ(grid.GetSelectedRows(), CArray<Row>({3}));
 }
 
 TEST_F(GridRows, ShiftWithArrowsExtendsTheSelection)

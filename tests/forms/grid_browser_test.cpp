@@ -17,7 +17,7 @@ public:
             member.length *= 10.0;
         RebuildRows();
     }
-    void MakeItemEditingRecord(int row, const CArray<CString>& texts) override { SetTextAt(row, length, RealText(RealOf(texts[length]) * 10.0)); }
+    void MakeItemEditingRecord(Row row, const CArray<CString>& texts) override { SetTextAt(row, length, RealText(RealOf(texts[length]) * 10.0)); }
 };
 
 class GridUnits : public GridTestOf<UnitGrid> {};
@@ -40,29 +40,29 @@ public:
     bool writesAll = false;
 
     int GetCountData() override { return rowCount; }
-    void MakeItemNormal(int count, const CArray<int>& /*columns*/) override
+    void MakeItemNormal(int count, const CArray<ColumnIndex>& /*columns*/) override
     {
-        for (int row = 1; row <= count; ++row) {
-            SetRowKey(row, static_cast<std::uint32_t>(2 * row));  // even keys, so that there are places between
+        for (Row row = 1; row <= count; ++row) {
+            SetRowKey(row, static_cast<std::uint32_t>(2 * row.number()));  // even keys, so that there are places between
             if (writesAll)
                 write(row);
         }
     }
-    void MakeItemFiltered(int count, const CArray<int>& rows, const CArray<int>& /*columns*/) override
+    void MakeItemFiltered(int count, const CArray<Row>& rows, const CArray<ColumnIndex>& /*columns*/) override
     {
         EXPECT_EQ(static_cast<std::size_t>(count), rows.size());
-        for (const int row : rows) {
-            asked.push_back(row);
+        for (const Row row : rows) {
+            asked.push_back(row.number());
             write(row);
         }
     }
-    bool DeleteFromDB(const CArray<int>& /*rows*/) override { return true; }
+    bool DeleteFromDB(const CArray<Row>& /*rows*/) override { return true; }
 
 private:
-    void write(int row)
+    void write(Row row)
     {
         SetTextAt(row, 0, std::to_string(GetRowKey(row)));
-        for (int column = 1; column < columnCount; column += 10)
+        for (ColumnIndex column = 1; column < columnCount; column = column + 10)
             SetTextAt(row, column, "1.25");
     }
 };
@@ -103,13 +103,13 @@ public:
 
     std::vector<CString> calls;
 
-    bool ValidateField(const CString& text, int column) override { return column == 0 || ValidateNumber(text, {"formula", "character", "big"}); }
-    void OnEndEditing(int row, int index) override { calls.push_back("edited " + std::to_string(row) + " " + TextAt(row, index)); }
-    void OnButtonCell(int row, int /*index*/) override { calls.push_back("pressed " + std::to_string(row)); }
+    bool ValidateField(const CString& text, ColumnIndex column) override { return column == 0 || ValidateNumber(text, {"formula", "character", "big"}); }
+    void OnEndEditing(Row row, ColumnIndex index) override { calls.push_back("edited " + std::to_string(row.number()) + " " + TextAt(row, index)); }
+    void OnButtonCell(Row row, ColumnIndex /*index*/) override { calls.push_back("pressed " + std::to_string(row.number())); }
     void OnPasted() override { calls.push_back("pasted"); }
-    bool ModifyToDB(int row) override
+    bool ModifyToDB(Row row) override
     {
-        calls.push_back("written " + std::to_string(row));
+        calls.push_back("written " + std::to_string(row.number()));
         return true;
     }
 };
@@ -164,7 +164,7 @@ TEST_F(GridLong, RowsOnDemandAreReadOnceAndOnlyWhenTheyAreLookedAt)
     EXPECT_EQ(grid.asked, (std::vector<int>{70'001, 10, 11, 12, 13}));
     EXPECT_EQ(dialog.count.changes, 0);  // reading is no change
 
-    int row = 0;
+    Row row;
     grid.asked.clear();
     EXPECT_NE(grid.FindRecordByKey({"150000"}, row), 0);
     EXPECT_EQ(row, 75'000);
@@ -186,7 +186,7 @@ TEST_F(GridLong, StaysQuickWithAHundredThousandRows)
     {
         const zel::GridUpdate update{grid};
         for (int i = 0; i < 2'000; ++i) {
-            int row = 0;
+            Row row;
             const CString key = std::to_string(2 * ((i * 7919) % LongGrid::rowCount) + 1);  // an odd key, somewhere
             ASSERT_EQ(grid.FindRecordByKey({key}, row), 0);
             grid.InsertRecord(row);
@@ -195,8 +195,8 @@ TEST_F(GridLong, StaysQuickWithAHundredThousandRows)
     }
     EXPECT_EQ(dialog.count.changes, 1);
     EXPECT_EQ(grid.GetDataRowCount(), LongGrid::rowCount + 2'000);
-    for (int row = 2; row <= grid.GetDataRowCount(); ++row)
-        ASSERT_LT(std::stoi(grid.TextAt(row - 1, 0)), std::stoi(grid.TextAt(row, 0))) << row;
+    for (Row row = 2; row <= grid.GetDataRowCount(); ++row)
+        ASSERT_LT(std::stoi(grid.TextAt(row - 1, 0)), std::stoi(grid.TextAt(row, 0))) << row.number();
 
     std::vector<int> all(static_cast<std::size_t>(grid.GetDataRowCount()));
     for (std::size_t i = 0; i < all.size(); ++i)

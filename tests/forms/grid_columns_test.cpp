@@ -14,7 +14,7 @@ TEST_F(GridColumns, KeepTheirIndexWhenTheyAreMovedOnScreen)
 {
     EXPECT_TRUE(grid.dragColumns(1, 1, 5).ok());  // the name to the end
 
-    int column = 0;
+    ColumnPlace column;
     EXPECT_NE(grid.GetColumnNoFor(MemberGrid::name, column), 0);
     EXPECT_EQ(column, 5);
     EXPECT_NE(grid.GetColumnNoFor("Length", column), 0);
@@ -44,7 +44,7 @@ TEST_F(GridColumns, AreEditedWhereTheyStandOnScreen)
 
 TEST_F(GridColumns, UnknownIndexAndTitleLeaveTheNumberAlone)
 {
-    int column = 77;
+    ColumnPlace column = 77;
     EXPECT_EQ(grid.GetColumnNoFor(9, column), 0);
     EXPECT_EQ(grid.GetColumnNoFor(-1, column), 0);
     EXPECT_EQ(grid.GetColumnNoFor("Colour", column), 0);
@@ -120,7 +120,7 @@ TEST_F(GridColumns, HidingTheCurrentOneMovesTheCurrentCellOn)
 
 TEST_F(GridColumns, AddedLaterAreEmptyInTheRowsThatStand)
 {
-    const int index = grid.AddColInfo("Note", 3, 0);
+    const ColumnIndex index = grid.AddColInfo("Note", 3, 0);
     EXPECT_EQ(grid.line(1), "1|B1|2.5|beam|1|");
     grid.SetTextAt(1, index, "first");
     grid.SetTextAt(1, MemberGrid::name, "");

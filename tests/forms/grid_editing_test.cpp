@@ -42,6 +42,43 @@ TEST_F(GridEditing, TheClickedRecordIsMetWhenTheWrittenRowMovesPastIt)
     EXPECT_EQ(grid.field("current"), "1,1");
 }
 
+namespace {
+
+/// Notes, each with a date: grids whose first column takes texts.
+class NoteGrid : public CTBCommon {
+public:
+    explicit NoteGrid(const zel::Place& place) : CTBCommon(place, "notes")
+    {
+        AddColInfo("Date", 3, 0);
+        AddColInfo("Note", 3, 0);
+    }
+};
+
+}  // namespace
+
+TEST(GridOfTexts, TheFirstColumnIsTypedIntoStepByStep)
+{
+    zel::HeadlessUserInterface host;
+    GridDialog<NoteGrid> dialog;
+    NoteGrid& grid = dialog.grid;
+    dialog.open();
+    grid.Initialize();
+    EXPECT_TRUE(grid.openCell(CTBGrid::append, 0).ok());
+    EXPECT_EQ(grid.GetOpenCell(), 0);
+    EXPECT_TRUE(grid.typeText("May").ok());
+    EXPECT_EQ(grid.TextAt(1, 0), "May");
+    EXPECT_EQ(grid.GetShownText(1, 0), "May");
+    EXPECT_TRUE(grid.escape().ok());
+    EXPECT_FALSE(grid.IsEdit());
+    EXPECT_TRUE(grid.openCell(CTBGrid::append, 0).ok());
+    EXPECT_TRUE(grid.typeText("June").ok());
+    EXPECT_TRUE(grid.leaveCell().ok());
+    EXPECT_EQ(grid.GetOpenCell(), -1);
+    EXPECT_TRUE(grid.leaveRow().ok());
+    EXPECT_EQ(grid.GetRowTexts(1), (CArray<CString>{"June", ""}));
+    dialog.DestroyWindow();
+}
+
 TEST_F(GridEditing, ARefusedCellStaysOpenWithItsTextAndTheWarningIsShown)
 {
     EXPECT_TRUE(grid.typeCell(1, 2, "-3").ok());
@@ -306,7 +343,7 @@ TEST_F(GridEditing, DeletingAsksForAllRowsAtOnce)
     EXPECT_EQ(grid.take(), (Calls{"delete 2"}));
     EXPECT_EQ(grid.lines(), (Calls{"2|B2|3|beam|0"}));
     EXPECT_FALSE(grid.deleteRows({1}).ok());
-    EXPECT_FALSE(grid.deleteRows({append}).ok());
+    EXPECT_FALSE(grid.deleteRows({append.number()}).ok());
     EXPECT_FALSE(grid.deleteRows({}).ok());
     grid.refusesWrites = true;
     EXPECT_TRUE(grid.deleteRows({0}).ok());

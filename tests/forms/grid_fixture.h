@@ -1,7 +1,7 @@
 #pragma once
 
 #include "contract/forms/dialog.h"
-#include "contract/forms/grid_common.h"
+#include "contract/forms/grid_records.h"
 #include "platform/forms/headless_user_interface.h"
 
 #include <algorithm>
@@ -14,6 +14,10 @@
 #include <gtest/gtest.h>
 
 namespace zel::test {
+
+using zel::ColumnIndex;
+using zel::ColumnPlace;
+using zel::Row;
 
 /// The fields of a grid as a form lists them, each as one text.
 class GridFields : public IFieldWriter {
@@ -82,11 +86,11 @@ struct Member {
 };
 
 /// Members in memory. Column 0 is the key, column 1 the name by which rows are sorted. Names are unique, lengths positive.
-class MemberGrid : public CTBCommon {
+class MemberGrid : public CTBRecordGrid<Member> {
 public:
     enum Column { number, name, length, kind, active };
 
-    explicit MemberGrid(const Place& place) : CTBCommon(place, "members", [this](int row) { calls.push_back("row " + std::to_string(row)); })
+    explicit MemberGrid(const Place& place) : CTBRecordGrid(place, "members", [this](Row row) { calls.push_back("row " + std::to_string(row.number())); })
     {
         AddColInfo("Key", 1, 0);
         AddColInfo("Name", 3, 0);
@@ -113,10 +117,10 @@ public:
         CTBCommon::Initialize();
     }
     int GetCountData() override { return static_cast<int>(data.size()); }
-    void MakeItemNormal(int count, const CArray<int>& /*columns*/) override
+    void MakeItemNormal(int count, const CArray<ColumnIndex>& /*columns*/) override
     {
-        for (int row = 1; row <= count; ++row)
-            SetRowTexts(row, textsOf(data[static_cast<std::size_t>(row - 1)]));
+        for (Row row = 1; row <= count; ++row)
+            SetRowTexts(row, textsOf(data[row.place()]));
     }
     CString GetNewKey() override
     {
@@ -131,9 +135,9 @@ public:
         return values;
     }
 
-    bool ValidateField(const CString& text, int column) override
+    bool ValidateField(const CString& text, ColumnIndex column) override
     {
-        calls.push_back("field " + std::to_string(column) + " " + text);
+        calls.push_back("field " + std::to_string(column.number()) + " " + text);
         if (column != length)
             return true;
         if (!ValidateNumber(text, {"bad formula", "stray character", "too big"}))
@@ -143,48 +147,48 @@ public:
         SetWarningText("length must be positive");
         return false;
     }
-    bool ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns) override
+    bool ValidateRecord(const CArray<CString>& texts, const CArray<ColumnIndex>& columns) override
     {
         calls.push_back("record " + texts[name]);
         return ValidateTexts(texts, columns, " is missing", Fields::validate);
     }
-    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, GridValues& keys, GridValues& records) override
+    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, Keys& keys, Records& records) override
     {
         if (!ValidateRecord(texts, columns))
             return false;
         const Member member = memberOf(texts);
-        keys.emplace_back(member.key);
-        records.emplace_back(member);
+        keys.push_back(static_cast<std::uint32_t>(member.key));
+        records.push_back(member);
         return true;
     }
 
-    bool AddToDB(int row) override
+    bool AddToDB(Row row) override
     {
         const Member member = memberOf(GetRowTexts(row));
         calls.push_back("add " + member.name);
         return add({member});
     }
-    bool AddToDB(const GridValues& keys, const GridValues& records) override
+    bool AddToDB(const Keys& keys, const Records& records) override
     {
         calls.push_back("add block " + std::to_string(keys.size()));
-        return add(membersOf(records));
+        return add(records);
     }
-    bool ModifyToDB(int row) override
+    bool ModifyToDB(Row row) override
     {
         const CString oldName = TextBeforeEdit(row, name);
         const Member member = memberOf(GetRowTexts(row));
         calls.push_back("modify " + oldName + " " + member.name);
         return modify({member});
     }
-    bool ModifyToDB(const GridValues& oldKeys, const GridValues& keys, const GridValues& records) override
+    bool ModifyToDB(const Keys& oldKeys, const Keys& keys, const Records& records) override
     {
         calls.push_back("modify block " + std::to_string(oldKeys.size()) + " " + std::to_string(keys.size()));
-        return modify(membersOf(records));
+        return modify(records);
     }
-    bool DeleteFromDB(const CArray<int>& rows) override
+    bool DeleteFromDB(const CArray<Row>& rows) override
     {
         CArray<int> keys;
-        for (const int row : rows)
+        for (const Row row : rows)
             keys.push_back(std::stoi(TextBeforeEdit(row, number)));
         calls.push_back("delete " + std::to_string(rows.size()));
         if (refusesWrites)
@@ -195,33 +199,33 @@ public:
         return true;
     }
 
-    void OnChangedSelectionPublic(const CArray<int>& rows, int count) override
+    void OnChangedSelectionPublic(const CArray<Row>& rows, int count) override
     {
         CString line = "selected " + std::to_string(count) + ":";
-        for (const int row : rows)
-            line += " " + std::to_string(row);
+        for (const Row row : rows)
+            line += " " + std::to_string(row.number());
         calls.push_back(line);
     }
-    void OnClickCell(int row, int column) override { note("click", row, column); }
-    void OnDoubleClickCell(int row, int column) override { note("double click", row, column); }
-    void OnRightDoubleClickCell(int row, int column) override { note("right double click", row, column); }
-    void OnEndEditing(int row, int index) override { note("edited", row, index); }
-    void OnCancelEditing(int row, int index) override { note("given up", row, index); }
+    void OnClickCell(Row row, ColumnPlace column) override { note("click", row, column); }
+    void OnDoubleClickCell(Row row, ColumnPlace column) override { note("double click", row, column); }
+    void OnRightDoubleClickCell(Row row, ColumnPlace column) override { note("right double click", row, column); }
+    void OnEndEditing(Row row, ColumnIndex index) override { note("edited", row, index); }
+    void OnCancelEditing(Row row, ColumnIndex index) override { note("given up", row, index); }
 
     [[nodiscard]] std::vector<CString> take() { return std::exchange(calls, {}); }
 
     /// A row of texts as it is kept: "1|B1|2.5|beam|1".
-    [[nodiscard]] CString line(int row) const
+    [[nodiscard]] CString line(Row row) const
     {
         CString text;
-        for (int index = 0; index < GetColCount(); ++index)
+        for (const ColumnIndex index : GetAllColumns())
             text += (index > 0 ? "|" : "") + TextAt(row, index);
         return text;
     }
     [[nodiscard]] std::vector<CString> lines() const
     {
         std::vector<CString> all;
-        for (int row = 1; row <= GetDataRowCount(); ++row)
+        for (Row row = 1; row <= GetDataRowCount(); ++row)
             all.push_back(line(row));
         return all;
     }
@@ -237,17 +241,13 @@ public:
     }
 
 protected:
-    void note(const char* what, int row, int column) { calls.push_back(what + (" " + std::to_string(row)) + " " + std::to_string(column)); }
+    template <class Column> void note(const char* what, Row row, Column column)
+    {
+        calls.push_back(what + (" " + std::to_string(row.number())) + " " + std::to_string(column.number()));
+    }
     void sort()
     {
         std::sort(data.begin(), data.end(), [](const Member& a, const Member& b) { return a.name < b.name; });
-    }
-    static std::vector<Member> membersOf(const GridValues& records)
-    {
-        std::vector<Member> members;
-        for (const std::any& record : records)
-            members.push_back(std::any_cast<const Member&>(record));
-        return members;
     }
     bool add(const std::vector<Member>& members)
     {
@@ -281,7 +281,7 @@ protected:
         sort();
         if (!mirrors)
             return;
-        int row = 0;
+        Row row;
         FindRecordByKey({member.name}, row);
         InsertRecord(row);
         SetRowTexts(row, textsOf(member));
@@ -291,7 +291,7 @@ protected:
         const auto found = std::find_if(data.begin(), data.end(), [&](const Member& member) { return member.key == memberKey; });
         if (found == data.end())
             return;
-        int row = 0;
+        Row row;
         if (mirrors && FindRecordByKey({found->name}, row) != 0)
             DeleteRecord(row);
         data.erase(found);
@@ -335,7 +335,7 @@ protected:
     HeadlessUserInterface host;
     GridDialog<Grid> dialog;
     Grid& grid = dialog.grid;
-    static constexpr int append = CTBGrid::append;
+    static constexpr UserRow append = CTBGrid::append;
 };
 
 using Calls = std::vector<CString>;

@@ -19,13 +19,17 @@ public:
         SetColFrozen(name);
         MemberGrid::Initialize();
     }
-    bool OnSelDragRowsDrop(int firstRow, int lastRow, int targetRow) override
+    bool OnSelDragRowsDrop(Row firstRow, Row lastRow, Row targetRow) override
     {
-        calls.push_back("drop " + std::to_string(firstRow) + " " + std::to_string(lastRow) + " " + std::to_string(targetRow) + (IsEdit() ? " editing" : ""));
+        calls.push_back("drop " + std::to_string(firstRow.number()) + " " + std::to_string(lastRow.number()) + " " + std::to_string(targetRow.number()) +
+                        (IsEdit() ? " editing" : ""));
         return takes && MemberGrid::OnSelDragRowsDrop(firstRow, lastRow, targetRow);
     }
-    bool OnSelDragColsDrop(int firstColumn, int lastColumn, int targetColumn) override { return firstColumn > 2 && lastColumn > 2 && targetColumn > 2; }
-    bool OnDropText(int row, int column, const CString& text) override
+    bool OnSelDragColsDrop(ColumnPlace firstColumn, ColumnPlace lastColumn, ColumnPlace targetColumn) override
+    {
+        return firstColumn > 2 && lastColumn > 2 && targetColumn > 2;
+    }
+    bool OnDropText(Row row, ColumnPlace column, const CString& text) override
     {
         note("dropped", row, column);
         if (text == "bad")
@@ -62,7 +66,7 @@ TEST_F(GridRows, AreNumberedFromOneBehindTheHeaderAndBeforeTheAppendRow)
 
 TEST_F(GridRows, AreFoundByTheirSortValuesOrTheirPlaceIsTold)
 {
-    int row = 0;
+    Row row;
     EXPECT_NE(grid.FindRecordByKey({"B2"}, row), 0);
     EXPECT_EQ(row, 2);
     EXPECT_EQ(grid.FindRecordByKey({"A"}, row), 0);
@@ -79,7 +83,7 @@ TEST_F(GridRows, SortNumbersByValueAndThenByTheNextColumn)
     grid.SetTextAt(1, MemberGrid::length, "2");
     grid.SetTextAt(2, MemberGrid::length, "10");
     grid.SetTextAt(3, MemberGrid::length, "10");
-    int row = 0;
+    Row row;
     EXPECT_NE(grid.FindRecordByKey({"10.0", "3"}, row), 0);
     EXPECT_EQ(row, 3);
     EXPECT_EQ(grid.FindRecordByKey({"9", "1"}, row), 0);
@@ -91,7 +95,7 @@ TEST_F(GridRows, SortNumbersByValueAndThenByTheNextColumn)
 TEST_F(GridRows, AreFoundByWhatIsStoredNotByWhatIsBeingTyped)
 {
     ASSERT_TRUE(grid.typeCell(1, 1, "Z").ok());
-    int row = 0;
+    Row row;
     EXPECT_NE(grid.FindRecordByKey({"B2"}, row), 0);
     EXPECT_EQ(row, 2);
     EXPECT_EQ(grid.FindRecordByKey({"Z"}, row), 0);
@@ -108,16 +112,16 @@ TEST_F(GridRows, SelectionIsByWholeRowsInTheOrderOfSelecting)
     EXPECT_EQ(keys, (CArray<std::uint32_t>{3, 1}));
 
     grid.InsertRecord(2);
-    EXPECT_EQ(grid.GetSelectedRows(), (CArray<int>{4, 1}));
+    EXPECT_EQ(grid.GetSelectedRows(), (CArray<Row>{4, 1}));
     grid.DeleteRecord(1);
-    EXPECT_EQ(grid.GetSelectedRows(), (CArray<int>{3}));
+    EXPECT_EQ(grid.GetSelectedRows(), (CArray<Row>{3}));
 
     EXPECT_TRUE(grid.clickCell(1, 1).ok());
     EXPECT_TRUE(grid.GetSelectedRows().empty());
     EXPECT_EQ(grid.take(), (Calls{"selected 0:", "click 2 2", "row 2"}));
     EXPECT_TRUE(grid.select({}).ok());
     EXPECT_FALSE(grid.select({7}).ok());
-    EXPECT_FALSE(grid.select({append}).ok());
+    EXPECT_FALSE(grid.select({append.number()}).ok());
 }
 
 TEST_F(GridRows, SelectingLeavesTheRowUnderEditFirst)
@@ -128,7 +132,7 @@ TEST_F(GridRows, SelectingLeavesTheRowUnderEditFirst)
     ASSERT_TRUE(grid.escape().ok());
     ASSERT_TRUE(grid.typeCell(0, 1, "Z1").ok());
     EXPECT_TRUE(grid.select({1, 2}).ok());  // B2 and C1
-    EXPECT_EQ(grid.GetSelectedRows(), (CArray<int>{1, 2}));
+    EXPECT_EQ(grid.GetSelectedRows(), (CArray<Row>{1, 2}));
     EXPECT_EQ(grid.line(1), "2|B2|3|beam|0");
 }
 
@@ -209,7 +213,7 @@ TEST_F(GridRows, AnUpdateOfAllRowsAwayLeavesTheAppendRowCurrent)
     ASSERT_TRUE(grid.clickCell(0, 1).ok());
     {
         const zel::GridUpdate update{grid};
-        for (int row = 3; row >= 1; --row)
+        for (Row row = 3; row >= 1; --row)
             grid.DeleteRecord(row);
     }
     EXPECT_EQ(grid.field("current"), "append,1");

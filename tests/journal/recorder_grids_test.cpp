@@ -22,7 +22,7 @@ protected:
         for (std::size_t length = 1; length <= text.size(); ++length)
             EXPECT_TRUE(hand.typeText(form->grid, text.substr(0, length)));
     }
-    void edit(int row, int column, const CString& text)
+    void edit(zel::UserRow row, zel::UserColumn column, const CString& text)
     {
         EXPECT_TRUE(hand.openCell(form->grid, row, column));
         typeInto(text);

@@ -186,9 +186,9 @@ protected:
     void grid(CTBBrowserWndEx& grid)
     {
         const int rows = grid.GetDataRowCount();
-        const int row = rows == 0 || below(4) == 0 ? CTBGrid::append : below(rows);
+        const int row = rows == 0 || below(4) == 0 ? CTBGrid::append.number() : below(rows);
         const int column = below(std::max(grid.GetColCount(), 1));
-        const int index = grid.GetColIndex(column + 1);
+        const zel::ColumnIndex index = grid.GetColIndex(CTBGrid::toColumn(column));
         const std::vector<CString> choices = index >= 0 && grid.toRow(row) > 0 ? grid.GetCellChoices(grid.toRow(row), index) : std::vector<CString>{};
         const CString typed = choices.empty() || below(8) == 0 ? text() : anyOf(choices);
         switch (below(12)) {

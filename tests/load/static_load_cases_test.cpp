@@ -1,7 +1,7 @@
 #include "load/dialog_test.h"
 
 #include "command/command.h"
-#include "contract/forms/grid_browser_ex.h"
+#include "contract/forms/grid_records.h"
 #include "contract/forms/open_dialogs.h"
 
 namespace {
@@ -32,7 +32,7 @@ protected:
     }
 
     /// Clicks into the name of a row, from 0.
-    static void click(const Form& form, int row)
+    static void click(const Form& form, zel::UserRow row)
     {
         constexpr int nameColumn = 2;
         ASSERT_TRUE(gridOf(form).clickCell(row, nameColumn).ok());
@@ -41,11 +41,11 @@ protected:
     static void drag(const Form& form, const std::vector<int>& rows, int to) { ASSERT_TRUE(gridOf(form).dragRows(rows, to).ok()); }
 
     static Texts names(const Form& form) { return column(form, 2); }
-    static Texts column(const Form& form, int index)
+    static Texts column(const Form& form, zel::ColumnIndex index)
     {
         const CTBGrid& grid = gridOf(form);
         Texts texts;
-        for (int row = 1; row <= grid.GetDataRowCount(); ++row)
+        for (zel::Row row = 1; row <= grid.GetDataRowCount(); ++row)
             texts.push_back(grid.TextAt(row, index));
         return texts;
     }
@@ -118,7 +118,7 @@ TEST_F(StaticLoadCases, TheListHasItsColumnsAndOnlyShows)
     };
     ASSERT_EQ(grid.GetColCount(), 6);
     for (int index = 0; index < 6; ++index) {
-        const zel::GridColumn& column = grid.GetColInfo(index);
+        const zel::GridColumn& column = grid.GetColInfo(zel::ColumnIndex::of(index));
         EXPECT_EQ(column.title, columns[index].title);
         EXPECT_EQ(column.width, columns[index].width);
         EXPECT_EQ(column.kind, columns[index].kind);
@@ -489,7 +489,7 @@ TEST_F(StaticLoadCases, AClickIntoTheNumberSelectsTheWholeRow)
     addCase("LL", "L");
     const Form form = open();
     ASSERT_TRUE(gridOf(form).clickCell(1, 1).ok());
-    EXPECT_THAT(gridOf(form).GetSelectedRows(), ElementsAre(2));
+    EXPECT_THAT(gridOf(form).GetSelectedRows(), ElementsAre(zel::Row{2}));
     EXPECT_EQ(form.text("Name"), "LL");
 }
 
@@ -528,7 +528,7 @@ TEST_F(StaticLoadCaseOrder, ADropBehindTheLastRowMovesToTheEndOnEitherSideOfTheA
     EXPECT_THAT(names(form), ElementsAre("C", "D", "A", "B"));
     select(form, {0});
     CTBBrowserWndEx& grid = gridOf(form);
-    const int behindAppendRow = grid.GetRowCount() + 1;
+    const zel::Row behindAppendRow = zel::Row::of(grid.GetRowCount() + 1);
     EXPECT_FALSE(grid.OnSelDragRowsDrop(1, 1, behindAppendRow));
     EXPECT_THAT(names(form), ElementsAre("D", "A", "B", "C"));
 }
@@ -659,7 +659,7 @@ protected:
     StaticLoadCaseRows() { addCase("DL", "D"); }
 
     static constexpr int columnCount = 6;
-    static inline const CArray<int> columns{0, 1, 2, 3, 4, 5};
+    static inline const CArray<zel::ColumnIndex> columns{0, 1, 2, 3, 4, 5};
 };
 
 TEST_F(StaticLoadCaseRows, AColumnThatIsNotThereFailsTheTestOfACell)
@@ -684,28 +684,29 @@ TEST_F(StaticLoadCaseRows, NameTypeAndFactorMustBeEnteredAndEachMissingOneHasIts
 TEST_F(StaticLoadCaseRows, TextsBecomeAKeyAndARecord)
 {
     const Form form = open();
-    zel::GridValues keys;
-    zel::GridValues records;
-    ASSERT_TRUE(gridOf(form).MakeKeyAndDataArray({"", "7", "LL", "Live Load (L)", "1.2*2", "floors"}, columns, keys, records));
+    auto& grid = form.at<CTBRecordGrid<T_STLD_D>>("grid");
+    CArray<zel::Key> keys;
+    CArray<T_STLD_D> records;
+    ASSERT_TRUE(grid.MakeKeyAndDataArray({"", "7", "LL", "Live Load (L)", "1.2*2", "floors"}, columns, keys, records));
     ASSERT_EQ(keys.size(), 1U);
-    EXPECT_EQ(std::any_cast<zel::Key>(keys[0]), 0U);
-    const auto& record = std::any_cast<const T_STLD_D&>(records[0]);
+    EXPECT_EQ(keys[0], 0U);
+    const T_STLD_D& record = records[0];
     EXPECT_EQ(record.no, 7);
     EXPECT_EQ(record.name, "LL");
     EXPECT_EQ(record.type, "L");
     EXPECT_EQ(record.selfWeightFactor, 2.4);
     EXPECT_EQ(record.description, "floors");
 
-    EXPECT_FALSE(gridOf(form).MakeKeyAndDataArray({"", "", "", "", "", ""}, columns, keys, records));
+    EXPECT_FALSE(grid.MakeKeyAndDataArray({"", "", "", "", "", ""}, columns, keys, records));
     EXPECT_EQ(keys.size(), 1U);
 }
 
 TEST_F(StaticLoadCaseRows, RowsAreWrittenAsAWhole)
 {
     const Form form = open();
-    CTBBrowserWndEx& grid = gridOf(form);
-    zel::GridValues keys;
-    zel::GridValues records;
+    auto& grid = form.at<CTBRecordGrid<T_STLD_D>>("grid");
+    CArray<zel::Key> keys;
+    CArray<T_STLD_D> records;
     for (const char* name : {"LL", "SL"})
         ASSERT_TRUE(grid.MakeKeyAndDataArray({"", "", name, "Live Load (L)", "0", ""}, columns, keys, records));
     EXPECT_TRUE(grid.AddToDB(keys, records));
@@ -714,7 +715,7 @@ TEST_F(StaticLoadCaseRows, RowsAreWrittenAsAWhole)
     EXPECT_THAT(storedNames(), ElementsAre("DL", "LL", "SL"));
     grid.DeleteKeyAndDataArray(keys, records);
     EXPECT_TRUE(keys.empty() && records.empty());
-    EXPECT_TRUE(grid.DeleteFromDB(CArray<int>{}));
+    EXPECT_TRUE(grid.DeleteFromDB(CArray<zel::Row>{}));
     EXPECT_EQ(grid.GetNewKey(), "4");
     EXPECT_EQ(grid.GetCountData(), 3);
     EXPECT_THAT(grid.GetDefValueArray(), ElementsAre("", "", "", "", "", ""));

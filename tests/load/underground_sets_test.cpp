@@ -34,12 +34,12 @@ protected:
     {
         const CTBGrid& grid = gridOf(form);
         std::vector<Texts> rows;
-        for (int row = 1; row <= grid.GetDataRowCount(); ++row)
+        for (zel::Row row = 1; row <= grid.GetDataRowCount(); ++row)
             rows.push_back(grid.GetRowTexts(row));
         return rows;
     }
-    static void click(const Form& form, int row) { ASSERT_TRUE(gridOf(form).clickCell(row, 1).ok()); }
-    static void type(const Form& form, int row, int column, const CString& text)
+    static void click(const Form& form, zel::UserRow row) { ASSERT_TRUE(gridOf(form).clickCell(row, 1).ok()); }
+    static void type(const Form& form, zel::UserRow row, zel::UserColumn column, const CString& text)
     {
         const zel::Taken taken = gridOf(form).typeCell(row, column, text);
         ASSERT_TRUE(taken.ok()) << taken.refusal;

@@ -10,6 +10,10 @@
 
 namespace zel::test {
 
+using zel::ColumnIndex;
+using zel::ColumnPlace;
+using zel::Row;
+
 /// The editor of load combinations, as a person uses it. The model has the load cases DL, LL and WX with the keys 1, 2, 3.
 class EditorTest : public DialogTest {
 protected:
@@ -73,23 +77,23 @@ protected:
     /// The rows, cells joined by "|": as kept, and as shown.
     static Texts rows(const CTBGrid& grid)
     {
-        return joined(grid, [&grid](int row, int index) { return grid.TextAt(row, index); });
+        return joined(grid, [&grid](Row row, ColumnIndex index) { return grid.TextAt(row, index); });
     }
     static Texts shownRows(const CTBGrid& grid)
     {
-        return joined(grid, [&grid](int row, int index) { return grid.GetShownText(row, index); });
+        return joined(grid, [&grid](Row row, ColumnIndex index) { return grid.GetShownText(row, index); });
     }
-    static Texts column(const CTBGrid& grid, int index)
+    static Texts column(const CTBGrid& grid, ColumnIndex index)
     {
         Texts texts;
-        for (int row = 1; row <= grid.GetDataRowCount(); ++row)
+        for (Row row = 1; row <= grid.GetDataRowCount(); ++row)
             texts.push_back(grid.TextAt(row, index));
         return texts;
     }
     static Texts titles(const CTBGrid& grid)
     {
         Texts texts;
-        for (int at = 1; at <= grid.GetColCount(); ++at)
+        for (ColumnPlace at = 1; at <= grid.GetColCount(); ++at)
             texts.push_back(grid.GetColInfo(grid.GetColIndex(at)).header);
         return texts;
     }
@@ -99,18 +103,18 @@ protected:
         int column;
         const char* text;
     };
-    static void type(CTBBrowserWnd& grid, int row, std::initializer_list<Cell> cells)
+    static void type(CTBBrowserWnd& grid, UserRow row, std::initializer_list<Cell> cells)
     {
         typeOpen(grid, row, cells);
         done(grid.leaveRow());
     }
     /// The same without leaving the row.
-    static void typeOpen(CTBBrowserWnd& grid, int row, std::initializer_list<Cell> cells)
+    static void typeOpen(CTBBrowserWnd& grid, UserRow row, std::initializer_list<Cell> cells)
     {
         for (const Cell& cell : cells)
             done(grid.typeCell(row, cell.column, cell.text));
     }
-    static void click(CTBBrowserWnd& grid, int row, int column) { done(grid.clickCell(row, column)); }
+    static void click(CTBBrowserWnd& grid, UserRow row, UserColumn column) { done(grid.clickCell(row, column)); }
     static void done(const Taken& taken) { EXPECT_TRUE(taken.ok()) << taken.refusal; }
 
     /// Keys of the grid warnings so far, each of a text that is one message; forgets them.
@@ -124,7 +128,7 @@ protected:
     }
 
     // Columns, as they stand on the screen from 0.
-    static constexpr int append = CTBGrid::append;
+    static constexpr zel::UserRow append = CTBGrid::append;
     static constexpr int no = 0;
     static constexpr int mainName = 1;
     static constexpr int mainActive = 2;
@@ -142,9 +146,9 @@ private:
     template <class TextOf> static Texts joined(const CTBGrid& grid, TextOf textOf)
     {
         Texts lines;
-        for (int row = 1; row <= grid.GetDataRowCount(); ++row) {
+        for (Row row = 1; row <= grid.GetDataRowCount(); ++row) {
             CString& line = lines.emplace_back();
-            for (int index = 0; index < grid.GetColCount(); ++index)
+            for (const ColumnIndex index : grid.GetAllColumns())
                 line += (index > 0 ? "|" : "") + textOf(row, index);
         }
         return lines;

@@ -1,6 +1,7 @@
 #include "contract/forms/grid_browser.h"
 
 #include "contract/forms/expression.h"
+#include "contract/forms/grid_row_edit.h"
 #include "contract/forms/grid_row_store.h"
 #include "contract/number_text.h"
 #include "contract/user_interface.h"
@@ -8,6 +9,13 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+
+CTBBrowserWnd::CTBBrowserWnd(const zel::Place& place, std::string_view id, zel::Action<Row> onCurrentRow)
+    : CTBGrid(place, id), m_onCurrentRow(std::move(onCurrentRow)), m_edit(std::make_unique<zel::RowEdit>())
+{
+}
+
+CTBBrowserWnd::~CTBBrowserWnd() = default;
 
 // What a grid of the program overrides
 
@@ -21,29 +29,24 @@ void CTBBrowserWnd::Initialize()
 int CTBBrowserWnd::GetSelectedKeys(CArray<std::uint32_t>& keys)
 {
     keys.clear();
-    for (const int row : GetSelectedRows()) {
+    for (const Row row : GetSelectedRows()) {
         const auto key = zel::number::read(TextBeforeEdit(row, GetKeyColID()));
         keys.push_back(key && *key >= 0.0 && *key <= 4294967295.0 ? static_cast<std::uint32_t>(*key) : GetRowKey(row));
     }
     return static_cast<int>(keys.size());
 }
 
-bool CTBBrowserWnd::AddToDB(int /*row*/)
+bool CTBBrowserWnd::AddToDB(Row /*row*/)
 {
     return true;
 }
 
-bool CTBBrowserWnd::AddToDB(const zel::GridValues& /*keys*/, const zel::GridValues& /*records*/)
+bool CTBBrowserWnd::DeleteFromDB(Row /*row*/)
 {
     return true;
 }
 
-bool CTBBrowserWnd::DeleteFromDB(int /*row*/)
-{
-    return true;
-}
-
-bool CTBBrowserWnd::DeleteFromDB(const CArray<int>& rows)
+bool CTBBrowserWnd::DeleteFromDB(const CArray<Row>& rows)
 {
     for (auto row = rows.rbegin(); row != rows.rend(); ++row)
         if (!DeleteFromDB(*row))
@@ -51,20 +54,15 @@ bool CTBBrowserWnd::DeleteFromDB(const CArray<int>& rows)
     return true;
 }
 
-bool CTBBrowserWnd::ModifyToDB(int /*row*/)
+bool CTBBrowserWnd::ModifyToDB(Row /*row*/)
 {
     return true;
 }
 
-bool CTBBrowserWnd::ModifyToDB(const zel::GridValues& /*oldKeys*/, const zel::GridValues& /*keys*/, const zel::GridValues& /*records*/)
-{
-    return true;
-}
-
-CString CTBBrowserWnd::GetDefValue(int column)
+CString CTBBrowserWnd::GetDefValue(ColumnIndex column)
 {
     const CArray<CString>& values = GetDefValueArray();
-    return column >= 0 && static_cast<std::size_t>(column) < values.size() ? values[static_cast<std::size_t>(column)] : CString{};
+    return column >= 0 && column.place() < values.size() ? values[column.place()] : CString{};
 }
 
 const CArray<CString>& CTBBrowserWnd::GetDefValueArray()
@@ -73,40 +71,21 @@ const CArray<CString>& CTBBrowserWnd::GetDefValueArray()
     return none;
 }
 
-bool CTBBrowserWnd::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records)
-{
-    for (std::size_t i = 0; i < columns.size() && i < texts.size(); ++i)
-        if (!ValidateField(texts[i], columns[i]))
-            return false;
-    if (!ValidateRecord(texts, columns))
-        return false;
-    const auto key = static_cast<std::size_t>(GetKeyColID());
-    keys.emplace_back(key < texts.size() ? texts[key] : CString{});
-    records.emplace_back(texts);
-    return true;
-}
-
-void CTBBrowserWnd::DeleteKeyAndDataArray(zel::GridValues& keys, zel::GridValues& records)
-{
-    keys.clear();
-    records.clear();
-}
-
-bool CTBBrowserWnd::ValidateField(const CString& /*text*/, int /*column*/)
+bool CTBBrowserWnd::ValidateField(const CString& /*text*/, ColumnIndex /*column*/)
 {
     return true;
 }
 
-bool CTBBrowserWnd::ValidateRecord(const CArray<CString>& /*texts*/, const CArray<int>& /*columns*/)
+bool CTBBrowserWnd::ValidateRecord(const CArray<CString>& /*texts*/, const CArray<ColumnIndex>& /*columns*/)
 {
     return true;
 }
 
-void CTBBrowserWnd::MakeItemFiltered(int /*count*/, const CArray<int>& /*rows*/, const CArray<int>& /*columns*/) {}
+void CTBBrowserWnd::MakeItemFiltered(int /*count*/, const CArray<Row>& /*rows*/, const CArray<ColumnIndex>& /*columns*/) {}
 
-void CTBBrowserWnd::MakeItemNormal(int /*count*/, const CArray<int>& /*columns*/) {}
+void CTBBrowserWnd::MakeItemNormal(int /*count*/, const CArray<ColumnIndex>& /*columns*/) {}
 
-void CTBBrowserWnd::MakeItemEditingRecord(int /*row*/, const CArray<CString>& /*texts*/) {}
+void CTBBrowserWnd::MakeItemEditingRecord(Row /*row*/, const CArray<CString>& /*texts*/) {}
 
 // Rows and cells
 
@@ -117,27 +96,27 @@ void CTBBrowserWnd::RebuildRows()
     m_rebuilding = true;
     SetRowCount(count);
     if (m_onDemand)
-        for (int row = 0; row < count; ++row)
+        for (Row row = 1; row <= count; ++row)
             rows().setFilled(row, false);
     MakeItemNormal(count, GetAllColumns());
     m_rebuilding = false;
 }
 
-void CTBBrowserWnd::fillRow(int row)
+void CTBBrowserWnd::fillRow(Row row)
 {
     fillRows(row, row);
 }
 
-void CTBBrowserWnd::fillRows(int firstRow, int lastRow)
+void CTBBrowserWnd::fillRows(Row firstRow, Row lastRow)
 {
-    CArray<int> missing;
-    for (int row = firstRow; row <= lastRow; ++row)
-        if (IsDataRow(row) && !rows().filled(row - 1))
+    CArray<Row> missing;
+    for (Row row = firstRow; row <= lastRow; ++row)
+        if (IsDataRow(row) && !rows().filled(row))
             missing.push_back(row);
     if (missing.empty())
         return;
-    for (const int row : missing)
-        rows().setFilled(row - 1, true);
+    for (const Row row : missing)
+        rows().setFilled(row, true);
     const bool touched = m_rowsTouched;
     inSilence([&] { MakeItemFiltered(static_cast<int>(missing.size()), missing, GetAllColumns()); });
     m_rowsTouched = touched;
@@ -150,27 +129,25 @@ void CTBBrowserWnd::ChangeUnits()
     UpdateHeaders();
     if (!IsEdit())
         return;
-    CArray<CString> texts = m_edit->texts;
-    if (m_edit->open)
-        texts[static_cast<std::size_t>(m_edit->index)] = m_edit->cell;
+    CArray<CString> texts = m_edit->texts();
+    if (m_edit->hasOpenCell())
+        texts[m_edit->openCell().place()] = m_edit->text(m_edit->openCell());
     m_convertingEdit = true;
     MakeItemEditingRecord(editedRow(), texts);
     m_convertingEdit = false;
 }
 
-CString CTBBrowserWnd::TextAt(int row, int index) const
+CString CTBBrowserWnd::TextAt(Row row, ColumnIndex index) const
 {
-    if (m_edit && row > 0 && row == editedRow() && hasIndex(index))
-        return m_edit->open && index == m_edit->index ? m_edit->cell : m_edit->texts[static_cast<std::size_t>(index)];
+    if (row > 0 && row == editedRow() && hasIndex(index))
+        return m_edit->text(index);
     return CTBGrid::TextAt(row, index);
 }
 
-void CTBBrowserWnd::SetTextAt(int row, int index, const CString& text)
+void CTBBrowserWnd::SetTextAt(Row row, ColumnIndex index, const CString& text)
 {
-    if (m_convertingEdit && m_edit && row == editedRow() && hasIndex(index)) {
-        m_edit->texts[static_cast<std::size_t>(index)] = text;
-        if (m_edit->open && index == m_edit->index)
-            m_edit->cell = text;
+    if (m_convertingEdit && IsEdit() && row == editedRow() && hasIndex(index)) {
+        m_edit->replaceText(index, text);
         repaint();
         return;
     }
@@ -178,85 +155,90 @@ void CTBBrowserWnd::SetTextAt(int row, int index, const CString& text)
     CTBGrid::SetTextAt(row, index, text);
 }
 
-void CTBBrowserWnd::SetRowTexts(int row, const CArray<CString>& texts)
+void CTBBrowserWnd::SetRowTexts(Row row, const CArray<CString>& texts)
 {
-    if (m_convertingEdit && m_edit && row == editedRow()) {
-        for (std::size_t index = 0; index < texts.size(); ++index)
-            SetTextAt(row, static_cast<int>(index), texts[index]);
+    if (m_convertingEdit && IsEdit() && row == editedRow()) {
+        for (std::size_t place = 0; place < texts.size(); ++place)
+            SetTextAt(row, ColumnIndex::at(place), texts[place]);
         return;
     }
     m_rowsTouched = true;
     CTBGrid::SetRowTexts(row, texts);
 }
 
-CString CTBBrowserWnd::GetShownText(int row, int index) const
+CString CTBBrowserWnd::GetShownText(Row row, ColumnIndex index) const
 {
-    if (m_edit && m_edit->open && index == m_edit->index && row == editedRow())
-        return m_edit->cell;
+    if (m_edit->isOpen(index) && row == editedRow())
+        return m_edit->text(index);
     return CTBGrid::GetShownText(row, index);
 }
 
-int CTBBrowserWnd::editedRow() const
+bool CTBBrowserWnd::IsEdit() const
 {
-    if (!m_edit)
-        return 0;
-    return m_edit->added ? GetAppendRow() : m_edit->row;
+    return m_edit->isEditing();
 }
 
-void CTBBrowserWnd::rowInserted(int row)
+bool CTBBrowserWnd::IsAppend() const
+{
+    return m_edit->isAdded();
+}
+
+bool CTBBrowserWnd::isWriting() const
+{
+    return m_edit->isWriting();
+}
+
+zel::ColumnIndex CTBBrowserWnd::GetOpenCell() const
+{
+    return m_edit->openCell();
+}
+
+zel::Row CTBBrowserWnd::editedRow() const
+{
+    return m_edit->isAdded() ? GetAppendRow() : m_edit->dataRow();
+}
+
+void CTBBrowserWnd::followEditedRow(Row former)
+{
+    if (IsEdit() && m_edit->dataRow() != former && GetCurrentRow() == former)
+        followCurrent(m_edit->dataRow());
+}
+
+void CTBBrowserWnd::rowInserted(Row row)
 {
     m_rowsTouched = true;
-    for (int& tracked : m_tracked)
+    for (Row& tracked : m_tracked)
         if (tracked >= row)
             ++tracked;
-    if (!m_edit)
-        return;
-    if (!m_edit->added && m_edit->row >= row) {
-        if (!m_edit->writing && GetCurrentRow() == m_edit->row)
-            followCurrent(m_edit->row + 1);
-        ++m_edit->row;
-    }
+    const Row former = m_edit->dataRow();
+    m_edit->rowInserted(row);
+    followEditedRow(former);
 }
 
-void CTBBrowserWnd::rowDeleted(int row)
+void CTBBrowserWnd::rowDeleted(Row row)
 {
     m_rowsTouched = true;
-    for (int& tracked : m_tracked)
+    for (Row& tracked : m_tracked)
         if (tracked > row)
             --tracked;
-    if (!m_edit || m_edit->added)
-        return;
-    if (m_edit->row == row) {
-        if (m_edit->writing)
-            m_edit->row = 0;  // the row has gone, what was typed is still being written
-        else
-            m_edit.reset();
-    } else if (m_edit->row > row) {
-        if (!m_edit->writing && GetCurrentRow() == m_edit->row)
-            followCurrent(m_edit->row - 1);
-        --m_edit->row;
-    }
+    const Row former = m_edit->dataRow();
+    m_edit->rowDeleted(row);
+    followEditedRow(former);
 }
 
 void CTBBrowserWnd::rowsReset()
 {
     m_rowsTouched = true;
-    if (!m_edit || m_edit->added)
-        return;
-    if (m_edit->writing)
-        m_edit->row = 0;
-    else if (!m_rebuilding || m_edit->row > GetDataRowCount())
-        m_edit.reset();
+    m_edit->rowsReset(m_rebuilding ? GetDataRowCount() : 0);
 }
 
-void CTBBrowserWnd::rowsMoved(const std::vector<int>& place)
+void CTBBrowserWnd::rowsMoved(const CArray<Row>& place)
 {
     m_rowsTouched = true;
-    for (int& tracked : m_tracked)
+    for (Row& tracked : m_tracked)
         if (IsDataRow(tracked))
-            tracked = place[static_cast<std::size_t>(tracked - 1)] + 1;
-    if (m_edit && !m_edit->added && m_edit->row > 0)
-        m_edit->row = place[static_cast<std::size_t>(m_edit->row - 1)] + 1;
+            tracked = place[tracked.place()];
+    m_edit->rowsMoved(place);
 }
 
 // Settings
@@ -314,15 +296,15 @@ zel::GridUpdate::GridUpdate(CTBBrowserWnd& grid) : m_grid(grid)
 
 CString zel::GridUpdate::currentKey() const
 {
-    const int row = m_grid.GetCurrentRow();
+    const Row row = m_grid.GetCurrentRow();
     return m_grid.IsDataRow(row) ? m_grid.TextBeforeEdit(row, m_grid.GetKeyColID()) : CString{};
 }
 
 zel::GridUpdate::~GridUpdate()
 {
     if (m_row > 0 && !m_grid.IsAppend()) {
-        const int last = m_onAppendRow || m_grid.GetDataRowCount() == 0 ? m_grid.GetRowCount() : m_grid.GetDataRowCount();
-        const int row = m_onAppendRow ? last : std::min(m_row, last);
+        const Row last = Row::of(m_onAppendRow || m_grid.GetDataRowCount() == 0 ? m_grid.GetRowCount() : m_grid.GetDataRowCount());
+        const Row row = m_onAppendRow ? last : std::min(m_row, last);
         if (m_grid.SetCurrentCell(row, m_column) == 0 && m_grid.SetRightValidCell(row, m_column) == 0)
             m_grid.SetLeftValidCell(row, m_column);
         if (currentKey() != m_key)

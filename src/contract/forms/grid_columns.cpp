@@ -32,7 +32,7 @@ CTBGrid::CTBGrid(const zel::Place& place, std::string_view id, CString label)
 
 CTBGrid::~CTBGrid() = default;
 
-int CTBGrid::AddColInfo(const CString& title, int kind, int unitType)
+zel::ColumnIndex CTBGrid::AddColInfo(const CString& title, int kind, int unitType)
 {
     zel::GridColumn added;
     added.title = title;
@@ -43,10 +43,11 @@ int CTBGrid::AddColInfo(const CString& title, int kind, int unitType)
     added.align = isNumber ? zel::GridAlign::right : zel::GridAlign::left;
     m_columns.push_back(std::move(added));
     m_headers.emplace_back();
-    m_order.push_back(GetColCount() - 1);
+    const ColumnIndex index = ColumnIndex::of(GetColCount() - 1);
+    m_order.push_back(index);
     m_rows->addColumn();
     repaint();
-    return GetColCount() - 1;
+    return index;
 }
 
 void CTBGrid::RemoveColumns()
@@ -60,132 +61,132 @@ void CTBGrid::RemoveColumns()
     repaint();
 }
 
-int CTBGrid::columnOf(int index) const
+zel::ColumnPlace CTBGrid::columnOf(ColumnIndex index) const
 {
     const auto found = std::find(m_order.begin(), m_order.end(), index);
-    return found == m_order.end() ? 0 : static_cast<int>(found - m_order.begin()) + 1;
+    return found == m_order.end() ? ColumnPlace() : ColumnPlace::at(static_cast<std::size_t>(found - m_order.begin()));
 }
 
-int CTBGrid::GetColumnNoFor(int index, int& column) const
+int CTBGrid::GetColumnNoFor(ColumnIndex index, ColumnPlace& column) const
 {
-    const int found = columnOf(index);
+    const ColumnPlace found = columnOf(index);
     if (found == 0)
         return 0;
     column = found;
     return 1;
 }
 
-int CTBGrid::GetColumnNoFor(const CString& title, int& column) const
+int CTBGrid::GetColumnNoFor(const CString& title, ColumnPlace& column) const
 {
     const auto found = std::find_if(m_columns.begin(), m_columns.end(), [&](const auto& each) { return each.title == title; });
-    return found == m_columns.end() ? 0 : GetColumnNoFor(static_cast<int>(found - m_columns.begin()), column);
+    return found == m_columns.end() ? 0 : GetColumnNoFor(ColumnIndex::at(static_cast<std::size_t>(found - m_columns.begin())), column);
 }
 
-int CTBGrid::GetColIndex(int column) const
+zel::ColumnIndex CTBGrid::GetColIndex(ColumnPlace column) const
 {
-    return column >= 1 && column <= GetColCount() ? m_order[static_cast<std::size_t>(column - 1)] : -1;
+    return column >= 1 && column <= GetColCount() ? m_order[column.place()] : ColumnIndex{-1};
 }
 
-CArray<int> CTBGrid::GetAllColumns() const
+CArray<zel::ColumnIndex> CTBGrid::GetAllColumns() const
 {
-    CArray<int> all(m_columns.size());
-    std::iota(all.begin(), all.end(), 0);
+    CArray<ColumnIndex> all(m_columns.size());
+    std::iota(all.begin(), all.end(), ColumnIndex{0});
     return all;
 }
 
-int CTBGrid::columnByTitle(std::string_view title) const
+zel::UserColumn CTBGrid::columnByTitle(std::string_view title) const
 {
     const CString wanted = folded(title);
     const auto position = [&](auto textOf) {
         for (std::size_t place = 0; place < m_order.size(); ++place)
-            if (folded(textOf(m_columns[static_cast<std::size_t>(m_order[place])])) == wanted)
-                return static_cast<int>(place);
-        return -1;
+            if (folded(textOf(GetColInfo(m_order[place]))) == wanted)
+                return UserColumn::at(place);
+        return UserColumn(-1);
     };
-    const int byHeader = position([](const zel::GridColumn& each) { return each.header; });
+    const UserColumn byHeader = position([](const zel::GridColumn& each) { return each.header; });
     return byHeader >= 0 ? byHeader : position([](const zel::GridColumn& each) { return each.title; });
 }
 
-void CTBGrid::SetColKind(int index, zel::GridKind kind)
+template <class Value> void CTBGrid::setColumn(ColumnIndex index, Value zel::GridColumn::*field, const Value& value)
 {
-    columnAt(index).kind = kind;
+    columnAt(index).*field = value;
     repaint();
 }
 
-void CTBGrid::SetColWidth(int index, int width)
+void CTBGrid::SetColKind(ColumnIndex index, zel::GridKind kind)
+{
+    setColumn(index, &zel::GridColumn::kind, kind);
+}
+
+void CTBGrid::SetColWidth(ColumnIndex index, int width)
 {
     columnAt(index).width = std::max(width, 0);
     repaint();
 }
 
-void CTBGrid::SetColHidden(int index, bool hidden)
+void CTBGrid::SetColHidden(ColumnIndex index, bool hidden)
 {
     columnAt(index).hidden = hidden;
     if (hidden && m_currentIndex == index) {
-        const int row = m_currentRow;
-        const int column = columnOf(index);
+        const Row row = m_currentRow;
+        const ColumnPlace column = columnOf(index);
         if (SetRightValidCell(row, column) == 0 && SetLeftValidCell(row, column) == 0)
             ResetCurrentCell();
     }
     repaint();
 }
 
-void CTBGrid::SetColAlign(int index, zel::GridAlign align)
+void CTBGrid::SetColAlign(ColumnIndex index, zel::GridAlign align)
 {
-    columnAt(index).align = align;
-    repaint();
+    setColumn(index, &zel::GridColumn::align, align);
 }
 
-void CTBGrid::SetColNumber(int index, const zel::GridNumberStyle& number)
+void CTBGrid::SetColNumber(ColumnIndex index, const zel::GridNumberStyle& number)
 {
-    columnAt(index).number = number;
-    repaint();
+    setColumn(index, &zel::GridColumn::number, number);
 }
 
-void CTBGrid::SetColDisabled(int index, bool disabled)
+void CTBGrid::SetColDisabled(ColumnIndex index, bool disabled)
 {
-    columnAt(index).disabled = disabled;
-    repaint();
+    setColumn(index, &zel::GridColumn::disabled, disabled);
 }
 
-void CTBGrid::SetColReadOnly(int index, bool readOnly)
+void CTBGrid::SetColReadOnly(ColumnIndex index, bool readOnly)
 {
-    columnAt(index).readOnly = readOnly;
-    repaint();
+    setColumn(index, &zel::GridColumn::readOnly, readOnly);
 }
 
-void CTBGrid::SetColFrozen(int index, bool frozen)
+void CTBGrid::SetColFrozen(ColumnIndex index, bool frozen)
 {
-    columnAt(index).frozen = frozen;
-    repaint();
+    setColumn(index, &zel::GridColumn::frozen, frozen);
 }
 
-void CTBGrid::SetColResizable(int index, bool resizable)
+void CTBGrid::SetColResizable(ColumnIndex index, bool resizable)
 {
     columnAt(index).resizable = resizable;
 }
 
-void CTBGrid::SetColChoices(int index, const std::vector<CString>& choices, bool only)
+void CTBGrid::SetColChoices(ColumnIndex index, const std::vector<CString>& choices, bool only)
 {
     columnAt(index).choices = choices;
     columnAt(index).choicesOnly = only;
     repaint();
 }
 
-void CTBGrid::ComposeHeader(int index, const CString& before, const CString& after, const CString& without)
+void CTBGrid::ComposeHeader(ColumnIndex index, const CString& before, const CString& after, const CString& without)
 {
-    m_headers[static_cast<std::size_t>(index)] = {true, before, after, without};
+    m_headers[index.place()] = {true, before, after, without};
     UpdateHeaders();
 }
 
-void CTBGrid::SetColHeader(int index, const CString& header)
+void CTBGrid::SetColHeader(ColumnIndex index, const CString& header)
 {
-    m_headers[static_cast<std::size_t>(index)] = {};
+    m_headers[index.place()] = {};
     columnAt(index).header = header;
     repaint();
 }
 
-void CTBGrid::SetColUnitType(int index, int unitType)
+void CTBGrid::SetColUnitType(ColumnIndex index, int unitType)
 {
     columnAt(index).unitType = unitType;
     UpdateHeaders();
@@ -193,8 +194,8 @@ void CTBGrid::SetColUnitType(int index, int unitType)
 
 void CTBGrid::UpdateHeaders()
 {
-    for (int index = 0; index < GetColCount(); ++index) {
-        const Header& header = m_headers[static_cast<std::size_t>(index)];
+    for (const ColumnIndex index : GetAllColumns()) {
+        const Header& header = m_headers[index.place()];
         if (!header.composed)
             continue;
         zel::GridColumn& composed = columnAt(index);
@@ -212,11 +213,11 @@ void CTBGrid::SetRowHeader(bool numbered, int width)
     repaint();
 }
 
-CString CTBGrid::GetRowHeaderText(int row) const
+CString CTBGrid::GetRowHeaderText(Row row) const
 {
     if (IsAppendRow(row))
         return editedRow() == row ? "New Row" : "Append Row";
-    return m_rowNumbers && IsDataRow(row) ? std::to_string(row) : CString{};
+    return m_rowNumbers && IsDataRow(row) ? std::to_string(row.number()) : CString{};
 }
 
 void CTBGrid::SetColHeaderShown(bool shown)
@@ -225,11 +226,11 @@ void CTBGrid::SetColHeaderShown(bool shown)
     repaint();
 }
 
-void CTBGrid::MoveColumns(int firstColumn, int lastColumn, int targetColumn)
+void CTBGrid::MoveColumns(ColumnPlace firstColumn, ColumnPlace lastColumn, ColumnPlace targetColumn)
 {
-    const auto first = m_order.begin() + (std::max(firstColumn, 1) - 1);
-    const auto last = m_order.begin() + std::min(lastColumn, GetColCount());
-    const auto target = m_order.begin() + (std::clamp(targetColumn, 1, GetColCount() + 1) - 1);
+    const auto first = m_order.begin() + (std::max(firstColumn.number(), 1) - 1);
+    const auto last = m_order.begin() + std::min(lastColumn.number(), GetColCount());
+    const auto target = m_order.begin() + (std::clamp(targetColumn.number(), 1, GetColCount() + 1) - 1);
     if (first >= last || (target >= first && target <= last))
         return;
     if (target < first)

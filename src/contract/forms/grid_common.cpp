@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-bool CTBCommon::ValidateTexts(const CArray<CString>& texts, const CArray<int>& columns, const CString& missing, Fields fields)
+bool CTBCommon::ValidateTexts(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, const CString& missing, Fields fields)
 {
     CString message;
     for (std::size_t i = 0; i < columns.size() && i < texts.size(); ++i) {

@@ -14,7 +14,7 @@ protected:
 
     /// The usual test of a row. Each of `columns` whose text is empty adds a line of the column's title and `missing`; with
     /// `Fields::validate` each other one passes ValidateField, and the first that fails ends the test. The lines are the warning.
-    bool ValidateTexts(const CArray<CString>& texts, const CArray<int>& columns, const CString& missing, Fields fields);
+    bool ValidateTexts(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, const CString& missing, Fields fields);
 
     /// Warning texts for a bad formula, a stray character and a number too big.
     using NumberWarnings = std::array<CString, 3>;

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-int CTBGrid::GetCurrentCell(int& row, int& column) const
+int CTBGrid::GetCurrentCell(Row& row, ColumnPlace& column) const
 {
     if (m_currentRow == 0)
         return 0;
@@ -13,7 +13,7 @@ int CTBGrid::GetCurrentCell(int& row, int& column) const
     return 1;
 }
 
-int CTBGrid::SetCurrentCell(int row, int column)
+int CTBGrid::SetCurrentCell(Row row, ColumnPlace column)
 {
     if (!IsValidCell(row, column))
         return 0;
@@ -28,9 +28,9 @@ void CTBGrid::ResetCurrentCell()
     repaint();
 }
 
-void CTBGrid::setCurrent(int row, int column)
+void CTBGrid::setCurrent(Row row, ColumnPlace column)
 {
-    const int index = GetColIndex(column);
+    const ColumnIndex index = GetColIndex(column);
     if (row == m_currentRow && index == m_currentIndex)
         return;
     m_currentRow = row;
@@ -38,51 +38,47 @@ void CTBGrid::setCurrent(int row, int column)
     repaint();
 }
 
-int CTBGrid::setValidCell(int row, int column, int rowStep, int columnStep)
+int CTBGrid::setValidCell(Row row, ColumnPlace column, int rowStep, int columnStep)
 {
-    int nextRow = row + rowStep;
-    int nextColumn = column + columnStep;
+    Row nextRow = row + rowStep;
+    ColumnPlace nextColumn = column + columnStep;
     while (nextRow >= 1 && nextRow <= GetRowCount() && nextColumn >= 1 && nextColumn <= GetColCount()) {
         if (IsValidCell(nextRow, nextColumn))
             return SetCurrentCell(nextRow, nextColumn);
-        nextRow += rowStep;
-        nextColumn += columnStep;
+        nextRow = nextRow + rowStep;
+        nextColumn = nextColumn + columnStep;
     }
     return 0;
 }
 
-int CTBGrid::SetRightValidCell(int row, int column)
+int CTBGrid::SetRightValidCell(Row row, ColumnPlace column)
 {
     return setValidCell(row, column, 0, 1);
 }
 
-int CTBGrid::SetLeftValidCell(int row, int column)
+int CTBGrid::SetLeftValidCell(Row row, ColumnPlace column)
 {
     return setValidCell(row, column, 0, -1);
 }
 
-int CTBGrid::SetDownValidCell(int row, int column)
+int CTBGrid::SetDownValidCell(Row row, ColumnPlace column)
 {
     return setValidCell(row, column, 1, 0);
 }
 
-void CTBGrid::SelectRows(const CArray<int>& rows)
+void CTBGrid::SelectRows(const CArray<Row>& rows)
 {
-    std::vector<int> selected;
-    for (const int row : rows)
-        if (IsDataRow(row))
-            selected.push_back(row - 1);
+    CArray<Row> selected;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(selected), [this](Row row) { return IsDataRow(row); });
     m_rows->select(selected);
     m_selectionStale = true;
     repaint();
 }
 
-const CArray<int>& CTBGrid::GetSelectedRows() const
+const CArray<zel::Row>& CTBGrid::GetSelectedRows() const
 {
     if (m_selectionStale) {
         m_selected = m_rows->selected();
-        for (int& row : m_selected)
-            ++row;
         m_selectionStale = false;
     }
     return m_selected;
@@ -115,40 +111,40 @@ void CTBGrid::repaint()
         changed();
 }
 
-int CTBGrid::toRow(int userRow) const
+zel::Row CTBGrid::toRow(UserRow userRow) const
 {
     if (userRow == append)
-        return m_appendRow ? GetAppendRow() : -1;
-    return IsDataRow(userRow + 1) ? userRow + 1 : -1;
+        return m_appendRow ? GetAppendRow() : Row{-1};
+    return userRow >= 0 && userRow < GetDataRowCount() ? Row::at(userRow.place()) : Row{-1};
 }
 
-int CTBGrid::toUserRow(int row) const
+zel::UserRow CTBGrid::toUserRow(Row row) const
 {
-    return IsAppendRow(row) ? append : row - 1;
+    return IsAppendRow(row) ? append : UserRow(row.number() - 1);
 }
 
-CString CTBGrid::shownText(int userRow, int column) const
+CString CTBGrid::shownText(UserRow userRow, UserColumn column) const
 {
-    const int row = toRow(userRow);
-    return row < 0 ? CString{} : GetShownText(row, GetColIndex(column + 1));
+    const Row row = toRow(userRow);
+    return row < 0 ? CString{} : GetShownText(row, GetColIndex(toColumn(column)));
 }
 
 void CTBGrid::describe(zel::IFieldWriter& writer) const
 {
     std::vector<zel::ColumnView> columns;
-    for (const int index : m_order) {
+    for (const ColumnIndex index : m_order) {
         const zel::GridColumn& each = GetColInfo(index);
         columns.push_back({each.header, each.width, !each.hidden, each.choices});
     }
     writer.columns("columns", columns);
 
-    const_cast<CTBGrid*>(this)->fillRows(1, GetDataRowCount());  // reading fills rows that are read on demand
+    const_cast<CTBGrid*>(this)->fillRows(1, Row::of(GetDataRowCount()));  // reading fills rows that are read on demand
     std::vector<std::vector<CString>> texts;
     texts.reserve(static_cast<std::size_t>(GetDataRowCount()));
-    for (int row = 1; row <= GetDataRowCount(); ++row) {
+    for (Row row = 1; row <= GetDataRowCount(); ++row) {
         std::vector<CString>& line = texts.emplace_back();
         line.reserve(m_order.size());
-        for (const int index : m_order)
+        for (const ColumnIndex index : m_order)
             line.push_back(GetShownText(row, index));
     }
     writer.rows("rows", texts);
@@ -156,17 +152,18 @@ void CTBGrid::describe(zel::IFieldWriter& writer) const
     if (m_currentRow == 0)
         writer.number("current", std::nullopt);
     else
-        writer.cell("current", IsAppendRow(m_currentRow) ? std::nullopt : std::optional{m_currentRow - 1}, columnOf(m_currentIndex) - 1);
+        writer.cell("current", IsAppendRow(m_currentRow) ? std::nullopt : std::optional{toUserRow(m_currentRow).number()},
+                    toUserColumn(columnOf(m_currentIndex)).number());
 
-    const int edited = editedRow();
+    const Row edited = editedRow();
     if (IsAppendRow(edited))
         writer.text("editing", "append");
     else
-        writer.number("editing", edited == 0 ? std::nullopt : std::optional{edited - 1});
+        writer.number("editing", edited == 0 ? std::nullopt : std::optional{toUserRow(edited).number()});
     writer.flag("appendRow", m_appendRow);
 
     std::vector<int> selected;
-    for (const int row : GetSelectedRows())
-        selected.push_back(row - 1);
+    for (const Row row : GetSelectedRows())
+        selected.push_back(toUserRow(row).number());
     writer.numbers("selected", selected);
 }

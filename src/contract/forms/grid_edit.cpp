@@ -1,5 +1,7 @@
 #include "contract/forms/grid_browser.h"
 
+#include "contract/forms/grid_row_edit.h"
+
 #include <algorithm>
 
 // Life of a cell and of a row under edit. What the grid of the program is asked may open message boxes or change rows, so
@@ -8,62 +10,55 @@
 CArray<CString> CTBBrowserWnd::newRowTexts()
 {
     CArray<CString> texts;
-    for (int index = 0; index < GetColCount(); ++index)
+    for (const ColumnIndex index : GetAllColumns())
         texts.push_back(GetDefValue(index));
-    if (const int key = GetKeyColID(); hasIndex(key))
-        texts[static_cast<std::size_t>(key)] = GetNewKey();
+    if (const ColumnIndex key = GetKeyColID(); hasIndex(key))
+        texts[key.place()] = GetNewKey();
     return texts;
 }
 
 CArray<CString> CTBBrowserWnd::writtenTexts(const CArray<CString>& texts) const
 {
     CArray<CString> written = texts;
-    for (std::size_t index = 0; index < written.size(); ++index)
-        if (GetColInfo(static_cast<int>(index)).kind == zel::GridKind::real)
-            written[index] = ConvertFormulaToValue(written[index]);
+    for (std::size_t place = 0; place < written.size(); ++place)
+        if (GetColInfo(ColumnIndex::at(place)).kind == zel::GridKind::real)
+            written[place] = ConvertFormulaToValue(written[place]);
     return written;
 }
 
-void CTBBrowserWnd::openEdit(int row)
+void CTBBrowserWnd::openEdit(Row row)
 {
-    if (m_edit)
+    if (!m_edit->isNone())
         return;
-    RowEdit edit;
-    edit.added = IsAppendRow(row);
-    edit.row = edit.added ? 0 : row;
-    edit.texts = edit.added ? newRowTexts() : GetRowTexts(row);
-    m_edit = std::move(edit);
+    if (IsAppendRow(row))
+        m_edit->beginNew(newRowTexts());
+    else
+        m_edit->begin(row, GetRowTexts(row));
     repaint();
 }
 
 bool CTBBrowserWnd::closeCell()
 {
-    if (!m_edit || !m_edit->open || m_edit->writing)
+    if (!m_edit->hasOpenCell())
         return true;
-    if (!m_edit->cellTyped) {
+    if (!m_edit->isCellTyped()) {
         cancelCell();
         return true;
     }
-    const int index = m_edit->index;
+    const ColumnIndex index = m_edit->openCell();
     m_warning.clear();
-    if (!ValidateField(CString{m_edit->cell}, index)) {
+    if (!ValidateField(CString{m_edit->text(index)}, index)) {
         showWarning();
         return false;
     }
     m_shownWarning.clear();
-    if (!m_edit || !m_edit->open)
+    if (!m_edit->hasOpenCell())
         return true;
 
-    const int row = editedRow();
-    m_edit->open = false;
-    m_edit->texts[static_cast<std::size_t>(index)] = std::exchange(m_edit->cell, {});
-    bool differs = m_edit->added;
-    for (int other = 0; other < GetColCount() && !differs; ++other)
-        differs = m_edit->texts[static_cast<std::size_t>(other)] != storedText(row, other);
-    if (differs)
-        m_edit->typed = true;
-    else
-        m_edit.reset();
+    const Row row = editedRow();
+    m_edit->keepCell();
+    const CArray<ColumnIndex> all = GetAllColumns();
+    m_edit->settle(m_edit->isAdded() || std::any_of(all.begin(), all.end(), [&](ColumnIndex other) { return m_edit->text(other) != storedText(row, other); }));
     repaint();
     OnEndEditing(row, index);
     return !m_writeEachCell || closeRow();
@@ -75,41 +70,39 @@ bool CTBBrowserWnd::closeRow()
         return true;
     if (!closeCell())
         return false;
-    if (!m_edit)
+    if (m_edit->isNone())
         return true;
-    if (!m_edit->typed) {
+    if (!m_edit->isTyped()) {
         cancelRow();
         return true;
     }
     m_warning.clear();
-    if (!ValidateRecord(CArray<CString>{m_edit->texts}, GetAllColumns())) {
+    if (!ValidateRecord(CArray<CString>{m_edit->texts()}, GetAllColumns())) {
         showWarning();
         return false;
     }
-    return !m_edit || writeRow();
+    return m_edit->isNone() || writeRow();
 }
 
 bool CTBBrowserWnd::writeRow()
 {
     const zel::GridPaintLock lock{*this};
-    const bool added = m_edit->added;
-    const int row = editedRow();
+    const bool added = m_edit->isAdded();
+    const Row row = editedRow();
     const bool onAppendRow = IsAppendRow(GetCurrentRow());
-    m_edit->writing = true;
+    m_edit->beginWriting();
     bool written = false;
     const bool mirrored = touchesRows([&] { written = added ? AddToDB(row) : ModifyToDB(row); });
-    m_edit->writing = false;
     if (!written) {
-        if (!added && m_edit->row == 0)
-            m_edit.reset();  // the row that was refused is no longer there
+        m_edit->refuseWriting();
         showWarning();
         repaint();
         return false;
     }
     m_shownWarning.clear();
-    const CArray<CString> texts = writtenTexts(m_edit->texts);
-    const int rowNow = editedRow();
-    m_edit.reset();
+    const CArray<CString> texts = writtenTexts(m_edit->texts());
+    const Row rowNow = editedRow();
+    m_edit->end();
     if (!mirrored && added)
         mirrorAdded(texts);
     else if (!mirrored)
@@ -122,26 +115,23 @@ bool CTBBrowserWnd::writeRow()
 
 void CTBBrowserWnd::mirrorAdded(const CArray<CString>& texts)
 {
-    const int row = GetDataRowCount() + 1;
+    const Row row = Row::of(GetDataRowCount() + 1);
     InsertRecord(row);
     CTBGrid::SetRowTexts(row, texts);
 }
 
-void CTBBrowserWnd::mirrorChanged(int row, const CArray<CString>& texts)
+void CTBBrowserWnd::mirrorChanged(Row row, const CArray<CString>& texts)
 {
     CTBGrid::SetRowTexts(row, texts);
 }
 
 void CTBBrowserWnd::cancelCell()
 {
-    if (!m_edit || !m_edit->open || m_edit->writing)
+    if (!m_edit->hasOpenCell())
         return;
-    const int row = editedRow();
-    const int index = m_edit->index;
-    m_edit->open = false;
-    m_edit->cell.clear();
-    if (!m_edit->typed)
-        m_edit.reset();
+    const Row row = editedRow();
+    const ColumnIndex index = m_edit->openCell();
+    m_edit->dropCell();
     m_shownWarning.clear();
     repaint();
     OnCancelEditing(row, index);
@@ -150,16 +140,16 @@ void CTBBrowserWnd::cancelCell()
 void CTBBrowserWnd::cancelRow()
 {
     cancelCell();
-    if (!m_edit || m_edit->writing)
+    if (!IsEdit())
         return;
-    m_edit.reset();
+    m_edit->end();
     m_shownWarning.clear();
     repaint();
 }
 
 int CTBBrowserWnd::OnTerminate(int mode)
 {
-    if (!m_edit)
+    if (m_edit->isNone())
         return 1;
     if (mode == 0) {
         cancelRow();
@@ -178,37 +168,37 @@ void CTBBrowserWnd::onDestroying()
 
 // Going from cell to cell
 
-int CTBBrowserWnd::SetCurrentCell(int row, int column)
+int CTBBrowserWnd::SetCurrentCell(Row row, ColumnPlace column)
 {
-    if (IsEdit() && (row != editedRow() || (m_edit->open && GetColIndex(column) != m_edit->index)))
+    if (IsEdit() && (row != editedRow() || (m_edit->hasOpenCell() && !m_edit->isOpen(GetColIndex(column)))))
         return 0;
     return CTBGrid::SetCurrentCell(row, column);
 }
 
 /// Closes what is open elsewhere than at the cell; `row` follows its record while rows come and go.
-bool CTBBrowserWnd::leaveFor(int& row, int index)
+bool CTBBrowserWnd::leaveFor(Row& row, ColumnIndex index)
 {
     if (!IsEdit())
         return true;
     if (row == editedRow())
-        return !m_edit->open || m_edit->index == index || closeCell();
+        return !m_edit->hasOpenCell() || m_edit->isOpen(index) || closeCell();
     const bool toAppend = IsAppendRow(row);
-    CArray<int> followed{row};
+    CArray<Row> followed{row};
     bool closed = false;
     following(followed, [&] { closed = closeRow(); });
     row = followed.front();
-    row = toAppend ? GetAppendRow() : std::clamp(row, 1, std::max(GetRowCount(), 1));
+    row = toAppend ? GetAppendRow() : std::clamp(row, Row{1}, std::max(Row::of(GetRowCount()), Row{1}));
     return closed;
 }
 
-bool CTBBrowserWnd::goTo(int row, int column)
+bool CTBBrowserWnd::goTo(Row row, ColumnPlace column)
 {
     if (!leaveFor(row, GetColIndex(column)))
         return false;
     if (!IsValidCell(row, column))
         return false;
-    int formerRow = 0;
-    int formerColumn = 0;
+    Row formerRow;
+    ColumnPlace formerColumn;
     GetCurrentCell(formerRow, formerColumn);
     setCurrent(row, column);
     if (row != formerRow || column != formerColumn)
@@ -216,21 +206,21 @@ bool CTBBrowserWnd::goTo(int row, int column)
     return true;
 }
 
-bool CTBBrowserWnd::goToRow(int row)
+bool CTBBrowserWnd::goToRow(Row row)
 {
-    int currentRow = 0;
-    int column = 0;
+    Row currentRow;
+    ColumnPlace column;
     GetCurrentCell(currentRow, column);
     const auto take = [&](auto fits) {
-        for (int candidate = 0; !fits(column) && candidate <= GetColCount(); ++candidate)
+        for (ColumnPlace candidate = 0; !fits(column) && candidate <= GetColCount(); ++candidate)
             column = candidate;
         return fits(column);
     };
-    if (take([&](int candidate) { return IsValidCell(row, candidate); }))
+    if (take([&](ColumnPlace candidate) { return IsValidCell(row, candidate); }))
         return goTo(row, column);
     if (!leaveFor(row, -1))
         return false;
-    if (take([&](int candidate) { return GetColIndex(candidate) >= 0 && !GetColInfo(GetColIndex(candidate)).hidden; }))
+    if (take([&](ColumnPlace candidate) { return GetColIndex(candidate) >= 0 && !GetColInfo(GetColIndex(candidate)).hidden; }))
         setCurrent(row, column);
     return true;
 }
@@ -248,7 +238,7 @@ void CTBBrowserWnd::tellCurrentRow()
         ShowCurrentRow();
 }
 
-int CTBBrowserWnd::MakeRowCurrent(int row)
+int CTBBrowserWnd::MakeRowCurrent(Row row)
 {
     if (row < 1 || row > GetRowCount() || (IsEdit() && row != editedRow()) || !goToRow(row))
         return 0;
@@ -258,24 +248,24 @@ int CTBBrowserWnd::MakeRowCurrent(int row)
 
 void CTBBrowserWnd::goOn()
 {
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     if (GetCurrentCell(row, column) == 0)
         return;
     const int rowCount = GetRowCount();
-    for (int next = column + 1; next <= GetColCount(); ++next)
+    for (ColumnPlace next = column + 1; next <= GetColCount(); ++next)
         if (IsValidCell(row, next)) {
             goTo(row, next);
             return;
         }
-    for (int below = row + 1; below <= rowCount; ++below)
-        for (int next = 1; next <= GetColCount(); ++next)
+    for (Row below = row + 1; below <= rowCount; ++below)
+        for (ColumnPlace next = 1; next <= GetColCount(); ++next)
             if (IsValidCell(below, next)) {
                 goTo(below, next);
                 return;
             }
     if (IsAppendRow(row) && closeRow())  // from the end of a new row to the beginning of the next one
-        for (int next = 1; next <= GetColCount(); ++next)
+        for (ColumnPlace next = 1; next <= GetColCount(); ++next)
             if (IsValidCell(GetAppendRow(), next)) {
                 goTo(GetAppendRow(), next);
                 return;
@@ -284,11 +274,11 @@ void CTBBrowserWnd::goOn()
 
 void CTBBrowserWnd::goDown()
 {
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     if (GetCurrentCell(row, column) == 0)
         return;
-    for (int below = row + 1; below <= GetRowCount(); ++below)
+    for (Row below = row + 1; below <= GetRowCount(); ++below)
         if (IsValidCell(below, column)) {
             goTo(below, column);
             return;

@@ -6,7 +6,7 @@
 
 using zel::Taken;
 
-int CTBBrowserWndEx::compare(int index, const CString& a, const CString& b) const
+int CTBBrowserWndEx::compare(ColumnIndex index, const CString& a, const CString& b) const
 {
     const zel::GridKind kind = GetColInfo(index).kind;
     if (kind == zel::GridKind::integer || kind == zel::GridKind::real) {
@@ -20,23 +20,23 @@ int CTBBrowserWndEx::compare(int index, const CString& a, const CString& b) cons
     return a.compare(b);
 }
 
-int CTBBrowserWndEx::FindRecordByKey(const CArray<CString>& sortTexts, int& row) const
+int CTBBrowserWndEx::FindRecordByKey(const CArray<CString>& sortTexts, Row& row) const
 {
     const std::size_t sorted = std::min(sortTexts.size(), m_sort.size());
-    const auto compareRow = [&](int candidate) {
+    const auto compareRow = [&](Row candidate) {
         for (std::size_t i = 0; i < sorted; ++i)
             if (const int order = compare(m_sort[i], TextBeforeEdit(candidate, m_sort[i]), sortTexts[i]); order != 0)
                 return order;
         return 0;
     };
     if (sorted == 0) {
-        row = GetDataRowCount() + 1;
+        row = Row::of(GetDataRowCount() + 1);
         return 0;
     }
-    int first = 1;
-    int behind = GetDataRowCount() + 1;
+    Row first = 1;
+    Row behind = Row::of(GetDataRowCount() + 1);
     while (first < behind) {
-        const int middle = first + (behind - first) / 2;
+        const Row middle = first + (behind - first) / 2;
         if (compareRow(middle) < 0)
             first = middle + 1;
         else
@@ -49,20 +49,20 @@ int CTBBrowserWndEx::FindRecordByKey(const CArray<CString>& sortTexts, int& row)
 CArray<CString> CTBBrowserWndEx::SortTextsOf(const CArray<CString>& texts) const
 {
     CArray<CString> found;
-    for (const int index : m_sort)
-        found.push_back(static_cast<std::size_t>(index) < texts.size() ? texts[static_cast<std::size_t>(index)] : CString{});
+    for (const ColumnIndex index : m_sort)
+        found.push_back(index.place() < texts.size() ? texts[index.place()] : CString{});
     return found;
 }
 
 void CTBBrowserWndEx::mirrorAdded(const CArray<CString>& texts)
 {
-    int row = 0;
+    Row row;
     FindRecordByKey(SortTextsOf(texts), row);
     InsertRecord(row);
     CTBGrid::SetRowTexts(row, texts);
 }
 
-void CTBBrowserWndEx::mirrorChanged(int row, const CArray<CString>& texts)
+void CTBBrowserWndEx::mirrorChanged(Row row, const CArray<CString>& texts)
 {
     const CArray<CString> sortTexts = SortTextsOf(texts);
     bool stays = true;
@@ -74,39 +74,39 @@ void CTBBrowserWndEx::mirrorChanged(int row, const CArray<CString>& texts)
     }
     const std::uint32_t key = GetRowKey(row);
     DeleteRecord(row);
-    int place = 0;
+    Row place;
     FindRecordByKey(sortTexts, place);
     InsertRecord(place);
     SetRowKey(place, key);
     CTBGrid::SetRowTexts(place, texts);
 }
 
-bool CTBBrowserWndEx::OnSelDragRowsDrop(int /*firstRow*/, int /*lastRow*/, int /*targetRow*/)
+bool CTBBrowserWndEx::OnSelDragRowsDrop(Row /*firstRow*/, Row /*lastRow*/, Row /*targetRow*/)
 {
     return !IsEdit();
 }
 
-bool CTBBrowserWndEx::dropRows(int firstRow, int lastRow, int targetRow)
+bool CTBBrowserWndEx::dropRows(Row firstRow, Row lastRow, Row targetRow)
 {
     const bool moves = OnSelDragRowsDrop(firstRow, lastRow, targetRow);
     if (moves)
-        MoveRecords(CArray<int>{GetSelectedRows()}, targetRow);
+        MoveRecords(CArray<Row>{GetSelectedRows()}, targetRow);
     tellCurrentRow();
     return moves;
 }
 
-Taken CTBBrowserWndEx::dragRows(const std::vector<int>& rows, int to)
+Taken CTBBrowserWndEx::dragRows(const std::vector<int>& rows, UserRow to)
 {
     const zel::UserAction action;
     if (Taken focused = focus(); !focused)
         return focused;
     if (!isRowDrag())
         return refuse("keeps its rows where they are: they can't be dragged");
-    CArray<int> gridRows;
+    CArray<Row> gridRows;
     if (Taken there = toRows(rows, gridRows); !there)
         return there;
     if (to != append && (to < 0 || to > GetDataRowCount()))
-        return refuse("has no row " + std::to_string(to) + " to drop rows before: it has " + std::to_string(GetDataRowCount()) + " rows");
+        return refuse("has no row " + std::to_string(to.number()) + " to drop rows before: it has " + std::to_string(GetDataRowCount()) + " rows");
 
     if (gridRows != GetSelectedRows() && !IsEdit()) {
         if (Taken selected = select(rows); !selected)
@@ -114,7 +114,7 @@ Taken CTBBrowserWndEx::dragRows(const std::vector<int>& rows, int to)
     } else if (gridRows != GetSelectedRows()) {
         selectByUser(gridRows);  // a row under edit is not left by a drag: the grid may want to refuse it
     }
-    const int target = to == append ? GetDataRowCount() + 1 : to + 1;
+    const Row target = Row::of((to == append ? GetDataRowCount() : to.number()) + 1);
     const auto [first, last] = std::minmax_element(gridRows.begin(), gridRows.end());
     const bool none = gridRows.empty();
     dropRows(none ? GetCurrentRow() : *first, none ? GetCurrentRow() : *last, target);
@@ -128,23 +128,23 @@ Taken CTBBrowserWndEx::moveRows(int step)
         return focused;
     if (!isRowDrag())
         return refuse("keeps its rows where they are: they can't be moved");
-    const CArray<int> selected = GetSelectedRows();
-    const int first = selected.empty() ? GetCurrentRow() : *std::min_element(selected.begin(), selected.end());
-    const int last = selected.empty() ? GetCurrentRow() : *std::max_element(selected.begin(), selected.end());
-    const int target = step < 0 ? first - 1 : last + 2;
-    dropRows(first, last, std::clamp(target, 1, GetRowCount() + 1));
+    const CArray<Row> selected = GetSelectedRows();
+    const Row first = selected.empty() ? GetCurrentRow() : *std::min_element(selected.begin(), selected.end());
+    const Row last = selected.empty() ? GetCurrentRow() : *std::max_element(selected.begin(), selected.end());
+    const Row target = step < 0 ? first - 1 : last + 2;
+    dropRows(first, last, std::clamp(target, Row{1}, Row::of(GetRowCount() + 1)));
     return {};
 }
 
-Taken CTBBrowserWndEx::dragColumns(int first, int last, int to)
+Taken CTBBrowserWndEx::dragColumns(UserColumn first, UserColumn last, UserColumn to)
 {
     const zel::UserAction action;
     if (Taken focused = focus(); !focused)
         return focused;
     if (first < 0 || last < first || last >= GetColCount() || to < 0 || to > GetColCount())
         return refuse("has no such columns: it has " + std::to_string(GetColCount()) + " columns, from 0");
-    if (!isColDrag() || !OnSelDragColsDrop(first + 1, last + 1, to + 1))
+    if (!isColDrag() || !OnSelDragColsDrop(toColumn(first), toColumn(last), toColumn(to)))
         return refuse("keeps these columns where they are");
-    MoveColumns(first + 1, last + 1, to + 1);
+    MoveColumns(toColumn(first), toColumn(last), toColumn(to));
     return {};
 }

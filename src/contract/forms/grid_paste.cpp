@@ -6,35 +6,56 @@ using zel::Taken;
 
 /// A block on its way into the grid.
 struct CTBBrowserWndEx::Pasted {
-    struct Records {
-        zel::GridValues keys;
-        zel::GridValues records;
-    };
-
-    CArray<int> rows;                      ///< data rows that change
+    CArray<Row> rows;                      ///< data rows that change
     CArray<CArray<CString>> changedTexts;  ///< their new texts
     CArray<CArray<CString>> addedTexts;    ///< texts of new rows
-    Records former;
-    Records changed;
-    Records added;
 };
 
-Taken CTBBrowserWndEx::layOut(const zel::GridBlock& block, int row, int column, Pasted& pasted)
+namespace {
+
+/// Of a grid that keeps no records: its rows are what they show.
+class PastedTexts final : public zel::PastedRecords {
+public:
+    explicit PastedTexts(CTBBrowserWnd& grid) : m_grid(grid) {}
+
+    bool make(Part /*part*/, const CArray<CString>& texts) override
+    {
+        const CArray<zel::ColumnIndex> columns = m_grid.GetAllColumns();
+        const bool valid =
+            std::all_of(columns.begin(), columns.end(), [&](zel::ColumnIndex column) { return m_grid.ValidateField(texts[column.place()], column); });
+        return valid && m_grid.ValidateRecord(texts, columns);
+    }
+    bool modify() override { return true; }
+    bool restore() override { return true; }
+    bool add() override { return true; }
+
+private:
+    CTBBrowserWnd& m_grid;
+};
+
+}  // namespace
+
+std::unique_ptr<zel::PastedRecords> CTBBrowserWndEx::newPastedRecords()
 {
-    CArray<int> indices;
-    for (int on = column; on <= GetColCount(); ++on)
+    return std::make_unique<PastedTexts>(*this);
+}
+
+Taken CTBBrowserWndEx::layOut(const zel::GridBlock& block, Row row, ColumnPlace column, Pasted& pasted)
+{
+    CArray<ColumnIndex> indices;
+    for (ColumnPlace on = column; on <= GetColCount(); ++on)
         if (!GetColInfo(GetColIndex(on)).hidden)
             indices.push_back(GetColIndex(on));
 
     bool any = false;
-    int target = row;
+    Row target = row;
     for (const CArray<CString>& line : block) {
         while (IsRowHidden(target))
             ++target;
         const bool added = !IsDataRow(target);
         if (added && GetAppendRow() == 0)
             return refuse("has no room for the " + std::to_string(block.size()) + " rows of the block");
-        const int styleRow = added ? GetAppendRow() : target;
+        const Row styleRow = added ? GetAppendRow() : target;
         CArray<CString> texts = added ? newRowTexts() : GetRowTexts(target);
         for (std::size_t cell = 0; cell < line.size(); ++cell) {
             if (cell >= indices.size()) {
@@ -42,12 +63,12 @@ Taken CTBBrowserWndEx::layOut(const zel::GridBlock& block, int row, int column, 
                     continue;
                 return refuse("has no room for the " + std::to_string(line.size()) + " columns of the block");
             }
-            const int index = indices[cell];
+            const ColumnIndex index = indices[cell];
             if (!IsCellEditable(styleRow, index))
                 continue;
             if (Taken offered = offers(styleRow, index, line[cell]); !offered)
                 return offered;
-            texts[static_cast<std::size_t>(index)] = line[cell];
+            texts[index.place()] = line[cell];
             any = true;
         }
         if (added) {
@@ -63,37 +84,30 @@ Taken CTBBrowserWndEx::layOut(const zel::GridBlock& block, int row, int column, 
     return any ? Taken{} : refuse("takes no text in the cells of the block");
 }
 
-bool CTBBrowserWndEx::makeRecords(Pasted& pasted)
+bool CTBBrowserWndEx::makeRecords(const Pasted& pasted, zel::PastedRecords& records)
 {
-    const CArray<int> columns = GetAllColumns();
-    const auto make = [&](const CArray<CString>& texts, Pasted::Records& into) { return MakeKeyAndDataArray(texts, columns, into.keys, into.records); };
+    using Part = zel::PastedRecords::Part;
     for (std::size_t i = 0; i < pasted.rows.size(); ++i)
-        if (!make(GetRowTexts(pasted.rows[i]), pasted.former) || !make(pasted.changedTexts[i], pasted.changed))
+        if (!records.make(Part::former, GetRowTexts(pasted.rows[i])) || !records.make(Part::changed, pasted.changedTexts[i]))
             return false;
-    return std::all_of(pasted.addedTexts.begin(), pasted.addedTexts.end(), [&](const CArray<CString>& texts) { return make(texts, pasted.added); });
+    return std::all_of(pasted.addedTexts.begin(), pasted.addedTexts.end(), [&](const CArray<CString>& texts) { return records.make(Part::added, texts); });
 }
 
-bool CTBBrowserWndEx::writeRecords(Pasted& pasted)
+bool CTBBrowserWndEx::writeRecords(const Pasted& pasted, zel::PastedRecords& records)
 {
     const zel::GridPaintLock lock{*this};
     bool written = true;
-    const bool changedMirrored = touchesRows([&] {
-        if (!pasted.rows.empty())
-            written = ModifyToDB(pasted.former.keys, pasted.changed.keys, pasted.changed.records);
-    });
+    const bool changedMirrored = touchesRows([&] { written = pasted.rows.empty() || records.modify(); });
     if (!written)
         return false;
-    const bool addedMirrored = touchesRows([&] {
-        if (!pasted.addedTexts.empty())
-            written = AddToDB(pasted.added.keys, pasted.added.records);
-    });
+    const bool addedMirrored = touchesRows([&] { written = pasted.addedTexts.empty() || records.add(); });
     if (!written) {
         if (!pasted.rows.empty())
-            ModifyToDB(pasted.changed.keys, pasted.former.keys, pasted.former.records);
+            (void)records.restore();
         return false;
     }
     if (!changedMirrored && !addedMirrored) {
-        CArray<int> rows = pasted.rows;
+        CArray<Row> rows = pasted.rows;
         following(rows, [&] {
             for (std::size_t i = 0; i < rows.size(); ++i)
                 mirrorChanged(followed(i, rows.size()), writtenTexts(pasted.changedTexts[i]));
@@ -104,34 +118,35 @@ bool CTBBrowserWndEx::writeRecords(Pasted& pasted)
     return true;
 }
 
-Taken CTBBrowserWndEx::paste(int row, int column, const CString& text)
+Taken CTBBrowserWndEx::paste(UserRow row, UserColumn column, const CString& text)
 {
-    const zel::UserAction action;
-    int gridRow = 0;
-    int gridColumn = 0;
-    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
-        return there;
-    if (Taken free = changeable(); !free)
-        return free;
-    const zel::GridBlock block = zel::readGridBlock(text);
-    if (block.empty())
-        return refuse("was given nothing to paste");
+    return changeAtCell(row, column, [&](Row gridRow, ColumnPlace gridColumn) -> Taken {
+        const zel::GridBlock block = zel::readGridBlock(text);
+        if (block.empty())
+            return refuse("was given nothing to paste");
+        CArray<Row> followed{gridRow};
+        bool closed = false;
+        following(followed, [&] { closed = closeRow(); });
+        if (!closed)
+            return {};
+        return pasteAt(row == append ? GetAppendRow() : followed.front(), gridColumn, block);
+    });
+}
 
-    CArray<int> followed{gridRow};
-    bool closed = false;
-    following(followed, [&] { closed = closeRow(); });
-    if (!closed)
-        return {};
-    gridRow = row == append ? GetAppendRow() : followed.front();
-
+/// Nothing is open any more.
+Taken CTBBrowserWndEx::pasteAt(Row row, ColumnPlace column, const zel::GridBlock& block)
+{
     Pasted pasted;
-    if (Taken laidOut = layOut(block, gridRow, gridColumn, pasted); !laidOut)
+    if (Taken laidOut = layOut(block, row, column, pasted); !laidOut)
         return laidOut;
     SetWarningText({});
-    const bool good = makeRecords(pasted);
-    const bool written = good && writeRecords(pasted);
-    for (Pasted::Records* records : {&pasted.former, &pasted.changed, &pasted.added})
-        DeleteKeyAndDataArray(records->keys, records->records);
+    bool good = false;
+    bool written = false;
+    {
+        const std::unique_ptr<zel::PastedRecords> records = newPastedRecords();
+        good = makeRecords(pasted, *records);
+        written = good && writeRecords(pasted, *records);
+    }
     if (!good)
         SetWarningText(GetPasteRefusedText(GetWarningText()));
     showWarning();
@@ -143,16 +158,16 @@ Taken CTBBrowserWndEx::paste(int row, int column, const CString& text)
 
 CString CTBBrowserWndEx::copyText() const
 {
-    int row = 0;
-    int column = 0;
-    CArray<int> rows = GetSelectedRows();
+    Row row;
+    ColumnPlace column;
+    CArray<Row> rows = GetSelectedRows();
     if (rows.empty())
         return GetCurrentCell(row, column) != 0 ? zel::writeGridBlock({{GetValueRowCol(row, column)}}) : CString{};
     std::sort(rows.begin(), rows.end());
     zel::GridBlock block;
-    for (const int selected : rows) {
+    for (const Row selected : rows) {
         CArray<CString>& line = block.emplace_back();
-        for (int on = 1; on <= GetColCount(); ++on)
+        for (ColumnPlace on = 1; on <= GetColCount(); ++on)
             if (!GetColInfo(GetColIndex(on)).hidden)
                 line.push_back(GetValueRowCol(selected, on));
     }

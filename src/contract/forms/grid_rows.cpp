@@ -26,7 +26,7 @@ void CTBGrid::SetRowCount(int count)
     if (onAppendRow)
         m_currentRow = GetAppendRow();
     else if (m_currentRow > GetDataRowCount())
-        m_currentRow = GetDataRowCount() > 0 ? GetDataRowCount() : GetRowCount();
+        m_currentRow = Row::of(GetDataRowCount() > 0 ? GetDataRowCount() : GetRowCount());
     rowsReset();
     repaint();
 }
@@ -35,55 +35,55 @@ template <class Change> void CTBGrid::shiftStyles(Change newRow)
 {
     if (m_styles.empty())
         return;
-    std::map<std::pair<int, int>, zel::GridCellStyle> shifted;
+    std::map<std::pair<Row, ColumnIndex>, zel::GridCellStyle> shifted;
     for (auto& [place, style] : m_styles)
-        if (const int row = newRow(place.first); row > 0)
+        if (const Row row = newRow(place.first); row > 0)
             shifted.emplace(std::pair{row, place.second}, std::move(style));
     m_styles = std::move(shifted);
 }
 
-void CTBGrid::InsertRecord(int row)
+void CTBGrid::InsertRecord(Row row)
 {
     if (row < 1 || row > GetDataRowCount() + 1)
         return;
     const bool onAppendRow = IsAppendRow(m_currentRow);
-    m_rows->insert(row - 1);
+    m_rows->insert(row);
     if (onAppendRow)
         m_currentRow = GetAppendRow();
-    shiftStyles([row](int old) { return old >= row ? old + 1 : old; });
+    shiftStyles([row](Row old) { return old >= row ? old + 1 : old; });
     m_selectionStale = true;
     rowInserted(row);
     repaint();
 }
 
-void CTBGrid::DeleteRecord(int row)
+void CTBGrid::DeleteRecord(Row row)
 {
     if (!IsDataRow(row))
         return;
     const bool onAppendRow = IsAppendRow(m_currentRow);
-    m_rows->erase(row - 1);
+    m_rows->erase(row);
     if (onAppendRow)
         m_currentRow = GetAppendRow();
     else if (m_currentRow > GetDataRowCount())
-        m_currentRow = GetDataRowCount() > 0 ? GetDataRowCount() : GetRowCount();
-    shiftStyles([row](int old) { return old == row ? 0 : old > row ? old - 1 : old; });
+        m_currentRow = Row::of(GetDataRowCount() > 0 ? GetDataRowCount() : GetRowCount());
+    shiftStyles([row](Row old) { return old == row ? Row() : old > row ? old - 1 : old; });
     m_selectionStale = true;
     rowDeleted(row);
     repaint();
 }
 
-void CTBGrid::MoveRecords(const CArray<int>& rows, int target)
+void CTBGrid::MoveRecords(const CArray<Row>& rows, Row target)
 {
-    CArray<int> moved;
+    CArray<Row> moved;
     std::vector<bool> seen(static_cast<std::size_t>(GetDataRowCount()), false);
-    for (const int row : rows) {
-        if (!IsDataRow(row) || seen[static_cast<std::size_t>(row - 1)])
+    for (const Row row : rows) {
+        if (!IsDataRow(row) || seen[row.place()])
             continue;
-        seen[static_cast<std::size_t>(row - 1)] = true;
-        moved.push_back(row - 1);
+        seen[row.place()] = true;
+        moved.push_back(row);
     }
-    const std::vector<int> place = m_rows->move(moved, std::clamp(target, 1, GetDataRowCount() + 1) - 1);
-    const auto newRow = [&](int old) { return IsDataRow(old) ? place[static_cast<std::size_t>(old - 1)] + 1 : old; };
+    const CArray<Row> place = m_rows->move(moved, Row::of(std::clamp(target.number(), 1, GetDataRowCount() + 1)));
+    const auto newRow = [&](Row old) { return IsDataRow(old) ? place[old.place()] : old; };
     shiftStyles(newRow);
     m_selectionStale = true;
     m_currentRow = newRow(m_currentRow);
@@ -91,73 +91,73 @@ void CTBGrid::MoveRecords(const CArray<int>& rows, int target)
     repaint();
 }
 
-void CTBGrid::SetRowHidden(int row, bool hidden)
+void CTBGrid::SetRowHidden(Row row, bool hidden)
 {
     if (!IsDataRow(row))
         return;
-    m_rows->setHidden(row - 1, hidden);
+    m_rows->setHidden(row, hidden);
     repaint();
 }
 
-bool CTBGrid::IsRowHidden(int row) const
+bool CTBGrid::IsRowHidden(Row row) const
 {
-    return IsDataRow(row) && m_rows->hidden(row - 1);
+    return IsDataRow(row) && m_rows->hidden(row);
 }
 
-void CTBGrid::SetRowKey(int row, std::uint32_t key)
+void CTBGrid::SetRowKey(Row row, std::uint32_t key)
 {
     if (IsDataRow(row))
-        m_rows->setKey(row - 1, key);
+        m_rows->setKey(row, key);
 }
 
-std::uint32_t CTBGrid::GetRowKey(int row) const
+std::uint32_t CTBGrid::GetRowKey(Row row) const
 {
-    return IsDataRow(row) ? m_rows->key(row - 1) : 0;
+    return IsDataRow(row) ? m_rows->key(row) : 0;
 }
 
-CString CTBGrid::storedText(int row, int index) const
+CString CTBGrid::storedText(Row row, ColumnIndex index) const
 {
     if (!IsDataRow(row) || !hasIndex(index))
         return {};
-    if (!m_rows->filled(row - 1))
+    if (!m_rows->filled(row))
         const_cast<CTBGrid*>(this)->fillRow(row);  // reading a row is what fills it; nobody can see the difference
-    return CString{m_rows->text(row - 1, index)};
+    return CString{m_rows->text(row, index)};
 }
 
-CString CTBGrid::TextAt(int row, int index) const
+CString CTBGrid::TextAt(Row row, ColumnIndex index) const
 {
     if (row == 0)
         return hasIndex(index) ? GetColInfo(index).header : CString{};
     return storedText(row, index);
 }
 
-void CTBGrid::SetTextAt(int row, int index, const CString& text)
+void CTBGrid::SetTextAt(Row row, ColumnIndex index, const CString& text)
 {
     if (!IsDataRow(row) || !hasIndex(index))
         return;
-    m_rows->setText(row - 1, index, text);
+    m_rows->setText(row, index, text);
     repaint();
 }
 
-CArray<CString> CTBGrid::GetRowTexts(int row) const
+CArray<CString> CTBGrid::GetRowTexts(Row row) const
 {
     CArray<CString> texts;
     texts.reserve(m_columns.size());
-    for (int index = 0; index < GetColCount(); ++index)
+    for (const ColumnIndex index : GetAllColumns())
         texts.push_back(TextAt(row, index));
     return texts;
 }
 
-void CTBGrid::SetRowTexts(int row, const CArray<CString>& texts)
+void CTBGrid::SetRowTexts(Row row, const CArray<CString>& texts)
 {
     if (!IsDataRow(row))
         return;
-    m_rows->setTexts(row - 1, texts);
-    m_rows->setFilled(row - 1, true);
+    m_rows->setTexts(row, texts);
+    m_rows->setFilled(row, true);
     repaint();
 }
 
-CString CTBGrid::GetShownText(int row, int index) const
+CString CTBGrid::GetShownText(Row row, ColumnIndex index) const
 {
     const CString text = TextAt(row, index);
     if (row == 0 || !hasIndex(index) || text.empty())
@@ -169,7 +169,7 @@ CString CTBGrid::GetShownText(int row, int index) const
     return zel::gridNumberText(text, style && style->number ? *style->number : GetColInfo(index).number);
 }
 
-const zel::GridCellStyle* CTBGrid::cellStyle(int row, int index) const
+const zel::GridCellStyle* CTBGrid::cellStyle(Row row, ColumnIndex index) const
 {
     if (m_styles.empty())
         return nullptr;
@@ -177,40 +177,40 @@ const zel::GridCellStyle* CTBGrid::cellStyle(int row, int index) const
     return found == m_styles.end() ? nullptr : &found->second;
 }
 
-void CTBGrid::SetCellStyle(int row, int index, const zel::GridCellStyle& style)
+void CTBGrid::SetCellStyle(Row row, ColumnIndex index, const zel::GridCellStyle& style)
 {
     m_styles[{row, index}] = style;
     repaint();
 }
 
-zel::GridCellStyle CTBGrid::GetCellStyle(int row, int index) const
+zel::GridCellStyle CTBGrid::GetCellStyle(Row row, ColumnIndex index) const
 {
     const zel::GridCellStyle* const style = cellStyle(row, index);
     return style ? *style : zel::GridCellStyle{};
 }
 
-zel::GridKind CTBGrid::GetCellKind(int row, int index) const
+zel::GridKind CTBGrid::GetCellKind(Row row, ColumnIndex index) const
 {
     const zel::GridCellStyle* const style = cellStyle(row, index);
     return style && style->kind ? *style->kind : GetColInfo(index).kind;
 }
 
-std::vector<CString> CTBGrid::GetCellChoices(int row, int index) const
+std::vector<CString> CTBGrid::GetCellChoices(Row row, ColumnIndex index) const
 {
     const zel::GridCellStyle* const style = cellStyle(row, index);
     return style && style->choices ? *style->choices : GetColInfo(index).choices;
 }
 
-bool CTBGrid::IsValidCell(int row, int column) const
+bool CTBGrid::IsValidCell(Row row, ColumnPlace column) const
 {
-    const int index = GetColIndex(column);
+    const ColumnIndex index = GetColIndex(column);
     if (index < 0 || row < 1 || row > GetRowCount() || IsRowHidden(row) || GetColInfo(index).hidden)
         return false;
     const zel::GridCellStyle* const style = cellStyle(row, index);
     return !(style && style->disabled ? *style->disabled : GetColInfo(index).disabled);
 }
 
-bool CTBGrid::IsCellEditable(int row, int index) const
+bool CTBGrid::IsCellEditable(Row row, ColumnIndex index) const
 {
     if (!hasIndex(index) || !IsValidCell(row, columnOf(index)))
         return false;

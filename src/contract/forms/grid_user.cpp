@@ -1,5 +1,7 @@
 #include "contract/forms/grid_browser.h"
 
+#include "contract/forms/grid_row_edit.h"
+
 #include <algorithm>
 
 using zel::Taken;
@@ -13,14 +15,14 @@ Taken CTBBrowserWnd::changeable() const
     return {};
 }
 
-CString CTBBrowserWnd::userName(int row, int index) const
+CString CTBBrowserWnd::userName(Row row, ColumnIndex index) const
 {
     const CString& title = GetColInfo(index).title;
-    const CString column = title.empty() ? "column " + std::to_string(columnOf(index) - 1) : "column \"" + title + "\"";
-    return IsAppendRow(row) ? column + " of the row for a new entry" : column + " of row " + std::to_string(row - 1);
+    const CString column = title.empty() ? "column " + std::to_string(toUserColumn(columnOf(index)).number()) : "column \"" + title + "\"";
+    return IsAppendRow(row) ? column + " of the row for a new entry" : column + " of row " + std::to_string(toUserRow(row).number());
 }
 
-Taken CTBBrowserWnd::focusCell(int row, int column, int& gridRow, int& gridColumn)
+Taken CTBBrowserWnd::focusCell(UserRow row, UserColumn column, Row& gridRow, ColumnPlace& gridColumn)
 {
     if (Taken focused = focus(); !focused)
         return focused;
@@ -28,37 +30,37 @@ Taken CTBBrowserWnd::focusCell(int row, int column, int& gridRow, int& gridColum
     if (gridRow < 0 && row == append)
         return refuse("has no row for a new entry");
     if (gridRow < 0)
-        return refuse("has no row " + std::to_string(row) + ": it has " + std::to_string(GetDataRowCount()) + " rows, from 0");
-    gridColumn = column + 1;
-    const int index = GetColIndex(gridColumn);
+        return refuse("has no row " + std::to_string(row.number()) + ": it has " + std::to_string(GetDataRowCount()) + " rows, from 0");
+    gridColumn = toColumn(column);
+    const ColumnIndex index = GetColIndex(gridColumn);
     if (index < 0)
-        return refuse("has no column " + std::to_string(column) + ": it has " + std::to_string(GetColCount()) + " columns, from 0");
+        return refuse("has no column " + std::to_string(column.number()) + ": it has " + std::to_string(GetColCount()) + " columns, from 0");
     if (GetColInfo(index).hidden)
         return refuse("does not show its " + userName(gridRow, index));
     if (IsRowHidden(gridRow))
-        return refuse("does not show its row " + std::to_string(row));
+        return refuse("does not show its row " + std::to_string(row.number()));
     return {};
 }
 
-Taken CTBBrowserWnd::toRows(const std::vector<int>& rows, CArray<int>& gridRows) const
+Taken CTBBrowserWnd::toRows(const std::vector<int>& rows, CArray<Row>& gridRows) const
 {
     std::vector<bool> seen(static_cast<std::size_t>(GetDataRowCount()), false);
     for (const int row : rows) {
-        const int gridRow = row == append ? -1 : toRow(row);
-        if (gridRow < 0)
+        const Row gridRow = toRow(row);
+        if (!IsDataRow(gridRow))
             return refuse("has no row " + std::to_string(row) + ": it has " + std::to_string(GetDataRowCount()) + " rows, from 0");
-        if (!seen[static_cast<std::size_t>(row)])
+        if (!seen[gridRow.place()])
             gridRows.push_back(gridRow);
-        seen[static_cast<std::size_t>(row)] = true;
+        seen[gridRow.place()] = true;
     }
     return {};
 }
 
-Taken CTBBrowserWnd::editable(int row, int column) const
+Taken CTBBrowserWnd::editable(Row row, ColumnPlace column) const
 {
     if (Taken free = changeable(); !free)
         return free;
-    const int index = GetColIndex(column);
+    const ColumnIndex index = GetColIndex(column);
     if (!IsValidCell(row, column))
         return refuse("has " + userName(row, index) + " disabled");
     if (!IsCellEditable(row, index))
@@ -66,7 +68,7 @@ Taken CTBBrowserWnd::editable(int row, int column) const
     return {};
 }
 
-Taken CTBBrowserWnd::offers(int row, int index, const CString& text) const
+Taken CTBBrowserWnd::offers(Row row, ColumnIndex index, const CString& text) const
 {
     if (GetCellKind(row, index) == zel::GridKind::check && text != "0" && text != "1")
         return refuse("takes only 0 or 1 in " + userName(row, index) + ", not \"" + text + "\"");
@@ -78,54 +80,44 @@ Taken CTBBrowserWnd::offers(int row, int index, const CString& text) const
     return refuse("does not offer \"" + text + "\" in " + userName(row, index));
 }
 
-Taken CTBBrowserWnd::typeCell(int row, int column, const CString& text)
+Taken CTBBrowserWnd::typeCell(UserRow row, UserColumn column, const CString& text)
 {
-    const zel::UserAction action;
-    int gridRow = 0;
-    int gridColumn = 0;
-    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
-        return there;
-    if (Taken free = editable(gridRow, gridColumn); !free)
-        return free;
-    if (Taken offered = offers(gridRow, GetColIndex(gridColumn), text); !offered)
-        return offered;
-    if (openAt(gridRow, gridColumn)) {
-        m_edit->cell = text;
-        m_edit->cellTyped = true;
-        closeCell();
-    }
-    tellCurrentRow();
-    return {};
+    return atCell(row, column, [&](Row gridRow, ColumnPlace gridColumn) -> Taken {
+        if (Taken free = editable(gridRow, gridColumn); !free)
+            return free;
+        if (Taken offered = offers(gridRow, GetColIndex(gridColumn), text); !offered)
+            return offered;
+        if (openAt(gridRow, gridColumn)) {
+            m_edit->type(text);
+            closeCell();
+        }
+        tellCurrentRow();
+        return {};
+    });
 }
 
-bool CTBBrowserWnd::openAt(int row, int column)
+bool CTBBrowserWnd::openAt(Row row, ColumnPlace column)
 {
     if (!goTo(row, column))
         return false;
     selectByUser({});
     openEdit(GetCurrentRow());
-    if (!m_edit->open) {
-        m_edit->open = true;
-        m_edit->index = GetColIndex(column);
-        m_edit->cell = m_edit->texts[static_cast<std::size_t>(m_edit->index)];
-        m_edit->cellTyped = false;
+    if (!m_edit->hasOpenCell()) {
+        m_edit->openCell(GetColIndex(column));
         repaint();
     }
     return true;
 }
 
-Taken CTBBrowserWnd::openCell(int row, int column)
+Taken CTBBrowserWnd::openCell(UserRow row, UserColumn column)
 {
-    const zel::UserAction action;
-    int gridRow = 0;
-    int gridColumn = 0;
-    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
-        return there;
-    if (Taken free = editable(gridRow, gridColumn); !free)
-        return free;
-    openAt(gridRow, gridColumn);
-    tellCurrentRow();
-    return {};
+    return atCell(row, column, [&](Row gridRow, ColumnPlace gridColumn) -> Taken {
+        if (Taken free = editable(gridRow, gridColumn); !free)
+            return free;
+        openAt(gridRow, gridColumn);
+        tellCurrentRow();
+        return {};
+    });
 }
 
 Taken CTBBrowserWnd::typeText(const CString& text)
@@ -134,117 +126,107 @@ Taken CTBBrowserWnd::typeText(const CString& text)
         return reached;
     if (GetOpenCell() < 0)
         return refuse("has no open cell to type into");
-    if (Taken offered = offers(editedRow(), m_edit->index, text); !offered)
+    if (Taken offered = offers(editedRow(), GetOpenCell(), text); !offered)
         return offered;
-    m_edit->cell = text;
-    m_edit->cellTyped = true;
+    m_edit->type(text);
     repaint();
     return {};
 }
 
 Taken CTBBrowserWnd::leaveCell()
 {
-    const zel::UserAction action;
-    if (Taken reached = reach(); !reached)
-        return reached;
-    closeCell();
-    tellCurrentRow();
-    return {};
+    return inReach([this] {
+        closeCell();
+        tellCurrentRow();
+    });
 }
 
 Taken CTBBrowserWnd::leaveRow()
 {
-    const zel::UserAction action;
-    if (Taken reached = reach(); !reached)
-        return reached;
-    closeRow();
-    tellCurrentRow();
-    return {};
+    return inReach([this] {
+        closeRow();
+        tellCurrentRow();
+    });
 }
 
 Taken CTBBrowserWnd::escape()
 {
-    const zel::UserAction action;
-    if (Taken reached = reach(); !reached)
-        return reached;
-    if (GetOpenCell() >= 0)
-        cancelCell();
-    else
-        cancelRow();
-    return {};
+    return inReach([this] {
+        if (m_edit->hasOpenCell())
+            cancelCell();
+        else
+            cancelRow();
+    });
 }
 
-Taken CTBBrowserWnd::clickCell(int row, int column)
+Taken CTBBrowserWnd::clickCell(UserRow row, UserColumn column)
 {
-    const zel::UserAction action;
-    int gridRow = 0;
-    int gridColumn = 0;
-    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
-        return there;
-    if (GetColInfo(GetColIndex(gridColumn)).frozen) {
-        if (!goToRow(gridRow))
+    return atCell(row, column, [&](Row gridRow, ColumnPlace gridColumn) -> Taken {
+        if (GetColInfo(GetColIndex(gridColumn)).frozen) {
+            if (!goToRow(gridRow))
+                return {};
+            selectByUser(IsDataRow(GetCurrentRow()) ? CArray<Row>{GetCurrentRow()} : CArray<Row>{});
+        } else if (!IsValidCell(gridRow, gridColumn)) {
+            return refuse("has " + userName(gridRow, GetColIndex(gridColumn)) + " disabled");
+        } else if (goTo(gridRow, gridColumn)) {
+            selectByUser({});
+        } else {
             return {};
-        selectByUser(IsDataRow(GetCurrentRow()) ? CArray<int>{GetCurrentRow()} : CArray<int>{});
-    } else if (!IsValidCell(gridRow, gridColumn)) {
-        return refuse("has " + userName(gridRow, GetColIndex(gridColumn)) + " disabled");
-    } else if (goTo(gridRow, gridColumn)) {
-        selectByUser({});
-    } else {
+        }
+        OnClickCell(GetCurrentRow(), gridColumn);
+        tellCurrentRow();
         return {};
-    }
-    OnClickCell(GetCurrentRow(), gridColumn);
-    tellCurrentRow();
-    return {};
+    });
 }
 
-Taken CTBBrowserWnd::doubleClickCell(int row, int column)
+Taken CTBBrowserWnd::doubleClickCell(UserRow row, UserColumn column)
 {
     const zel::UserAction action;
     if (Taken clicked = clickCell(row, column); !clicked)
         return clicked;
-    OnDoubleClickCell(GetCurrentRow(), column + 1);
+    OnDoubleClickCell(GetCurrentRow(), toColumn(column));
     tellCurrentRow();
     return {};
 }
 
-Taken CTBBrowserWnd::rightDoubleClickCell(int row, int column)
+Taken CTBBrowserWnd::rightDoubleClickCell(UserRow row, UserColumn column)
 {
     const zel::UserAction action;
     if (Taken clicked = clickCell(row, column); !clicked)
         return clicked;
-    OnRightDoubleClickCell(GetCurrentRow(), column + 1);
+    OnRightDoubleClickCell(GetCurrentRow(), toColumn(column));
     tellCurrentRow();
     return {};
 }
 
 Taken CTBBrowserWnd::doubleClick(int row)
 {
-    int current = 0;
-    int column = 0;
+    Row current;
+    ColumnPlace column;
     GetCurrentCell(current, column);
-    for (int candidate = 1; !IsValidCell(toRow(row), column) && candidate <= GetColCount(); ++candidate)
+    for (ColumnPlace candidate = 1; !IsValidCell(toRow(row), column) && candidate <= GetColCount(); ++candidate)
         column = candidate;
-    return doubleClickCell(row, column - 1);
+    return doubleClickCell(row, toUserColumn(column));
 }
 
-Taken CTBBrowserWnd::pressCell(int row, int column)
+Taken CTBBrowserWnd::pressCell(UserRow row, UserColumn column)
 {
     const zel::UserAction action;
     if (Taken clicked = clickCell(row, column); !clicked)
         return clicked;
-    const int index = GetColIndex(column + 1);
+    const ColumnIndex index = GetColIndex(toColumn(column));
     if (GetCellKind(GetCurrentRow(), index) != zel::GridKind::button)
         return refuse("has no button in " + userName(GetCurrentRow(), index));
     OnButtonCell(GetCurrentRow(), index);
     return {};
 }
 
-void CTBBrowserWnd::selectByUser(const CArray<int>& rows)
+void CTBBrowserWnd::selectByUser(const CArray<Row>& rows)
 {
     if (rows.empty() && GetSelectedRows().empty())
         return;
     SelectRows(rows);
-    const CArray<int> selected = GetSelectedRows();
+    const CArray<Row> selected = GetSelectedRows();
     OnChangedSelectionPublic(selected, static_cast<int>(selected.size()));
 }
 
@@ -253,7 +235,7 @@ Taken CTBBrowserWnd::select(const std::vector<int>& rows)
     const zel::UserAction action;
     if (Taken focused = focus(); !focused)
         return focused;
-    CArray<int> gridRows;
+    CArray<Row> gridRows;
     if (Taken there = toRows(rows, gridRows); !there)
         return there;
     if (!gridRows.empty()) {
@@ -263,7 +245,7 @@ Taken CTBBrowserWnd::select(const std::vector<int>& rows)
             return {};
     }
     SelectRows(gridRows);
-    const CArray<int> selected = GetSelectedRows();
+    const CArray<Row> selected = GetSelectedRows();
     OnChangedSelectionPublic(selected, static_cast<int>(selected.size()));
     tellCurrentRow();
     return {};
@@ -276,7 +258,7 @@ Taken CTBBrowserWnd::deleteRows(const std::vector<int>& rows)
         return focused;
     if (Taken free = changeable(); !free)
         return free;
-    CArray<int> gridRows;
+    CArray<Row> gridRows;
     if (Taken there = toRows(rows, gridRows); !there)
         return there;
     if (gridRows.empty())
@@ -298,7 +280,7 @@ Taken CTBBrowserWnd::deleteRows(const std::vector<int>& rows)
     if (deleted && !mirrored) {
         const zel::GridUpdate update{*this};
         std::sort(gridRows.rbegin(), gridRows.rend());
-        for (const int row : gridRows)
+        for (const Row row : gridRows)
             DeleteRecord(row);
     }
     if (deleted && selected && GetSelectedRows().empty())
@@ -307,32 +289,27 @@ Taken CTBBrowserWnd::deleteRows(const std::vector<int>& rows)
     return {};
 }
 
-Taken CTBBrowserWnd::dropText(int row, int column, const CString& text)
+Taken CTBBrowserWnd::dropText(UserRow row, UserColumn column, const CString& text)
 {
-    const zel::UserAction action;
-    int gridRow = 0;
-    int gridColumn = 0;
-    if (Taken there = focusCell(row, column, gridRow, gridColumn); !there)
-        return there;
-    if (Taken free = changeable(); !free)
-        return free;
-    m_warning.clear();
-    const bool taken = OnDropText(gridRow, gridColumn, text);
-    if (!m_warning.empty())
-        showWarning();
-    else if (!taken)
-        return refuse("has no use for what was dropped");
-    tellCurrentRow();
-    return {};
+    return changeAtCell(row, column, [&](Row gridRow, ColumnPlace gridColumn) -> Taken {
+        m_warning.clear();
+        const bool taken = OnDropText(gridRow, gridColumn, text);
+        if (!m_warning.empty())
+            showWarning();
+        else if (!taken)
+            return refuse("has no use for what was dropped");
+        tellCurrentRow();
+        return {};
+    });
 }
 
-Taken CTBBrowserWnd::resizeColumn(int column, int width)
+Taken CTBBrowserWnd::resizeColumn(UserColumn column, int width)
 {
     if (Taken reached = reach(); !reached)
         return reached;
-    const int index = GetColIndex(column + 1);
+    const ColumnIndex index = GetColIndex(toColumn(column));
     if (index < 0)
-        return refuse("has no column " + std::to_string(column) + ": it has " + std::to_string(GetColCount()) + " columns, from 0");
+        return refuse("has no column " + std::to_string(column.number()) + ": it has " + std::to_string(GetColCount()) + " columns, from 0");
     if (!GetColInfo(index).resizable)
         return refuse("keeps the width of column \"" + GetColInfo(index).title + "\"");
     SetColWidth(index, width);
@@ -344,7 +321,7 @@ bool CTBBrowserWnd::onKey(zel::UserKey key)
     if (GetCurrentRow() == 0)
         return false;
     if (key == zel::UserKey::escape) {
-        if (!m_edit)
+        if (m_edit->isNone())
             return false;
         (void)escape();
     } else if (key == zel::UserKey::tab) {

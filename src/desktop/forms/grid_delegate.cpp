@@ -47,7 +47,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const bool current = index == m_view->table().currentIndex();
     const bool editable = model.isEditable(index);
     // Where nothing can be typed at all, the grid is a list.
-    const bool takesText = m_view->grid().IsCellEditable(index.row() + 1, model.columnIndex(index.column()));
+    const bool takesText = m_view->grid().IsCellEditable(GridModel::gridRow(index.row()), model.columnIndex(index.column()));
     QStyle& style = *option.widget->style();
 
     QStyleOptionViewItem cell = option;
@@ -72,7 +72,8 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
         button.initFrom(option.widget);
         button.rect = option.rect.adjusted(1, 1, -2, -2);
         button.text = cell.text;
-        const bool enabled = m_view->grid().IsValidCell(index.row() + 1, index.column() + 1) && (option.state & QStyle::State_Enabled) != 0;
+        const bool enabled =
+            m_view->grid().IsValidCell(GridModel::gridRow(index.row()), GridModel::gridColumn(index.column())) && (option.state & QStyle::State_Enabled) != 0;
         button.state = enabled ? QStyle::State_Enabled : QStyle::State_None;
         button.state |= m_view->isPressed(index) ? QStyle::State_Sunken : QStyle::State_Raised;
         style.drawControl(QStyle::CE_PushButton, &button, painter, option.widget);

@@ -41,13 +41,13 @@ QLineEdit* GridEditor::line() const
 void GridEditor::follow()
 {
     const CTBBrowserWnd& grid = m_view.grid();
-    const int columnIndex = grid.GetOpenCell();
-    int column = 0;
+    const ColumnIndex columnIndex = grid.GetOpenCell();
+    ColumnPlace column;
     if (columnIndex < 0 || grid.GetColumnNoFor(columnIndex, column) == 0) {
         close();
         return;
     }
-    const QModelIndex cell = m_view.model().index(grid.GetEditRow() - 1, column - 1);
+    const QModelIndex cell = m_view.model().index(GridModel::modelRow(grid.GetEditRow()), CTBGrid::toUserColumn(column).number());
     if (m_field == nullptr || m_columnIndex != columnIndex || m_cell.row() != cell.row())
         open(cell);
     m_cell = cell;
@@ -61,7 +61,7 @@ void GridEditor::open(const QModelIndex& cell)
     close();
     const std::vector<CString> choices = m_view.model().choices(cell);
     QWidget* const pane = m_view.table().paneOf(cell.column()).viewport();
-    const int columnIndex = m_view.model().columnIndex(cell.column());
+    const ColumnIndex columnIndex = m_view.model().columnIndex(cell.column());
     if (choices.empty()) {
         auto* field = new QLineEdit(pane);
         field->setFrame(false);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "contract/forms/grid_places.h"
+
 #include <QObject>
 #include <QPersistentModelIndex>
 #include <QPointer>
@@ -44,7 +46,7 @@ private:
     QPointer<QWidget> m_field;
     QPointer<List> m_list;  ///< the field, where it is a list
     QModelIndex m_cell;
-    int m_columnIndex = -1;
+    ColumnIndex m_columnIndex = -1;
 };
 
 }  // namespace zel::desktop

@@ -37,11 +37,11 @@ void GridRowHeader::follow(const CTBBrowserWnd& grid)
     if (!shown)
         return;
     int widest = 0;
-    const auto measure = [&](int row) { widest = std::max(widest, fontMetrics().horizontalAdvance(toQt(grid.GetRowHeaderText(row)))); };
+    const auto measure = [&](Row row) { widest = std::max(widest, fontMetrics().horizontalAdvance(toQt(grid.GetRowHeaderText(row)))); };
     const int rows = grid.GetDataRowCount();
-    for (int row = 1; row <= std::min(rows, fewRows); ++row)
+    for (Row row = 1; row <= std::min(rows, fewRows); ++row)
         measure(row);
-    measure(rows);
+    measure(Row::of(rows));
     if (grid.GetAppendRow() != 0)
         measure(grid.GetAppendRow());
     const int width = std::max(grid.GetRowHeaderWidth(), widest + pencilWidth + headerMargin);
@@ -52,7 +52,7 @@ void GridRowHeader::follow(const CTBBrowserWnd& grid)
 void GridRowHeader::paintSection(QPainter* painter, const QRect& rect, int row) const
 {
     const GridView* view = m_pane.view();
-    const bool edited = view != nullptr && view->isAttached() && view->grid().GetEditRow() == row + 1;
+    const bool edited = view != nullptr && view->isAttached() && view->grid().GetEditRow() == GridModel::gridRow(row);
     painter->save();  // the base leaves its clipping behind
     QHeaderView::paintSection(painter, rect, row);
     painter->restore();

@@ -62,7 +62,7 @@ void GridInput::press(GridPane& pane, QMouseEvent& event)
     CTBBrowserWnd& grid = m_view.grid();
     m_wholeRow = false;
     if (grid.GetColInfo(m_view.model().columnIndex(cell.column())).frozen) {
-        m_wholeRow = grid.IsAppendRow(cell.row() + 1);
+        m_wholeRow = grid.IsAppendRow(GridModel::gridRow(cell.row()));
         m_rows.press(cell.row(), cell.column(), event.modifiers(), at);
         return;
     }
@@ -76,7 +76,7 @@ void GridInput::press(GridPane& pane, QMouseEvent& event)
     } else if (cell == current() && isEditable(cell) && !m_view.model().choices(cell).empty() && at.x() > place.right() - GridDelegate::arrowWidth) {
         dropDown();
     } else {
-        click(cell.row() + 1, cell.column() + 1);
+        click(GridModel::gridRow(cell.row()), GridModel::gridColumn(cell.column()));
     }
 }
 
@@ -89,7 +89,7 @@ void GridInput::pressRowHeader(QMouseEvent& event)
     const int row = m_view.table().rowAt(event.position().toPoint().y());
     if (event.button() != Qt::LeftButton || !m_view.isInput() || row < 0 || row >= m_view.grid().GetRowCount())
         return;
-    m_wholeRow = m_view.grid().IsAppendRow(row + 1);
+    m_wholeRow = m_view.grid().IsAppendRow(GridModel::gridRow(row));
     m_rows.press(row, -1, event.modifiers(), event.position().toPoint());
 }
 
@@ -112,7 +112,7 @@ void GridInput::release(GridPane& pane, QMouseEvent& event)
     m_view.table().repaintCells();
     if (pane.indexAt(event.position().toPoint()) != button || !m_view.model().has(button))
         return;
-    const int row = m_view.model().userRow(button.row());
+    const UserRow row = m_view.model().userRow(button.row());
     (void)m_view.act([&] { return m_view.user().pressCell(m_view.grid(), row, button.column()); });
 }
 
@@ -124,7 +124,7 @@ void GridInput::doubleClick(GridPane& pane, QMouseEvent& event)
     const QModelIndex cell = pane.indexAt(event.position().toPoint());
     if (!m_view.model().has(cell))
         return;
-    const int row = m_view.model().userRow(cell.row());
+    const UserRow row = m_view.model().userRow(cell.row());
     const int column = cell.column();
     if (event.button() == Qt::RightButton) {
         (void)m_view.act([&] { return m_view.user().rightDoubleClickCell(m_view.grid(), row, column); });
@@ -178,16 +178,16 @@ void GridInput::drop(GridPane& pane, QDropEvent& event)
     const QMimeData& data = *event.mimeData();
     const CString text = data.hasFormat(casesType) ? data.data(casesType).toStdString() : fromQt(data.text());
     const QModelIndex cell = pane.indexAt(event.position().toPoint());
-    int row = grid.GetRowCount();
-    int column = 1;
+    Row row = Row::of(grid.GetRowCount());
+    ColumnPlace column = 1;
     if (m_view.model().has(cell)) {
-        row = cell.row() + 1;
-        column = cell.column() + 1;
+        row = GridModel::gridRow(cell.row());
+        column = GridModel::gridColumn(cell.column());
     } else {
         while (column < grid.GetColCount() && grid.GetColInfo(grid.GetColIndex(column)).hidden)
             ++column;
     }
-    (void)m_view.act({.verb = Verb::drop, .row = grid.toUserRow(row), .column = column - 1, .text = text}, GridView::Refusal::shown);
+    (void)m_view.act({.verb = Verb::drop, .row = grid.toUserRow(row), .column = CTBGrid::toUserColumn(column), .text = text}, GridView::Refusal::shown);
 }
 
 void GridInput::menu(GridPane& pane, QContextMenuEvent& event)
@@ -197,10 +197,10 @@ void GridInput::menu(GridPane& pane, QContextMenuEvent& event)
         return;
     // The menu is for the cell under the mouse, unless it is one of the rows that are selected.
     const QModelIndex cell = pane.indexAt(pane.viewport()->mapFromGlobal(event.globalPos()));
-    const CArray<int>& selected = m_view.grid().GetSelectedRows();
-    const bool isSelected = std::find(selected.begin(), selected.end(), cell.row() + 1) != selected.end();
+    const CArray<Row>& selected = m_view.grid().GetSelectedRows();
+    const bool isSelected = std::find(selected.begin(), selected.end(), GridModel::gridRow(cell.row())) != selected.end();
     if (event.reason() == QContextMenuEvent::Mouse && m_view.model().has(cell) && !isSelected && cell != current()) {
-        const int row = m_view.model().userRow(cell.row());
+        const UserRow row = m_view.model().userRow(cell.row());
         const std::weak_ptr<bool> life = m_view.life();
         (void)m_view.act({.verb = Verb::current, .row = row, .column = cell.column()});
         if (life.expired() || !m_view.isInput())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/forms/grid_places.h"
 #include "contract/text.h"
 #include "desktop/forms/grid_row_gesture.h"
 
@@ -76,21 +77,21 @@ private:
     void tab();
     void backTab();
     void escape();
-    /// Makes a cell current, given by the numbers of the grid.
-    void click(int row, int column);
+    /// Makes a cell current.
+    void click(Row row, ColumnPlace column);
     void step(int rows, int columns);
-    void goTo(int row, int column, int rowStep, int columnStep);
+    void goTo(Row row, ColumnPlace column, int rowStep, int columnStep);
     /// Opens the current cell. False if it is not open afterwards.
     bool open();
     void clear();
     void toggle(const QModelIndex& cell);
     void pasteText(const CString& text);
     void dropDown();
-    [[nodiscard]] bool canStandAt(int row, int column) const;
+    [[nodiscard]] bool canStandAt(Row row, ColumnPlace column) const;
     [[nodiscard]] bool isEditable(const QModelIndex& cell) const;
     [[nodiscard]] QModelIndex current() const;
     [[nodiscard]] std::vector<int> chosenRows() const;
-    [[nodiscard]] CString identityOf(int row) const;
+    [[nodiscard]] CString identityOf(Row row) const;
 
     GridView& m_view;
     GridRowGesture m_rows;

@@ -53,9 +53,9 @@ bool GridInput::command(const QKeyEvent& event)
     }
     if (event.matches(QKeySequence::SelectAll)) {
         std::vector<int> all;
-        for (int row = grid.GetDataRowCount(); row >= 1; --row) {
+        for (Row row = Row::of(grid.GetDataRowCount()); row >= 1; --row) {
             if (!grid.IsRowHidden(row))
-                all.push_back(row - 1);
+                all.push_back(GridModel::modelRow(row));
         }
         select(all);
         return true;
@@ -100,12 +100,12 @@ bool GridInput::moveKey(const QKeyEvent& event)
     const int key = event.key();
     const int rows = key == Qt::Key_Up ? -1 : key == Qt::Key_Down ? 1 : key == Qt::Key_PageUp ? -page : key == Qt::Key_PageDown ? page : 0;
     if (rows != 0 && shift) {
-        const CArray<int>& selected = grid.GetSelectedRows();
-        m_rows.extendTo((selected.empty() ? grid.GetCurrentRow() : selected.back()) - 1 + (selected.empty() ? 0 : rows));
+        const CArray<Row>& selected = grid.GetSelectedRows();
+        m_rows.extendTo(GridModel::modelRow(selected.empty() ? grid.GetCurrentRow() : selected.back() + rows));
         return true;
     }
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     (void)grid.GetCurrentCell(row, column);
     switch (key) {
     case Qt::Key_Up:
@@ -119,10 +119,10 @@ bool GridInput::moveKey(const QKeyEvent& event)
         step(0, key == Qt::Key_Left ? -1 : 1);
         return true;
     case Qt::Key_Home:
-        goTo(control ? 1 : std::max(row, 1), 1, control ? 1 : 0, 1);
+        goTo(control ? Row{1} : std::max(row, Row{1}), 1, control ? 1 : 0, 1);
         return true;
     case Qt::Key_End:
-        goTo(control ? grid.GetRowCount() : std::max(row, 1), grid.GetColCount(), control ? -1 : 0, -1);
+        goTo(control ? Row::of(grid.GetRowCount()) : std::max(row, Row{1}), ColumnPlace::of(grid.GetColCount()), control ? -1 : 0, -1);
         return true;
     default:
         return false;
@@ -188,16 +188,16 @@ void GridInput::escape()
 /// Behind the last cell the keyboard goes on to the next control.
 void GridInput::tab()
 {
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     CTBBrowserWnd& grid = m_view.grid();
     const bool hadCurrent = grid.GetCurrentCell(row, column) != 0;
     const bool wasEdited = grid.IsEdit();
     m_wholeRow = false;
     if (!m_view.act({.verb = Verb::key, .key = UserKey::tab}))
         return;
-    int rowNow = 0;
-    int columnNow = 0;
+    Row rowNow;
+    ColumnPlace columnNow;
     const bool stays = hadCurrent && grid.GetCurrentCell(rowNow, columnNow) != 0 && rowNow == row && columnNow == column;
     if (stays && !wasEdited && !grid.IsEdit() && !m_view.isWarned())
         m_view.table().leaveTo(true);
@@ -205,11 +205,11 @@ void GridInput::tab()
 
 void GridInput::backTab()
 {
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     const CTBBrowserWnd& grid = m_view.grid();
     if (grid.GetCurrentCell(row, column) != 0) {
-        for (; row >= 1; --row, column = grid.GetColCount() + 1) {
+        for (; row >= 1; --row, column = ColumnPlace::of(grid.GetColCount() + 1)) {
             while (--column >= 1) {
                 if (canStandAt(row, column)) {
                     click(row, column);
@@ -224,25 +224,25 @@ void GridInput::backTab()
 // The current cell
 
 /// Clicks into frozen columns select rows, so that the keys go past them.
-bool GridInput::canStandAt(int row, int column) const
+bool GridInput::canStandAt(Row row, ColumnPlace column) const
 {
     const CTBBrowserWnd& grid = m_view.grid();
     return grid.IsValidCell(row, column) && !grid.GetColInfo(grid.GetColIndex(column)).frozen;
 }
 
-void GridInput::click(int row, int column)
+void GridInput::click(Row row, ColumnPlace column)
 {
     m_wholeRow = false;
-    const int userRow = m_view.grid().toUserRow(row);
-    (void)m_view.act({.verb = Verb::current, .row = userRow, .column = column - 1});
+    const UserRow userRow = m_view.grid().toUserRow(row);
+    (void)m_view.act({.verb = Verb::current, .row = userRow, .column = CTBGrid::toUserColumn(column)});
 }
 
 /// The first cell from there on, in steps, that can be current.
-void GridInput::goTo(int row, int column, int rowStep, int columnStep)
+void GridInput::goTo(Row row, ColumnPlace column, int rowStep, int columnStep)
 {
     const CTBBrowserWnd& grid = m_view.grid();
-    for (; row >= 1 && row <= grid.GetRowCount(); row += rowStep) {
-        for (int each = column; each >= 1 && each <= grid.GetColCount(); each += columnStep) {
+    for (; row >= 1 && row <= grid.GetRowCount(); row = row + rowStep) {
+        for (ColumnPlace each = column; each >= 1 && each <= grid.GetColCount(); each = each + columnStep) {
             if (canStandAt(row, each)) {
                 click(row, each);
                 return;
@@ -258,37 +258,37 @@ void GridInput::goTo(int row, int column, int rowStep, int columnStep)
 void GridInput::step(int rows, int columns)
 {
     const CTBBrowserWnd& grid = m_view.grid();
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     if (grid.GetCurrentCell(row, column) == 0) {
         goTo(1, 1, 1, 1);
     } else if (columns != 0) {
         goTo(row, column + columns, 0, columns);
     } else {
         // A page beyond the end stops at the last row that takes the current cell.
-        const int target = std::clamp(row + rows, 1, grid.GetRowCount());
+        const Row target = std::clamp(row + rows, Row{1}, Row::of(grid.GetRowCount()));
         const int back = rows < 0 ? 1 : -1;
-        for (int each = target; each >= 1 && each <= grid.GetRowCount(); each -= back) {
+        for (Row each = target; each >= 1 && each <= grid.GetRowCount(); each = each - back) {
             if (canStandAt(each, column)) {
                 click(each, column);
                 return;
             }
         }
-        for (int each = target; each != row; each += back) {
+        for (Row each = target; each != row; each = each + back) {
             if (canStandAt(each, column)) {
                 click(each, column);
                 return;
             }
         }
         if (!canStandAt(row, column) && grid.IsDataRow(target))
-            select({target - 1});  // rows of which no cell can be current are gone through as a whole
+            select({GridModel::modelRow(target)});  // rows of which no cell can be current are gone through as a whole
     }
 }
 
 bool GridInput::open()
 {
     const QModelIndex cell = current();
-    const int row = m_view.model().userRow(cell.row());
+    const UserRow row = m_view.model().userRow(cell.row());
     m_wholeRow = false;
     return m_view.act([&] { return m_view.user().openCell(m_view.grid(), row, cell.column()); }) && m_view.editor().field() != nullptr;
 }
@@ -314,7 +314,7 @@ void GridInput::focusCell()
 void GridInput::toggle(const QModelIndex& cell)
 {
     const CString text = cell.data(Qt::EditRole).toString() == QLatin1String("1") ? "0" : "1";
-    const int row = m_view.model().userRow(cell.row());
+    const UserRow row = m_view.model().userRow(cell.row());
     (void)m_view.act({.verb = Verb::cell, .row = row, .column = cell.column(), .text = text});
 }
 
@@ -323,7 +323,7 @@ void GridInput::clear()
     const QModelIndex cell = current();
     if (!isEditable(cell) || m_view.model().kind(cell) == GridKind::check)
         return;
-    const int row = m_view.model().userRow(cell.row());
+    const UserRow row = m_view.model().userRow(cell.row());
     (void)m_view.act({.verb = Verb::cell, .row = row, .column = cell.column(), .text = {}});
 }
 
@@ -339,11 +339,11 @@ void GridInput::select(const std::vector<int>& rows)
 std::vector<int> GridInput::chosenRows() const
 {
     const CTBBrowserWnd& grid = m_view.grid();
-    std::vector<int> rows = grid.GetSelectedRows();
+    std::vector<int> rows;
+    for (const Row row : grid.GetSelectedRows())
+        rows.push_back(GridModel::modelRow(row));
     if (rows.empty() && grid.IsDataRow(grid.GetCurrentRow()))
-        rows.push_back(grid.GetCurrentRow());
-    for (int& row : rows)
-        --row;
+        rows.push_back(GridModel::modelRow(grid.GetCurrentRow()));
     return rows;
 }
 
@@ -355,11 +355,11 @@ void GridInput::removeRows()
 }
 
 /// What a row is known by at another place: the texts of a frozen column, a number, go with the place.
-CString GridInput::identityOf(int row) const
+CString GridInput::identityOf(Row row) const
 {
     const CTBBrowserWnd& grid = m_view.grid();
     CString identity = std::to_string(grid.GetRowKey(row));
-    for (int index = 0; index < grid.GetColCount(); ++index) {
+    for (const ColumnIndex index : grid.GetAllColumns()) {
         if (!grid.GetColInfo(index).frozen)
             identity += '\t' + grid.TextBeforeEdit(row, index);
     }
@@ -378,12 +378,12 @@ void GridInput::moveRows(int step)
     if (target < 0 || target > grid->GetDataRowCount())
         return;
     const int count = static_cast<int>(rows.size());
-    const CString identity = identityOf(rows.front() + 1);
+    const CString identity = identityOf(GridModel::gridRow(rows.front()));
     if (!m_view.act({.verb = Verb::dragRows, .rows = rows, .to = target}, GridView::Refusal::shown))
         return;
     std::vector<int> moved(rows.size());
     std::iota(moved.begin(), moved.end(), step < 0 ? target : target - count);
-    if (identityOf(moved.front() + 1) == identity && grid->GetSelectedRows().size() != moved.size())
+    if (identityOf(GridModel::gridRow(moved.front())) == identity && grid->GetSelectedRows().size() != moved.size())
         select(moved);
 }
 
@@ -422,20 +422,20 @@ void GridInput::pasteText(const CString& text)
     CTBBrowserWndEx* grid = m_view.orderedGrid();
     if (grid == nullptr || text.empty() || grid->IsModeDisplayOnly())
         return;
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     (void)grid->GetCurrentCell(row, column);
-    const CArray<int>& selected = grid->GetSelectedRows();
+    const CArray<Row>& selected = grid->GetSelectedRows();
     if (!selected.empty())
         row = *std::min_element(selected.begin(), selected.end());
     if (row == 0)
-        row = grid->GetRowCount();
+        row = Row::of(grid->GetRowCount());
     if (column == 0 || !selected.empty() || m_wholeRow) {
         column = 1;
         while (column < grid->GetColCount() && grid->GetColInfo(grid->GetColIndex(column)).hidden)
             ++column;
     }
-    (void)m_view.act({.verb = Verb::paste, .row = grid->toUserRow(row), .column = column - 1, .text = text}, GridView::Refusal::shown);
+    (void)m_view.act({.verb = Verb::paste, .row = grid->toUserRow(row), .column = CTBGrid::toUserColumn(column), .text = text}, GridView::Refusal::shown);
 }
 
 /// Several cells don't go into one: the open cell is given up, and the block begins there.

@@ -36,12 +36,12 @@ bool GridModel::has(const QModelIndex& index) const
 
 bool GridModel::isEditable(const QModelIndex& index) const
 {
-    return !m_grid->IsModeDisplayOnly() && m_grid->IsCellEditable(index.row() + 1, columnIndex(index.column()));
+    return !m_grid->IsModeDisplayOnly() && m_grid->IsCellEditable(gridRow(index.row()), columnIndex(index.column()));
 }
 
 std::vector<CString> GridModel::choices(const QModelIndex& index) const
 {
-    return m_grid->GetCellChoices(index.row() + 1, columnIndex(index.column()));
+    return m_grid->GetCellChoices(gridRow(index.row()), columnIndex(index.column()));
 }
 
 QVariant GridModel::shown(const QModelIndex& index) const
@@ -52,7 +52,7 @@ QVariant GridModel::shown(const QModelIndex& index) const
 /// Of the cell's own style. A cell of which only the background is given keeps its text legible in a dark theme.
 QVariant GridModel::colour(const QModelIndex& index, bool background) const
 {
-    const GridCellStyle style = m_grid->GetCellStyle(index.row() + 1, columnIndex(index.column()));
+    const GridCellStyle style = m_grid->GetCellStyle(gridRow(index.row()), columnIndex(index.column()));
     if (background)
         return style.background ? QVariant(QBrush(colourOf(*style.background))) : QVariant();
     if (style.foreground)
@@ -71,7 +71,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole:
         return kind(index) == GridKind::check ? QVariant() : shown(index);
     case Qt::EditRole:
-        return toQt(m_grid->GetValueRowCol(index.row() + 1, index.column() + 1));
+        return toQt(m_grid->GetValueRowCol(gridRow(index.row()), gridColumn(index.column())));
     case Qt::CheckStateRole: {
         if (kind(index) != GridKind::check)
             return {};
@@ -96,7 +96,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     if (m_grid == nullptr || role != Qt::DisplayRole)
         return {};
     if (orientation == Qt::Vertical)
-        return section < m_grid->GetRowCount() ? QVariant(toQt(m_grid->GetRowHeaderText(section + 1))) : QVariant();
+        return section < m_grid->GetRowCount() ? QVariant(toQt(m_grid->GetRowHeaderText(gridRow(section)))) : QVariant();
     return section < m_grid->GetColCount() ? QVariant(toQt(m_grid->GetColInfo(columnIndex(section)).header)) : QVariant();
 }
 

@@ -6,7 +6,7 @@
 namespace zel::desktop {
 
 /// Reads the cells of a grid browser as a host paints them. Rows are the data rows and the append row, columns those on screen, hidden ones
-/// included. Row r of the model is row r + 1 of the grid, column c is column c + 1.
+/// included. They are numbered from 0.
 class GridModel final : public ControllerModel {
 public:
     GridModel(CTBBrowserWnd& grid, QObject* parent) : ControllerModel(parent), m_grid(&grid) {}
@@ -16,13 +16,17 @@ public:
     void detach();
 
     /// Row of the controller's user channel: the last one may be the append row.
-    [[nodiscard]] int userRow(int row) const { return m_grid->toUserRow(row + 1); }
+    [[nodiscard]] UserRow userRow(int row) const { return m_grid->toUserRow(gridRow(row)); }
+    /// The grid's own numbers of a row and a column, and the row of the model for one of the grid's.
+    [[nodiscard]] static Row gridRow(int row) { return Row::of(row + 1); }
+    [[nodiscard]] static ColumnPlace gridColumn(int column) { return ColumnPlace::of(column + 1); }
+    [[nodiscard]] static int modelRow(Row row) { return row.number() - 1; }
     /// Whether the cell is there in the grid now: rows may have come or gone since the last `follow`.
     [[nodiscard]] bool has(const QModelIndex& index) const;
     /// The fixed index of a column.
-    [[nodiscard]] int columnIndex(int column) const { return m_grid->GetColIndex(column + 1); }
+    [[nodiscard]] ColumnIndex columnIndex(int column) const { return m_grid->GetColIndex(gridColumn(column)); }
     /// Kind and choices of a cell, and whether it takes a text now. The cell must be there.
-    [[nodiscard]] GridKind kind(const QModelIndex& index) const { return m_grid->GetCellKind(index.row() + 1, columnIndex(index.column())); }
+    [[nodiscard]] GridKind kind(const QModelIndex& index) const { return m_grid->GetCellKind(gridRow(index.row()), columnIndex(index.column())); }
     [[nodiscard]] bool isEditable(const QModelIndex& index) const;
     [[nodiscard]] std::vector<CString> choices(const QModelIndex& index) const;
 

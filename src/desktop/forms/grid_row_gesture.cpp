@@ -30,17 +30,17 @@ void GridRowGesture::press(int row, int column, Qt::KeyboardModifiers modifiers,
     m_pressedRow = row;
     m_pressedColumn = column;
     m_state = State::idle;
-    if (!grid.IsDataRow(row + 1)) {
+    if (!grid.IsDataRow(GridModel::gridRow(row))) {
         selectOne(row, column);
         return;
     }
-    const CArray<int>& selected = grid.GetSelectedRows();
+    const CArray<Row>& selected = grid.GetSelectedRows();
     if ((modifiers & Qt::ShiftModifier) != 0) {
         m_state = State::sweeping;
         extendTo(row);
     } else if ((modifiers & Qt::ControlModifier) != 0) {
         toggle(row);
-    } else if (std::find(selected.begin(), selected.end(), row + 1) != selected.end()) {
+    } else if (std::find(selected.begin(), selected.end(), GridModel::gridRow(row)) != selected.end()) {
         m_state = State::onSelected;
     } else {
         m_state = State::sweeping;
@@ -54,16 +54,16 @@ void GridRowGesture::selectOne(int row, int column)
     m_anchor = row;
     m_reached = row;
     CTBBrowserWnd& grid = m_view.grid();
-    const int userRow = m_view.model().userRow(row);
+    const UserRow userRow = m_view.model().userRow(row);
     for (int each = 0; column < 0 && userRow == CTBGrid::append && each < grid.GetColCount(); ++each) {
-        const GridColumn& info = grid.GetColInfo(grid.GetColIndex(each + 1));
-        if (!info.hidden && (info.frozen || grid.IsValidCell(row + 1, each + 1)))
+        const GridColumn& info = grid.GetColInfo(m_view.model().columnIndex(each));
+        if (!info.hidden && (info.frozen || grid.IsValidCell(GridModel::gridRow(row), GridModel::gridColumn(each))))
             column = each;
     }
     if (column >= 0)
         (void)m_view.act({.verb = Verb::current, .row = userRow, .column = column});
     else if (userRow != CTBGrid::append)
-        (void)m_view.act({.verb = Verb::select, .rows = {userRow}});
+        (void)m_view.act({.verb = Verb::select, .rows = {userRow.number()}});
 }
 
 void GridRowGesture::toggle(int row)
@@ -72,11 +72,11 @@ void GridRowGesture::toggle(int row)
     m_reached = row;
     std::vector<int> rows;
     bool was = false;
-    for (const int each : m_view.grid().GetSelectedRows()) {
-        if (each - 1 == row)
+    for (const Row each : m_view.grid().GetSelectedRows()) {
+        if (GridModel::modelRow(each) == row)
             was = true;
         else
-            rows.push_back(each - 1);
+            rows.push_back(GridModel::modelRow(each));
     }
     if (!was)
         rows.push_back(row);
@@ -91,12 +91,12 @@ void GridRowGesture::extendTo(int row)
         return;
     row = std::clamp(row, 0, last);
     if (m_anchor < 0 || m_anchor > last)
-        m_anchor = std::clamp(grid.GetCurrentRow() - 1, 0, last);
+        m_anchor = std::clamp(GridModel::modelRow(grid.GetCurrentRow()), 0, last);
     m_reached = row;
     std::vector<int> rows;
     const int step = row < m_anchor ? -1 : 1;
     for (int each = m_anchor;; each += step) {
-        if (!grid.IsRowHidden(each + 1))
+        if (!grid.IsRowHidden(GridModel::gridRow(each)))
             rows.push_back(each);
         if (each == row)
             break;
@@ -163,9 +163,9 @@ void GridRowGesture::release()
     if (state == State::onSelected) {
         selectOne(row, column);
     } else if (state == State::dragging && grid != nullptr && gap >= 0) {
-        std::vector<int> rows = grid->GetSelectedRows();
-        for (int& each : rows)
-            --each;
+        std::vector<int> rows;
+        for (const Row each : grid->GetSelectedRows())
+            rows.push_back(GridModel::modelRow(each));
         const auto [first, last] = std::minmax_element(rows.begin(), rows.end());
         const bool together = *last - *first + 1 == static_cast<int>(rows.size());
         if (together && gap >= *first && gap <= *last + 1)

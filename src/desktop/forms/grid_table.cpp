@@ -111,7 +111,7 @@ void GridTable::followRows(const CTBBrowserWnd& grid)
     std::vector<int> hidden;
     const int count = model()->rowCount();
     for (int row = 0; row < count; ++row) {
-        if (grid.IsRowHidden(row + 1))
+        if (grid.IsRowHidden(GridModel::gridRow(row)))
             hidden.push_back(row);
     }
     const auto show = [&](int row, bool out) {
@@ -127,7 +127,7 @@ void GridTable::followRows(const CTBBrowserWnd& grid)
     m_hiddenRows = std::move(hidden);
 }
 
-int GridTable::widthFor(const GridColumn& column, int index, int section)
+int GridTable::widthFor(const GridColumn& column, ColumnIndex index, int section)
 {
     if (m_userSized.count(index) != 0)
         return column.width;
@@ -145,7 +145,7 @@ void GridTable::followColumns(const CTBBrowserWnd& grid)
     const int columns = model()->columnCount();
     m_sticky.assign(static_cast<std::size_t>(columns), false);
     for (int section = 0; section < columns; ++section) {
-        const int index = grid.GetColIndex(section + 1);
+        const ColumnIndex index = grid.GetColIndex(GridModel::gridColumn(section));
         const GridColumn& column = grid.GetColInfo(index);
         m_sticky[static_cast<std::size_t>(section)] = column.frozen && !column.hidden;
         setColumnHidden(section, column.hidden);
@@ -169,7 +169,7 @@ void GridTable::followSpans(const CTBBrowserWnd& grid)
     if (rows <= mostSpanRows) {
         for (int row = 0; row < rows; ++row) {
             for (int column = 0; column < columns; ++column) {
-                const int count = std::min(grid.GetCellStyle(row + 1, grid.GetColIndex(column + 1)).span, columns - column);
+                const int count = std::min(grid.GetCellStyle(GridModel::gridRow(row), grid.GetColIndex(GridModel::gridColumn(column))).span, columns - column);
                 if (count > 1) {
                     spans.push_back({row, column, count});
                     column += count - 1;

@@ -28,7 +28,7 @@ public:
     /// Takes over what the controller says of columns, rows and headers.
     void follow();
     /// From now on the column is as wide as the user made it, be that too narrow for its header.
-    void keepWidth(int columnIndex) { m_userSized[columnIndex] = true; }
+    void keepWidth(ColumnIndex columnIndex) { m_userSized[columnIndex] = true; }
 
     /// The pane in which a column is seen, and the place of a cell in its viewport.
     [[nodiscard]] GridPane& paneOf(int column);
@@ -71,7 +71,7 @@ private:
     void followSpans(const CTBBrowserWnd& grid);
     void stickColumns();
     void placeFrozen();
-    [[nodiscard]] int widthFor(const GridColumn& column, int index, int section);
+    [[nodiscard]] int widthFor(const GridColumn& column, ColumnIndex index, int section);
     [[nodiscard]] QSize sizeFor(int mostWidth, int rows) const;
 
     struct Span {
@@ -86,8 +86,8 @@ private:
     GridMarks m_marks;
     std::vector<int> m_hiddenRows;
     std::vector<Span> m_spans;
-    std::vector<bool> m_sticky;            ///< columns that are to stay in sight
-    std::map<int, bool> m_userSized;       ///< by fixed index
+    std::vector<bool> m_sticky;  ///< columns that are to stay in sight
+    std::map<ColumnIndex, bool> m_userSized;
     std::map<QString, int> m_titleWidths;  ///< [pixels] of the headers that were measured with the present font
     QSize m_leastSize;
     bool m_placing = false;

@@ -136,9 +136,9 @@ void GridView::refresh()
 
 QModelIndex GridView::currentIndex() const
 {
-    int row = 0;
-    int column = 0;
-    return control().GetCurrentCell(row, column) != 0 ? m_model->index(row - 1, column - 1) : QModelIndex();
+    Row row;
+    ColumnPlace column;
+    return control().GetCurrentCell(row, column) != 0 ? m_model->index(GridModel::modelRow(row), CTBGrid::toUserColumn(column).number()) : QModelIndex();
 }
 
 /// The current cell is brought into sight when it becomes another one; a refresh for other reasons leaves the cells where they are.
@@ -154,14 +154,14 @@ void GridView::showCurrent()
 
 void GridView::showSelection()
 {
-    const CArray<int>& selected = control().GetSelectedRows();
+    const CArray<Row>& selected = control().GetSelectedRows();
     if (selected == m_shownSelection && m_selectionRows == m_model->rowCount())
         return;
     m_shownSelection = selected;
     m_selectionRows = m_model->rowCount();
-    std::vector<int> rows = selected;
-    for (int& row : rows)
-        --row;
+    std::vector<int> rows;
+    for (const Row row : selected)
+        rows.push_back(GridModel::modelRow(row));
     selectRowsIn(*m_table, std::move(rows));
 }
 
@@ -170,7 +170,7 @@ void GridView::fillVisible()
     if (!isAttached())
         return;
     const auto [first, last] = m_table->visibleRows();
-    control().fillRows(first + 1, last + 1);
+    control().fillRows(GridModel::gridRow(first), GridModel::gridRow(last));
 }
 
 // What stands over the cells

@@ -83,9 +83,9 @@ private:
     QPointer<GridBubble> m_bubble;
     std::shared_ptr<bool> m_life = std::make_shared<bool>(true);  ///< ends with this view
     QString m_warning;
-    QModelIndex m_shownCurrent;    ///< cell that was last scrolled to
-    CArray<int> m_shownSelection;  ///< rows of the grid
-    int m_selectionRows = -1;      ///< number of rows when it was shown
+    QModelIndex m_shownCurrent;  ///< cell that was last scrolled to
+    CArray<Row> m_shownSelection;
+    int m_selectionRows = -1;  ///< number of rows when it was shown
 };
 
 }  // namespace zel::desktop

@@ -20,7 +20,7 @@ private:
     int OnInitDialog() override;
 
     void OnSelectTab();
-    void OnCombination(int row) { subGrid.ShowItems(mainGrid.KeyOf(row)); }
+    void OnCombination(zel::Row row) { subGrid.ShowItems(mainGrid.KeyOf(row)); }
     void OnCopy();
     void OnImport();
     void OnAutoGeneration();

@@ -47,7 +47,7 @@ void CCMLoadCombGrid::AddColumns()
     AddActive();
     AddName();
     for (const SLcomColItem& each : m_cases) {
-        const int index = AddColInfo(each.title, static_cast<int>(zel::GridKind::real), 0);
+        const ColumnIndex index = AddColInfo(each.title, static_cast<int>(zel::GridKind::real), 0);
         SetColWidth(index, caseWidth);
         SetColPlaces(index, places);
         m_columnOf[each.key] = index;
@@ -55,10 +55,10 @@ void CCMLoadCombGrid::AddColumns()
     AddDescription();
 }
 
-int CCMLoadCombGrid::ColumnOf(const T_LCOM_ITEM& item) const
+zel::ColumnIndex CCMLoadCombGrid::ColumnOf(const T_LCOM_ITEM& item) const
 {
     const auto found = item.type == staticCase ? m_columnOf.find(item.key) : m_columnOf.end();
-    return found == m_columnOf.end() ? -1 : found->second;
+    return found == m_columnOf.end() ? ColumnIndex{-1} : found->second;
 }
 
 // Cells and items
@@ -66,8 +66,8 @@ int CCMLoadCombGrid::ColumnOf(const T_LCOM_ITEM& item) const
 void CCMLoadCombGrid::ShowItems(const T_LCOM_D& record, CArray<CString>& texts) const
 {
     for (const T_LCOM_ITEM& item : record.items) {
-        if (const int column = ColumnOf(item); column >= 0)
-            texts[static_cast<std::size_t>(column)] = factorText(factorOf(record, item.key));
+        if (const ColumnIndex column = ColumnOf(item); column >= 0)
+            texts[column.place()] = factorText(factorOf(record, item.key));
     }
 }
 
@@ -77,9 +77,9 @@ bool CCMLoadCombGrid::ReadItems(const CArray<CString>& texts, T_LCOM_D& record)
 {
     std::vector<T_LCOM_ITEM> items;
     bool changed = false;
-    for (std::size_t place = 0; place < m_cases.size(); ++place) {
-        const SLcomColItem& each = m_cases[place];
-        const CString text{zel::number::trim(texts[static_cast<std::size_t>(firstCase) + place])};
+    for (ColumnIndex column = firstCase; column < behindCases(); ++column) {
+        const SLcomColItem& each = CaseAt(column);
+        const CString text{zel::number::trim(texts[column.place()])};
         const double stored = factorOf(record, each.key);
         const bool same = text == factorText(stored);
         const double factor = same ? stored : RealOf(text);
@@ -94,7 +94,7 @@ bool CCMLoadCombGrid::ReadItems(const CArray<CString>& texts, T_LCOM_D& record)
     return zel::itemsFit(record.items);
 }
 
-bool CCMLoadCombGrid::ValidateField(const CString& text, int column)
+bool CCMLoadCombGrid::ValidateField(const CString& text, ColumnIndex column)
 {
     if (!IsCase(column))
         return true;
@@ -125,24 +125,24 @@ void CCMLoadCombGrid::FollowLoadCases()
 void CCMLoadCombGrid::RemakeColumns()
 {
     const zel::GridPaintLock lock(*this);
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     const bool hasCurrent = GetCurrentCell(row, column) != 0;
-    const int index = GetColIndex(column);
+    const ColumnIndex index = GetColIndex(column);
     const bool onDescription = index == columns().description;
-    const zel::Key caseKey = IsCase(index) ? m_cases[static_cast<std::size_t>(index - firstCase)].key : 0;
-    const CArray<int> selected = GetSelectedRows();
+    const zel::Key caseKey = IsCase(index) ? CaseAt(index).key : 0;
+    const CArray<Row> selected = GetSelectedRows();
 
     Initialize();
     SelectRows(selected);
     if (!hasCurrent)
         return;
     if (onDescription)
-        column = columns().description + 1;
+        column = columnOf(columns().description);
     else if (const auto found = m_columnOf.find(caseKey); found != m_columnOf.end())
-        column = found->second + 1;
+        column = columnOf(found->second);
     else if (!IsCase(index))
-        column = index + 1;
+        column = columnOf(index);
     if (SetCurrentCell(row, column) == 0 && SetRightValidCell(row, column) == 0)
         SetLeftValidCell(row, column);
 }

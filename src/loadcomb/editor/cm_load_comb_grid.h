@@ -24,21 +24,24 @@ public:
     /// ended and the columns are made anew.
     void FollowLoadCases();
 
-    bool ValidateField(const CString& text, int column) override;
+    bool ValidateField(const CString& text, ColumnIndex column) override;
 
 private:
-    static constexpr int firstCase = 3;
+    static constexpr ColumnIndex firstCase = 3;
 
-    [[nodiscard]] Columns columns() const override { return {.name = 2, .active = 1, .description = firstCase + static_cast<int>(m_cases.size())}; }
+    [[nodiscard]] Columns columns() const override { return {.name = 2, .active = 1, .description = behindCases()}; }
     void AddColumns() override;
     void ShowItems(const T_LCOM_D& record, CArray<CString>& texts) const override;
     bool ReadItems(const CArray<CString>& texts, T_LCOM_D& record) override;
 
-    [[nodiscard]] bool IsCase(int index) const { return index >= firstCase && index < firstCase + static_cast<int>(m_cases.size()); }
+    [[nodiscard]] ColumnIndex behindCases() const { return firstCase + static_cast<int>(m_cases.size()); }
+    [[nodiscard]] bool IsCase(ColumnIndex index) const { return index >= firstCase && index < behindCases(); }
+    /// The load case of a column that has one.
+    [[nodiscard]] const SLcomColItem& CaseAt(ColumnIndex index) const { return m_cases[static_cast<std::size_t>(index - firstCase)]; }
     /// Index of the column of an item; -1 if it has none.
-    [[nodiscard]] int ColumnOf(const T_LCOM_ITEM& item) const;
+    [[nodiscard]] ColumnIndex ColumnOf(const T_LCOM_ITEM& item) const;
     void RemakeColumns();
 
-    std::vector<SLcomColItem> m_cases;             ///< in the order of their columns
-    std::unordered_map<zel::Key, int> m_columnOf;  ///< index of the column of each load case
+    std::vector<SLcomColItem> m_cases;                     ///< in the order of their columns
+    std::unordered_map<zel::Key, ColumnIndex> m_columnOf;  ///< index of the column of each load case
 };

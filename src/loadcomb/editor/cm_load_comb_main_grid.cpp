@@ -10,7 +10,7 @@ void CCMLoadCombMainGrid::AddColumns()
     AddDescription();
 }
 
-bool CCMLoadCombMainGrid::ValidateField(const CString& /*text*/, int column)
+bool CCMLoadCombMainGrid::ValidateField(const CString& /*text*/, ColumnIndex column)
 {
     if (column < GetColCount())
         return true;

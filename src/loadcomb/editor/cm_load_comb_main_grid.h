@@ -7,7 +7,7 @@ class CCMLoadCombMainGrid final : public zel::CombinationGrid {
 public:
     using CombinationGrid::CombinationGrid;
 
-    bool ValidateField(const CString& text, int column) override;
+    bool ValidateField(const CString& text, ColumnIndex column) override;
 
 private:
     [[nodiscard]] Columns columns() const override { return {.name = 1, .active = 2, .description = 3}; }

@@ -102,26 +102,26 @@ zel::Key CCMLoadCombSubGrid::CaseOf(const CString& text) const
     return found == m_cases.end() ? 0 : found->key;
 }
 
-CCMLoadCombSubGrid::RowItem CCMLoadCombSubGrid::ItemOf(const CArray<CString>& texts, const T_LCOM_ITEM* stored) const
+zel::RowItem CCMLoadCombSubGrid::ItemOf(const CArray<CString>& texts, const T_LCOM_ITEM* stored) const
 {
-    T_LCOM_ITEM item{staticCase, CaseOf(texts[caseColumn]), RealOf(trimmed(texts[factorColumn]))};
-    if (stored != nullptr && texts[factorColumn] == RealText(stored->factor))
+    T_LCOM_ITEM item{staticCase, CaseOf(texts[caseColumn.place()]), RealOf(trimmed(texts[factorColumn.place()]))};
+    if (stored != nullptr && texts[factorColumn.place()] == RealText(stored->factor))
         item.factor = stored->factor;
-    return item.factor != 0.0 && zel::isLoadCase(item.key) ? RowItem(item) : RowItem();
+    return item.factor != 0.0 && zel::isLoadCase(item.key) ? zel::RowItem(item) : zel::RowItem();
 }
 
-void CCMLoadCombSubGrid::MakeItemNormal(int count, const CArray<int>& /*columns*/)
+void CCMLoadCombSubGrid::MakeItemNormal(int count, const CArray<ColumnIndex>& /*columns*/)
 {
     const std::vector<T_LCOM_ITEM> items = Items();
-    for (int row = 1; row <= count; ++row) {
-        const T_LCOM_ITEM& item = items[static_cast<std::size_t>(row - 1)];
+    for (Row row = 1; row <= count; ++row) {
+        const T_LCOM_ITEM& item = items[row.place()];
         const auto found = item.type == staticCase ? std::ranges::find(m_cases, item.key, &Case::key) : m_cases.end();
         const CString text = found == m_cases.end() ? zel::loadText("IDS_ZEL_CMD__None") : found->text;
-        SetRowTexts(row, {text, RealText(item.factor), std::to_string(row)});
+        SetRowTexts(row, {text, RealText(item.factor), std::to_string(row.number())});
     }
 }
 
-bool CCMLoadCombSubGrid::ValidateField(const CString& text, int column)
+bool CCMLoadCombSubGrid::ValidateField(const CString& text, ColumnIndex column)
 {
     if (column != factorColumn)
         return true;
@@ -144,10 +144,10 @@ bool CCMLoadCombSubGrid::ValidateFactor(const CString& text)
 }
 
 /// A row without load case and without factor passes: it is no item.
-bool CCMLoadCombSubGrid::ValidateRecord(const CArray<CString>& texts, const CArray<int>& /*columns*/)
+bool CCMLoadCombSubGrid::ValidateRecord(const CArray<CString>& texts, const CArray<ColumnIndex>& /*columns*/)
 {
-    const bool hasCase = CaseOf(texts[caseColumn]) != 0;
-    const bool hasFactor = !trimmed(texts[factorColumn]).empty();
+    const bool hasCase = CaseOf(texts[caseColumn.place()]) != 0;
+    const bool hasFactor = !trimmed(texts[factorColumn.place()]).empty();
     if (hasCase == hasFactor)
         return true;
     WarnOfMissing(hasCase ? "IDS_ZEL_CMD__Factor" : "IDS_ZEL_CMD__Load_Case");
@@ -175,9 +175,9 @@ bool CCMLoadCombSubGrid::Write(const std::vector<T_LCOM_ITEM>& items)
     return data.Modify(m_kind, {m_key}, {data.currentRecord}) != 0;
 }
 
-bool CCMLoadCombSubGrid::AddToDB(int row)
+bool CCMLoadCombSubGrid::AddToDB(Row row)
 {
-    const RowItem item = ItemOf(GetRowTexts(row), nullptr);
+    const zel::RowItem item = ItemOf(GetRowTexts(row), nullptr);
     if (!item) {
         RebuildRows();  // nothing to add: the row for a new item is empty again
         return true;
@@ -187,25 +187,25 @@ bool CCMLoadCombSubGrid::AddToDB(int row)
     return Write(items);
 }
 
-bool CCMLoadCombSubGrid::ModifyToDB(int row)
+bool CCMLoadCombSubGrid::ModifyToDB(Row row)
 {
     std::vector<T_LCOM_ITEM> items = Items();
-    const auto place = static_cast<std::size_t>(row - 1);
-    if (place >= items.size())
+    if (row < 1 || row.place() >= items.size())
         return false;
-    if (const RowItem item = ItemOf(GetRowTexts(row), &items[place]))
-        items[place] = *item;
+    T_LCOM_ITEM& stored = items[row.place()];
+    if (const zel::RowItem item = ItemOf(GetRowTexts(row), &stored))
+        stored = *item;
     else
-        items.erase(items.begin() + (row - 1));
+        items.erase(items.begin() + static_cast<std::ptrdiff_t>(row.place()));
     return Write(items);
 }
 
-bool CCMLoadCombSubGrid::DeleteFromDB(const CArray<int>& rows)
+bool CCMLoadCombSubGrid::DeleteFromDB(const CArray<Row>& rows)
 {
     const std::vector<T_LCOM_ITEM> items = Items();
     std::vector<T_LCOM_ITEM> left;
     for (std::size_t place = 0; place < items.size(); ++place) {
-        if (std::ranges::find(rows, static_cast<int>(place) + 1) == rows.end())
+        if (std::ranges::find(rows, Row::at(place)) == rows.end())
             left.push_back(items[place]);
     }
     return rows.empty() || Write(left);
@@ -213,49 +213,48 @@ bool CCMLoadCombSubGrid::DeleteFromDB(const CArray<int>& rows)
 
 // Pasting. The key of a row is the number of its item.
 
-bool CCMLoadCombSubGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records)
+bool CCMLoadCombSubGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, Keys& keys, Records& records)
 {
-    if (!ValidateField(texts[factorColumn], factorColumn) || !ValidateRecord(texts, columns))
+    if (!ValidateField(texts[factorColumn.place()], factorColumn) || !ValidateRecord(texts, columns))
         return false;
     const std::vector<T_LCOM_ITEM> items = Items();
-    const int row = zel::number::readInteger(texts[placeColumn]).value_or(0);
-    const bool isStored = row >= 1 && row <= static_cast<int>(items.size());
-    keys.emplace_back(row);
-    records.emplace_back(ItemOf(texts, isStored ? &items[static_cast<std::size_t>(row - 1)] : nullptr));
+    const auto place = static_cast<std::uint32_t>(std::max(0, zel::number::readInteger(texts[placeColumn.place()]).value_or(0)));
+    const bool isStored = place >= 1 && place <= items.size();
+    keys.push_back(place);
+    records.push_back(ItemOf(texts, isStored ? &items[place - 1] : nullptr));
     return true;
 }
 
-void CCMLoadCombSubGrid::DeleteKeyAndDataArray(zel::GridValues& keys, zel::GridValues& records)
+void CCMLoadCombSubGrid::DeleteKeyAndDataArray(Keys& keys, Records& records)
 {
-    CTBCommon::DeleteKeyAndDataArray(keys, records);
+    CTBRecordGrid::DeleteKeyAndDataArray(keys, records);
     m_beforePaste.reset();
 }
 
-bool CCMLoadCombSubGrid::ModifyToDB(const zel::GridValues& oldKeys, const zel::GridValues& /*keys*/, const zel::GridValues& records)
+bool CCMLoadCombSubGrid::ModifyToDB(const Keys& oldKeys, const Keys& /*keys*/, const Records& records)
 {
     const std::vector<T_LCOM_ITEM> items = Items();
     if (!m_beforePaste)
         m_beforePaste = items;
-    std::vector<RowItem> rows(items.begin(), items.end());
+    Records rows(items.begin(), items.end());
     for (std::size_t i = 0; i < oldKeys.size(); ++i) {
-        const auto place = static_cast<std::size_t>(std::any_cast<int>(oldKeys[i]) - 1);
-        if (place >= rows.size())
+        if (oldKeys[i] < 1 || oldKeys[i] > rows.size())
             return false;
-        rows[place] = std::any_cast<const RowItem&>(records[i]);
+        rows[oldKeys[i] - 1] = records[i];
     }
     std::vector<T_LCOM_ITEM> left;
-    for (const RowItem& row : rows) {
+    for (const zel::RowItem& row : rows) {
         if (row)
             left.push_back(*row);
     }
     return Write(left);
 }
 
-bool CCMLoadCombSubGrid::AddToDB(const zel::GridValues& /*keys*/, const zel::GridValues& records)
+bool CCMLoadCombSubGrid::AddToDB(const Keys& /*keys*/, const Records& records)
 {
     std::vector<T_LCOM_ITEM> items = Items();
-    for (const std::any& each : records) {
-        if (const auto& item = std::any_cast<const RowItem&>(each))
+    for (const zel::RowItem& item : records) {
+        if (item)
             items.push_back(*item);
     }
     if (Write(items))
@@ -272,7 +271,7 @@ CString CCMLoadCombSubGrid::GetPasteRefusedText(const CString& /*warning*/)
 
 // Dropping and leaving
 
-bool CCMLoadCombSubGrid::OnDropText(int /*row*/, int /*column*/, const CString& text)
+bool CCMLoadCombSubGrid::OnDropText(Row /*row*/, ColumnPlace /*column*/, const CString& text)
 {
     constexpr std::size_t factorField = 3;
     const zel::GridBlock lines = zel::readGridBlock(text);

@@ -1,18 +1,25 @@
 #pragma once
 
-#include "contract/forms/grid_common.h"
+#include "contract/forms/grid_records.h"
 #include "contract/tables/load_combination_table.h"
 
 #include <optional>
 #include <unordered_set>
 #include <vector>
 
+namespace zel {
+
+/// An item as a row holds it; none where the row is empty or its factor is 0.
+using RowItem = std::optional<T_LCOM_ITEM>;
+
+}  // namespace zel
+
 /// The items of one combination in the normal form, in their order: a load case and its factor. A row that is left writes the
 /// combination.
-class CCMLoadCombSubGrid final : public CTBCommon {
+class CCMLoadCombSubGrid final : public CTBRecordGrid<zel::RowItem> {
 public:
     /// @param kind  the design kind, which is the editor's
-    CCMLoadCombSubGrid(const zel::Place& place, std::string_view id, const int& kind) : CTBCommon(place, id), m_kind(kind) {}
+    CCMLoadCombSubGrid(const zel::Place& place, std::string_view id, const int& kind) : CTBRecordGrid(place, id), m_kind(kind) {}
 
     void Initialize() override;
     /// Shows the items of a combination, as they are now; key 0: of none. A row under edit of another one is ended first.
@@ -25,30 +32,30 @@ public:
     /// Whether the user was refused when leaving the grid: its row waits for a correction.
     [[nodiscard]] bool IsRefused() const { return m_refused && IsEdit(); }
 
-    bool AddToDB(int row) override;
-    bool AddToDB(const zel::GridValues& keys, const zel::GridValues& records) override;
-    bool DeleteFromDB(int row) override { return DeleteFromDB(CArray<int>{row}); }
-    bool DeleteFromDB(const CArray<int>& rows) override;
-    bool ModifyToDB(int row) override;
-    bool ModifyToDB(const zel::GridValues& oldKeys, const zel::GridValues& keys, const zel::GridValues& records) override;
-    [[nodiscard]] int GetKeyColID() const override { return placeColumn; }
+    bool AddToDB(Row row) override;
+    bool AddToDB(const Keys& keys, const Records& records) override;
+    bool DeleteFromDB(Row row) override { return DeleteFromDB(CArray<Row>{row}); }
+    bool DeleteFromDB(const CArray<Row>& rows) override;
+    bool ModifyToDB(Row row) override;
+    bool ModifyToDB(const Keys& oldKeys, const Keys& keys, const Records& records) override;
+    [[nodiscard]] ColumnIndex GetKeyColID() const override { return placeColumn; }
     [[nodiscard]] CString GetNewKey() override { return std::to_string(GetCountData() + 1); }
-    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, zel::GridValues& keys, zel::GridValues& records) override;
-    void DeleteKeyAndDataArray(zel::GridValues& keys, zel::GridValues& records) override;
-    bool ValidateField(const CString& text, int column) override;
-    bool ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns) override;
+    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, Keys& keys, Records& records) override;
+    void DeleteKeyAndDataArray(Keys& keys, Records& records) override;
+    bool ValidateField(const CString& text, ColumnIndex column) override;
+    bool ValidateRecord(const CArray<CString>& texts, const CArray<ColumnIndex>& columns) override;
     [[nodiscard]] int GetCountData() override { return static_cast<int>(Items().size()); }
-    void MakeItemNormal(int count, const CArray<int>& columns) override;
+    void MakeItemNormal(int count, const CArray<ColumnIndex>& columns) override;
     [[nodiscard]] CString GetPasteRefusedText(const CString& warning) override;
     /// Takes load cases out of the host's tree: lines of type, key, name with "(ST)", and factor, separated by tabs.
-    bool OnDropText(int row, int column, const CString& text) override;
+    bool OnDropText(Row row, ColumnPlace column, const CString& text) override;
     /// Leaving the grid leaves its row.
     void lostFocus() override;
 
 private:
-    static constexpr int caseColumn = 0;
-    static constexpr int factorColumn = 1;
-    static constexpr int placeColumn = 2;  ///< hidden: number of the item, from 1
+    static constexpr ColumnIndex caseColumn = 0;
+    static constexpr ColumnIndex factorColumn = 1;
+    static constexpr ColumnIndex placeColumn = 2;  ///< hidden: number of the item, from 1
 
     struct Case {
         zel::Key key = 0;
@@ -56,15 +63,12 @@ private:
 
         bool operator==(const Case&) const = default;
     };
-    /// An item as a row holds it; none where the row is empty or its factor is 0.
-    using RowItem = std::optional<T_LCOM_ITEM>;
-
     [[nodiscard]] static std::vector<Case> ReadCases();
     void OfferCases(std::vector<Case>&& cases);
     /// Key of a load case by its text in the list; 0 if it is none of them.
     [[nodiscard]] zel::Key CaseOf(const CString& text) const;
     /// @param stored  the item before; null for a new one. Its factor is kept if its text is
-    [[nodiscard]] RowItem ItemOf(const CArray<CString>& texts, const T_LCOM_ITEM* stored) const;
+    [[nodiscard]] zel::RowItem ItemOf(const CArray<CString>& texts, const T_LCOM_ITEM* stored) const;
     /// Tests a factor's text and that there is one, with a warning.
     bool ValidateFactor(const CString& text);
     void WarnOfMissing(const char* what);

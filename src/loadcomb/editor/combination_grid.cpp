@@ -1,6 +1,7 @@
 #include "loadcomb/editor/combination_grid.h"
 
 #include "command/messages.h"
+#include "command/row_move.h"
 #include "contract/number_text.h"
 #include "contract/table.h"
 #include "contract/tables/static_load_case_table.h"
@@ -47,6 +48,12 @@ CString newCombinationName(int kind)
     }
 }
 
+Row CombinationGrid::RowOf(const CDataLcom& combination) const
+{
+    const Row row = Row::of(combination.currentRecord.number);
+    return KeyOf(row) == combination.currentKey ? row : Row();
+}
+
 // Columns
 
 void CombinationGrid::Initialize()
@@ -60,7 +67,7 @@ void CombinationGrid::Initialize()
 
 void CombinationGrid::AddNo()
 {
-    const int index = AddColInfo(loadText("IDS_ZEL_CMD__No"), static_cast<int>(GridKind::integer), 0);
+    const ColumnIndex index = AddColInfo(loadText("IDS_ZEL_CMD__No"), static_cast<int>(GridKind::integer), 0);
     SetColWidth(index, 50);
     SetColDisabled(index);
     SetColFrozen(index);
@@ -96,10 +103,10 @@ CArray<CString> CombinationGrid::TextsOf(const T_LCOM_D& record) const
 {
     const Columns at = columns();
     CArray<CString> texts(static_cast<std::size_t>(GetColCount()));
-    texts[noColumn] = std::to_string(record.number);
-    texts[static_cast<std::size_t>(at.name)] = record.name;
-    texts[static_cast<std::size_t>(at.active)] = record.active != 0 ? "1" : "0";
-    texts[static_cast<std::size_t>(at.description)] = record.description;
+    texts[noColumn.place()] = std::to_string(record.number);
+    texts[at.name.place()] = record.name;
+    texts[at.active.place()] = record.active != 0 ? "1" : "0";
+    texts[at.description.place()] = record.description;
     ShowItems(record, texts);
     return texts;
 }
@@ -109,14 +116,14 @@ bool CombinationGrid::ReadTexts(const CArray<CString>& texts, T_LCOM_D& record)
 {
     const Columns at = columns();
     const auto isOn = [](const CString& text) { return number::read(text).value_or(0.0) != 0.0; };
-    record.number = number::readInteger(texts[noColumn]).value_or(0);
-    record.active = isOn(texts[static_cast<std::size_t>(at.active)]) ? 1 : 0;
-    record.name = texts[static_cast<std::size_t>(at.name)];
-    record.description = texts[static_cast<std::size_t>(at.description)];
+    record.number = number::readInteger(texts[noColumn.place()]).value_or(0);
+    record.active = isOn(texts[at.active.place()]) ? 1 : 0;
+    record.name = texts[at.name.place()];
+    record.description = texts[at.description.place()];
     return ReadItems(texts, record);
 }
 
-bool CombinationGrid::ValidateRecord(const CArray<CString>& texts, const CArray<int>& columnsOfTexts)
+bool CombinationGrid::ValidateRecord(const CArray<CString>& texts, const CArray<ColumnIndex>& columnsOfTexts)
 {
     for (std::size_t i = 0; i < columnsOfTexts.size(); ++i) {
         if (columnsOfTexts[i] == columns().name && isBlank(texts[i])) {
@@ -132,7 +139,7 @@ CString CombinationGrid::GetNewKey()
     return std::to_string(GetCountData() + 1);
 }
 
-CString CombinationGrid::GetDefValue(int column)
+CString CombinationGrid::GetDefValue(ColumnIndex column)
 {
     if (column == columns().name)
         return newCombinationName(m_kind);
@@ -142,70 +149,69 @@ CString CombinationGrid::GetDefValue(int column)
 int CombinationGrid::GetSelectedKeys(CArray<std::uint32_t>& keys)
 {
     keys.clear();
-    for (const int row : GetSelectedRows())
+    for (const Row row : GetSelectedRows())
         keys.push_back(KeyOf(row));
     return static_cast<int>(keys.size());
 }
 
 // Writing
 
-bool CombinationGrid::AddToDB(int row)
+bool CombinationGrid::AddToDB(Row row)
 {
     T_LCOM_D record;
     return ReadTexts(GetRowTexts(row), record) && CDataLcom().Add(m_kind, record) != 0;
 }
 
-bool CombinationGrid::ModifyToDB(int row)
+bool CombinationGrid::ModifyToDB(Row row)
 {
     CDataLcom data;
     const Key key = KeyOf(row);
     return data.Get(m_kind, key) != 0 && ReadTexts(GetRowTexts(row), data.currentRecord) && data.Modify(m_kind, {key}, {data.currentRecord}) != 0;
 }
 
-bool CombinationGrid::DeleteFromDB(const CArray<int>& rows)
+bool CombinationGrid::DeleteFromDB(const CArray<Row>& rows)
 {
     if (rows.empty())
         return true;
     std::vector<Key> keys;
-    for (const int row : rows)
+    for (const Row row : rows)
         keys.push_back(KeyOf(row));
     return CDataLcom().Del(m_kind, keys) != 0;
 }
 
 // Pasting. The place in the sequence says which combination a row holds; 0 is the key of a new one.
 
-bool CombinationGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columnsOfTexts, GridValues& keys, GridValues& records)
+bool CombinationGrid::MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<ColumnIndex>& columnsOfTexts, Keys& keys, Records& records)
 {
     CArray<CString> byIndex(static_cast<std::size_t>(GetColCount()));
     for (std::size_t i = 0; i < columnsOfTexts.size(); ++i) {
         if (!ValidateField(texts[i], columnsOfTexts[i]))
             return false;
-        byIndex[static_cast<std::size_t>(columnsOfTexts[i])] = texts[i];
+        byIndex[columnsOfTexts[i].place()] = texts[i];
     }
     if (!ValidateRecord(texts, columnsOfTexts))
         return false;
-    const Key key = KeyOf(number::readInteger(byIndex[noColumn]).value_or(0));
+    const Key key = KeyOf(Row::of(number::readInteger(byIndex[noColumn.place()]).value_or(0)));
     T_LCOM_D record;
     if ((key != 0 && CDataLcom().Get(m_kind, key, record) == 0) || !ReadTexts(byIndex, record))
         return false;
-    keys.emplace_back(key);
-    records.emplace_back(std::move(record));
+    keys.push_back(key);
+    records.push_back(std::move(record));
     return true;
 }
 
-bool CombinationGrid::AddToDB(const GridValues& /*keys*/, const GridValues& records)
+bool CombinationGrid::AddToDB(const Keys& /*keys*/, const Records& records)
 {
     // Every new row starts with the same name. Where none was pasted over it, the rows behind the first are counted on.
     const CString startName = newCombinationName(m_kind);
     std::unordered_set<CString> taken;
-    for (const std::any& each : records)
-        taken.insert(std::any_cast<const T_LCOM_D&>(each).name);
+    for (const T_LCOM_D& each : records)
+        taken.insert(each.name);
     int next = GetCountData() + 1;
     bool startNameGiven = false;
-    std::vector<T_LCOM_D> added;
-    for (const std::any& each : records) {
-        added.push_back(std::any_cast<const T_LCOM_D&>(each));
-        CString& name = added.back().name;
+    Records added = records;
+    for (T_LCOM_D& each : added) {
+        CString& name = each.name;
         if (name != startName)
             continue;
         while (startNameGiven && (taken.contains(name) || CDataLcom().Exist(m_kind, name) != 0))
@@ -216,15 +222,9 @@ bool CombinationGrid::AddToDB(const GridValues& /*keys*/, const GridValues& reco
     return CDataLcom().Add(m_kind, std::move(added)) != 0;
 }
 
-bool CombinationGrid::ModifyToDB(const GridValues& oldKeys, const GridValues& /*keys*/, const GridValues& records)
+bool CombinationGrid::ModifyToDB(const Keys& oldKeys, const Keys& /*keys*/, const Records& records)
 {
-    std::vector<Key> keys;
-    std::vector<T_LCOM_D> changed;
-    for (std::size_t i = 0; i < oldKeys.size(); ++i) {
-        keys.push_back(std::any_cast<Key>(oldKeys[i]));
-        changed.push_back(std::any_cast<const T_LCOM_D&>(records[i]));
-    }
-    return CDataLcom().Modify(m_kind, keys, changed) != 0;
+    return CDataLcom().Modify(m_kind, oldKeys, records) != 0;
 }
 
 CString CombinationGrid::GetPasteRefusedText(const CString& /*warning*/)
@@ -234,17 +234,17 @@ CString CombinationGrid::GetPasteRefusedText(const CString& /*warning*/)
 
 // Filling
 
-void CombinationGrid::MakeItemNormal(int count, const CArray<int>& /*columns*/)
+void CombinationGrid::MakeItemNormal(int count, const CArray<ColumnIndex>& /*columns*/)
 {
     CDataLcom().GetKeyList(m_kind, m_keys);
-    for (int row = 1; row <= count; ++row)
-        SetRowKey(row, m_keys[static_cast<std::size_t>(row - 1)]);
+    for (Row row = 1; row <= count; ++row)
+        SetRowKey(row, m_keys[row.place()]);
 }
 
-void CombinationGrid::MakeItemFiltered(int /*count*/, const CArray<int>& rows, const CArray<int>& /*columns*/)
+void CombinationGrid::MakeItemFiltered(int /*count*/, const CArray<Row>& rows, const CArray<ColumnIndex>& /*columns*/)
 {
     CDataLcom data;
-    for (const int row : rows) {
+    for (const Row row : rows) {
         if (data.Get(m_kind, GetRowKey(row)) != 0)
             SetRowTexts(row, TextsOf(data.currentRecord));
     }
@@ -273,83 +273,68 @@ void CombinationGrid::Follow(const std::unordered_set<Key>& changed)
 void CombinationGrid::TakeOrder(const std::vector<Key>& keys)
 {
     const auto [oldEnd, newEnd] = std::mismatch(m_keys.begin(), m_keys.end(), keys.begin(), keys.end());
-    const int same = static_cast<int>(oldEnd - m_keys.begin());
-    const int oldCount = static_cast<int>(m_keys.size());
-    std::unordered_map<Key, int> oldRows;
-    for (int row = same + 1; row <= oldCount; ++row)
-        oldRows.emplace(m_keys[static_cast<std::size_t>(row - 1)], row);
+    const Row firstOther = Row::at(static_cast<std::size_t>(oldEnd - m_keys.begin()));
+    std::unordered_map<Key, Row> oldRows;
+    for (Row row = firstOther; row.place() < m_keys.size(); ++row)
+        oldRows.emplace(m_keys[row.place()], row);
 
-    CArray<int> order;  // rows behind those that stay, as they shall stand
+    CArray<Row> order;  // rows behind those that stay, as they shall stand
     for (auto key = newEnd; key != keys.end(); ++key) {
         if (const auto found = oldRows.find(*key); found != oldRows.end()) {
             order.push_back(found->second);
             oldRows.erase(found);
             continue;
         }
-        const int row = GetDataRowCount() + 1;
+        const Row row = Row::of(GetDataRowCount() + 1);
         InsertRecord(row);
         SetRowKey(row, *key);
         order.push_back(row);
     }
     const bool moves = !std::ranges::is_sorted(order) || (!oldRows.empty() && !order.empty());
     if (moves)
-        MoveRecords(order, same + 1);
+        MoveRecords(order, firstOther);
     for (std::size_t gone = 0; gone < oldRows.size(); ++gone)
-        DeleteRecord(GetDataRowCount());
+        DeleteRecord(Row::of(GetDataRowCount()));
     m_keys = keys;
 }
 
 void CombinationGrid::Refresh(const std::unordered_set<Key>& changed)
 {
     if (changed.size() > fewRows) {
-        const CArray<int> selected = GetSelectedRows();
+        const CArray<Row> selected = GetSelectedRows();
         RebuildRows();
         SelectRows(selected);
         return;
     }
     CDataLcom data;
     for (const Key key : changed) {
-        if (data.Get(m_kind, key) != 0 && KeyOf(data.currentRecord.number) == key)
-            SetRowTexts(data.currentRecord.number, TextsOf(data.currentRecord));
+        if (data.Get(m_kind, key) != 0 && RowOf(data) > 0)
+            SetRowTexts(RowOf(data), TextsOf(data.currentRecord));
     }
 }
 
 void CombinationGrid::ShowCombination(Key key)
 {
     CDataLcom data;
-    if (data.Get(m_kind, key) != 0 && KeyOf(data.currentRecord.number) == key)
-        MakeRowCurrent(data.currentRecord.number);
+    if (data.Get(m_kind, key) != 0)
+        MakeRowCurrent(RowOf(data));
 }
 
 // Dragging
 
 /// Always refuses the move: the grid itself moves nothing, since the notice of the new sequence moves the rows.
-bool CombinationGrid::OnSelDragRowsDrop(int /*firstRow*/, int /*lastRow*/, int targetRow)
+bool CombinationGrid::OnSelDragRowsDrop(Row /*firstRow*/, Row /*lastRow*/, Row targetRow)
 {
-    if (IsEdit()) {
-        showMessage("IDS_ZEL_CMD__Can_t_Move_row_while_editing_");
-        return false;
-    }
-    const CArray<int> selected = GetSelectedRows();
-    if (selected.empty()) {
-        showMessage("IDS_ZEL_CMD__Error___No_selected_load_combination_");
-        return false;
-    }
-    const int behindAppendRow = GetRowCount() + 1;
-    const int afterRow = targetRow == behindAppendRow ? targetRow - 2 : targetRow - 1;
-    if (std::ranges::find(selected, afterRow) != selected.end()) {
-        showMessage("IDS_ZEL_CMD__Error___Select_target_load_combination");
-        return false;
-    }
-    std::vector<Key> keys;
-    for (const int row : selected)
-        keys.push_back(KeyOf(row));
-    CDataLcom().ChangeSequence(m_kind, keys, KeyOf(afterRow));
+    constexpr RowMoveRefusals refusals{.editing = "IDS_ZEL_CMD__Can_t_Move_row_while_editing_",
+                                       .nothingSelected = "IDS_ZEL_CMD__Error___No_selected_load_combination_",
+                                       .noTarget = "IDS_ZEL_CMD__Error___Select_target_load_combination"};
+    if (const auto move = droppedRows(*this, targetRow, refusals))
+        CDataLcom().ChangeSequence(m_kind, move->keys, move->afterKey);
     return false;
 }
 
 /// The place in the sequence stays in front.
-bool CombinationGrid::OnSelDragColsDrop(int firstColumn, int /*lastColumn*/, int targetColumn)
+bool CombinationGrid::OnSelDragColsDrop(ColumnPlace firstColumn, ColumnPlace /*lastColumn*/, ColumnPlace targetColumn)
 {
     return firstColumn > 1 && targetColumn > 1;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contract/forms/grid_common.h"
+#include "contract/forms/grid_records.h"
 #include "contract/tables/load_combination_table.h"
 
 #include <unordered_set>
@@ -19,11 +19,11 @@ CString newCombinationName(int kind);
 
 /// A grid whose rows are the load combinations of one design kind, in their sequence. Rows are read from the model when they are
 /// looked at, so that thousands of them open at once.
-class CombinationGrid : public CTBCommon {
+class CombinationGrid : public CTBRecordGrid<T_LCOM_D> {
 public:
     /// @param kind  the design kind, which is the editor's
-    CombinationGrid(const Place& place, std::string_view id, const int& kind, Action<int> onCurrentRow = {})
-        : CTBCommon(place, id, std::move(onCurrentRow)), m_kind(kind)
+    CombinationGrid(const Place& place, std::string_view id, const int& kind, Action<Row> onCurrentRow = {})
+        : CTBRecordGrid(place, id, std::move(onCurrentRow)), m_kind(kind)
     {
     }
 
@@ -34,37 +34,37 @@ public:
     /// @param changed  keys of the combinations that were added or modified; those that are gone show by themselves
     void Follow(const std::unordered_set<Key>& changed);
     /// Key of the combination in a row; 0 for the append row and outside of the rows.
-    [[nodiscard]] Key KeyOf(int row) const { return IsDataRow(row) ? GetRowKey(row) : 0; }
+    [[nodiscard]] Key KeyOf(Row row) const { return IsDataRow(row) ? GetRowKey(row) : 0; }
     /// Makes the row of a combination current, if it can.
     void ShowCombination(Key key);
 
-    bool AddToDB(int row) override;
-    bool AddToDB(const GridValues& keys, const GridValues& records) override;
-    bool DeleteFromDB(int row) override { return DeleteFromDB(CArray<int>{row}); }
-    bool DeleteFromDB(const CArray<int>& rows) override;
-    bool ModifyToDB(int row) override;
-    bool ModifyToDB(const GridValues& oldKeys, const GridValues& keys, const GridValues& records) override;
+    bool AddToDB(Row row) override;
+    bool AddToDB(const Keys& keys, const Records& records) override;
+    bool DeleteFromDB(Row row) override { return DeleteFromDB(CArray<Row>{row}); }
+    bool DeleteFromDB(const CArray<Row>& rows) override;
+    bool ModifyToDB(Row row) override;
+    bool ModifyToDB(const Keys& oldKeys, const Keys& keys, const Records& records) override;
     [[nodiscard]] CString GetNewKey() override;
-    [[nodiscard]] CString GetDefValue(int column) override;
+    [[nodiscard]] CString GetDefValue(ColumnIndex column) override;
     int GetSelectedKeys(CArray<std::uint32_t>& keys) override;
-    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<int>& columns, GridValues& keys, GridValues& records) override;
-    bool ValidateRecord(const CArray<CString>& texts, const CArray<int>& columns) override;
+    bool MakeKeyAndDataArray(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, Keys& keys, Records& records) override;
+    bool ValidateRecord(const CArray<CString>& texts, const CArray<ColumnIndex>& columns) override;
     [[nodiscard]] int GetCountData() override { return CDataLcom().GetCount(m_kind); }
-    void MakeItemFiltered(int count, const CArray<int>& rows, const CArray<int>& columns) override;
-    void MakeItemNormal(int count, const CArray<int>& columns) override;
-    bool OnSelDragRowsDrop(int firstRow, int lastRow, int targetRow) override;
-    bool OnSelDragColsDrop(int firstColumn, int lastColumn, int targetColumn) override;
+    void MakeItemFiltered(int count, const CArray<Row>& rows, const CArray<ColumnIndex>& columns) override;
+    void MakeItemNormal(int count, const CArray<ColumnIndex>& columns) override;
+    bool OnSelDragRowsDrop(Row firstRow, Row lastRow, Row targetRow) override;
+    bool OnSelDragColsDrop(ColumnPlace firstColumn, ColumnPlace lastColumn, ColumnPlace targetColumn) override;
     [[nodiscard]] CString GetPasteRefusedText(const CString& warning) override;
 
 protected:
     /// Index of the column of the place in the sequence, which can't be edited and stays in front.
-    static constexpr int noColumn = 0;
+    static constexpr ColumnIndex noColumn = 0;
 
     /// Indices of the other columns that every grid of combinations has.
     struct Columns {
-        int name = 0;
-        int active = 0;
-        int description = 0;
+        ColumnIndex name;
+        ColumnIndex active;
+        ColumnIndex description;
     };
     [[nodiscard]] virtual Columns columns() const = 0;
     virtual void AddColumns() = 0;
@@ -83,6 +83,8 @@ protected:
 private:
     [[nodiscard]] CArray<CString> TextsOf(const T_LCOM_D& record) const;
     bool ReadTexts(const CArray<CString>& texts, T_LCOM_D& record);
+    /// The row of the combination that a handle holds; 0 if none of the rows has it.
+    [[nodiscard]] Row RowOf(const CDataLcom& combination) const;
     void TakeOrder(const std::vector<Key>& keys);
     void Refresh(const std::unordered_set<Key>& changed);
 
