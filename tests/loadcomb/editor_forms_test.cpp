@@ -56,9 +56,10 @@ TEST_F(LoadCombinationEditor, ColumnsOfTheNormalForm)
     EXPECT_TRUE(subGrid(form).GetColInfo(2).hidden);
     EXPECT_THAT(subGrid(form).GetColInfo(loadCase).choices, ElementsAre("DL(ST)", "LL(ST)", "WX(ST)", shown("IDS_ZEL_CMD__None")));
     std::vector<int> widths;
-    for (int index = 0; index < 4; ++index)
+    for (const ColumnIndex index : mainGrid(form).GetAllColumns())
         widths.push_back(mainGrid(form).GetColInfo(index).width);
     EXPECT_THAT(widths, ElementsAre(50, 58, 55, 200));
+    EXPECT_EQ(subGrid(form).GetColInfo(loadCase).width, 100);
 }
 
 TEST_F(LoadCombinationEditor, ColumnsOfTheSpreadsheetHaveEachLoadCaseInItsPlace)
@@ -70,7 +71,10 @@ TEST_F(LoadCombinationEditor, ColumnsOfTheSpreadsheetHaveEachLoadCaseInItsPlace)
                                                  mark + "DL(ST)", mark + "LL(ST)", shown("IDS_ZEL_CMD__Description")));
     EXPECT_EQ(sheet(form).GetColInfo(sheetActive).kind, GridKind::check);
     EXPECT_EQ(sheet(form).GetColInfo(dl).number.places, 4);
-    EXPECT_EQ(sheet(form).GetColInfo(sheetDescription).width, 200);
+    std::vector<int> widths;
+    for (const ColumnIndex index : sheet(form).GetAllColumns())
+        widths.push_back(sheet(form).GetColInfo(index).width);
+    EXPECT_THAT(widths, ElementsAre(50, 55, 58, 70, 70, 70, 200));
 }
 
 TEST_F(LoadCombinationEditor, ShowsTheSameCombinationsInBothForms)

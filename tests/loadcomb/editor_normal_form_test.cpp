@@ -130,6 +130,18 @@ TEST_F(LoadCombinationForm, ARowThatIsLeftWritesTheCombination)
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
+TEST_F(LoadCombinationForm, AnItemIsTypedStepByStep)
+{
+    const Form form = openOnFirst();
+    done(subGrid(form).openCell(append, loadCase));
+    done(subGrid(form).typeText("WX(ST)"));
+    EXPECT_EQ(subGrid(form).GetValueRowCol(3, 1), "WX(ST)");
+    done(subGrid(form).openCell(append, factor));
+    done(subGrid(form).typeText("0.5"));
+    done(subGrid(form).leaveRow());
+    EXPECT_THAT(items(), ElementsAre(T_LCOM_ITEM{1, 1, 1.2}, T_LCOM_ITEM{1, 2, 1.6}, T_LCOM_ITEM{1, 3, 0.5}));
+}
+
 TEST_F(LoadCombinationForm, ACaseNeedsAFactorAndAFactorACase)
 {
     const Form form = openOnFirst();
@@ -332,6 +344,13 @@ TEST_F(LoadCombinationForm, ADroppedCaseNeedsAFactor)
     done(subGrid(form).dropText(append, loadCase, "1\t3\tWX(ST)\tmuch\n"));
     EXPECT_THAT(warnings(), ElementsAre("IDS_ZEL_CMD__Input_Number_"));
     EXPECT_EQ(items().size(), 2U);
+}
+
+TEST_F(LoadCombinationForm, ACaseThatIsDroppedWithAFactorOfZeroIsNoItem)
+{
+    const Form form = openOnFirst();
+    done(subGrid(form).dropText(append, loadCase, "1\t3\tWX(ST)\t0\n1\t1\tDL(ST)\t2\n"));
+    EXPECT_THAT(items(), ElementsAre(T_LCOM_ITEM{1, 1, 1.2}, T_LCOM_ITEM{1, 2, 1.6}, T_LCOM_ITEM{1, 1, 2.0}));
 }
 
 TEST_F(LoadCombinationForm, NothingIsDroppedWithoutACombination)

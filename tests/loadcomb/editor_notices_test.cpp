@@ -1,3 +1,4 @@
+#include "contract/change_scope.h"
 #include "loadcomb/editor_fixture.h"
 
 #include "contract/table.h"
@@ -41,8 +42,8 @@ protected:
         EXPECT_EQ(rows(mainGrid(form)), list);
         EXPECT_EQ(shownRows(sheet(form)), cells);
         for (std::size_t at = 0; at < stored.size(); ++at) {
-            EXPECT_EQ(mainGrid(form).GetRowKey(static_cast<int>(at) + 1), stored[at]);
-            EXPECT_EQ(sheet(form).GetRowKey(static_cast<int>(at) + 1), stored[at]);
+            EXPECT_EQ(mainGrid(form).GetRowKey(Row::at(at)), stored[at]);
+            EXPECT_EQ(sheet(form).GetRowKey(Row::at(at)), stored[at]);
         }
     }
     static CString formatted(double value)
@@ -110,8 +111,8 @@ TEST_F(LoadCombinationNotices, TheCurrentRowStaysAndItsItemsFollow)
     change("C", [](T_LCOM_D& record) { record.items = {{1, 3, 3.0}}; });
     click(mainGrid(form), 1, mainActive);
     ASSERT_NE(CDataLcom().Del(1, keys[1]), 0);
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     ASSERT_NE(mainGrid(form).GetCurrentCell(row, column), 0);
     EXPECT_EQ(row, 2);
     EXPECT_EQ(column, mainActive + 1);
@@ -173,7 +174,7 @@ TEST_F(LoadCombinationNotices, ALongChangeKeepsTypingAndSelectionWithTheirRows)
     form.press("toggle");
     typeOpen(mainGrid(form), 50, {{mainDescription, "typed"}});
     ASSERT_NE(CDataLcom().Del(1, keys[0]), 0);    // all others get another number
-    EXPECT_THAT(sheet(form).GetSelectedRows(), ElementsAre(100));
+    EXPECT_THAT(sheet(form).GetSelectedRows(), ElementsAre(Row{100}));
     EXPECT_EQ(mainGrid(form).GetEditRow(), 50);
     EXPECT_EQ(mainGrid(form).TextAt(50, mainDescription), "typed");
     done(mainGrid(form).leaveRow());
@@ -232,8 +233,8 @@ TEST_F(LoadCombinationNotices, LoadCasesThatComeAndGoHaveTheirColumns)
     addCase("EX", "E");
     EXPECT_THAT(titles(sheet(form)).size(), 8U);
     EXPECT_EQ(sheet(form).TextAt(0, 6), "[IDS_ZEL_CMD___s_ST_]EX(ST)");
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     ASSERT_NE(sheet(form).GetCurrentCell(row, column), 0);
     EXPECT_EQ(row, 3);
     EXPECT_EQ(column, 8);
@@ -253,8 +254,8 @@ TEST_F(LoadCombinationNotices, LoadCasesThatChangePlacesTakeTheirFactorsAlong)
     click(sheet(form), 0, wx);
     ASSERT_NE(CDataStld().ChangeSequence({3}, 0), 0);
     EXPECT_EQ(shownRows(sheet(form))[0], "1|1|A|3.0000|1.0000|2.0000|");
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     ASSERT_NE(sheet(form).GetCurrentCell(row, column), 0);
     EXPECT_EQ(column, dl + 1);    // WX stands first among the cases now
     EXPECT_THAT(subGrid(form).GetColInfo(loadCase).choices, ElementsAre("WX(ST)", "DL(ST)", "LL(ST)", shown("IDS_ZEL_CMD__None")));
@@ -303,8 +304,8 @@ TEST_F(LoadCombinationNotices, TheColumnOfADeletedCaseLeavesTheCurrentCellNearby
     const Form form = openSpreadsheet();
     click(sheet(form), 0, wx);
     deleteCase("WX");
-    int row = 0;
-    int column = 0;
+    Row row;
+    ColumnPlace column;
     ASSERT_NE(sheet(form).GetCurrentCell(row, column), 0);
     EXPECT_EQ(row, 1);
     EXPECT_EQ(column, wx + 1);
@@ -331,6 +332,54 @@ TEST_F(LoadCombinationNotices, AWriteFromInsideANoticeLeavesTheEditorInOrder)
     ASSERT_NE(CDataLcom().Add(1, combination("G")), 0);
     EXPECT_EQ(mainGrid(form).GetDataRowCount(), 6);
     expectAsStored(form);
+}
+
+// A combination that has gone, of which no notice has come yet
+
+TEST_F(LoadCombinationNotices, ARowIsNotWrittenToACombinationThatHasGone)
+{
+    const Form form = open();
+    const ChangeScope change(*model, "Several", CDBDoc::NoticeTime::atEnd);
+    typeOpen(mainGrid(form), 1, {{mainDescription, "lost"}});
+    ASSERT_NE(CDataLcom().Del(1, keys[1]), 0);
+    done(mainGrid(form).leaveRow());
+    EXPECT_EQ(mainGrid(form).GetEditRow(), 2);
+    EXPECT_THAT(boxes(), IsEmpty());
+    EXPECT_THAT(storedNames(), ElementsAre("A", "C", "D"));
+}
+
+TEST_F(LoadCombinationNotices, ItemsAreNotWrittenToACombinationThatHasGone)
+{
+    const Form form = open();
+    click(mainGrid(form), 1, mainName);
+    const ChangeScope change(*model, "Several", CDBDoc::NoticeTime::atEnd);
+    typeOpen(subGrid(form), append, {{loadCase, "LL(ST)"}, {factor, "2"}});
+    ASSERT_NE(CDataLcom().Del(1, keys[1]), 0);
+    done(subGrid(form).leaveRow());
+    EXPECT_TRUE(subGrid(form).IsAppend());
+    EXPECT_THAT(boxes(), IsEmpty());
+    EXPECT_THAT(storedNames(), ElementsAre("A", "C", "D"));
+}
+
+TEST_F(LoadCombinationNotices, ADeletionThatIsRefusedLeavesItsRowsAndThoseOfTheOthers)
+{
+    const Form form = open();
+    const ChangeScope change(*model, "Several", CDBDoc::NoticeTime::atEnd);
+    ASSERT_NE(CDataLcom().Del(1, keys[1]), 0);
+    done(mainGrid(form).deleteRows({0, 1}));
+    EXPECT_THAT(boxes(), testing::SizeIs(1));
+    EXPECT_EQ(mainGrid(form).GetDataRowCount(), 4);
+    EXPECT_THAT(storedNames(), ElementsAre("A", "C", "D"));
+}
+
+TEST_F(LoadCombinationNotices, APasteOverACombinationThatHasGoneWritesNothing)
+{
+    const Form form = open();
+    const ChangeScope change(*model, "Several", CDBDoc::NoticeTime::atEnd);
+    ASSERT_NE(CDataLcom().Del(1, keys[1]), 0);
+    done(mainGrid(form).paste(0, mainName, "A2\nB2\n"));
+    EXPECT_THAT(warnings(), ElementsAre("IDS_ZEL_CMD__Invalid_data__Operation_has_been_cance"));
+    EXPECT_THAT(storedNames(), ElementsAre("A", "C", "D"));
 }
 
 // Any change

@@ -291,7 +291,7 @@ TEST_F(LoadCombinationSheet, RowsMoveUpAndDownAndTheTableKeepsTheOrder)
     EXPECT_THAT(storedNames(), ElementsAre("A", "C", "B", "D"));
     EXPECT_THAT(rows(sheet(form)), ElementsAre("1|1|A||||", "2|1|C||||", "3|1|B||||", "4|1|D||||"));
     EXPECT_THAT(column(mainGrid(form), mainName), ElementsAre("A", "C", "B", "D"));
-    EXPECT_THAT(sheet(form).GetSelectedRows(), ElementsAre(2));
+    EXPECT_THAT(sheet(form).GetSelectedRows(), ElementsAre(Row{2}));
     done(sheet(form).moveRows(-1));
     EXPECT_THAT(storedNames(), ElementsAre("C", "A", "B", "D"));
     done(sheet(form).moveRows(1));
@@ -353,6 +353,28 @@ TEST_F(LoadCombinationSheet, TheFirstColumnStaysInFront)
     EXPECT_TRUE(sheet(form).dragColumns(3, 3, 5).ok());
     type(sheet(form), append, {{4, "1.5"}});    // DL now stands behind LL
     EXPECT_THAT(stored("LCB1").items, ElementsAre(T_LCOM_ITEM{1, 1, 1.5}));
+}
+
+TEST_F(LoadCombinationSheet, SelectedKeysComeInTheOrderOfTheSelection)
+{
+    const Key first = store("LCB1");
+    const Key second = store("LCB2");
+    const Form form = openSpreadsheet();
+    CArray<Key> selected{7};
+    EXPECT_EQ(sheet(form).GetSelectedKeys(selected), 0);
+    EXPECT_THAT(selected, IsEmpty());
+    done(sheet(form).select({1, 0}));
+    EXPECT_EQ(sheet(form).GetSelectedKeys(selected), 2);
+    EXPECT_THAT(selected, ElementsAre(second, first));
+}
+
+TEST_F(LoadCombinationSheet, DeletingNoRowsIsDone)
+{
+    store("LCB1");
+    const Form form = openSpreadsheet();
+    EXPECT_TRUE(sheet(form).DeleteFromDB(CArray<Row>{}));
+    EXPECT_TRUE(subGrid(form).DeleteFromDB(CArray<Row>{}));
+    EXPECT_EQ(sheet(form).GetDataRowCount(), 1);
 }
 
 }  // namespace zel::test
