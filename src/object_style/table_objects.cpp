@@ -6,6 +6,7 @@
 #include "object_style/tables/load_kinds.h"
 
 #include <algorithm>
+#include <span>
 #include <string_view>
 
 // The tables of the codes as objects, over abstract load kinds in the place of load cases.
@@ -36,8 +37,10 @@ void JhautoGenLoadcomb::buildCodes()
     for (const zel::object_style::Code& code : zel::object_style::codeList) {
         JhcodeLoadcomb& made = makeIn(m_codes, static_cast<std::uint32_t>(m_codes.count() + 1));
         made.name = code.name;
-        for (const zel::object_style::Row& row : code.rows)
-            buildRow(made, row);
+        for (const std::span<const zel::object_style::Row> rows : {code.rows, code.further}) {
+            for (const zel::object_style::Row& row : rows)
+                buildRow(made, row);
+        }
     }
 }
 

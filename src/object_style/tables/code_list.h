@@ -11,6 +11,7 @@ namespace zel::object_style {
 struct Code {
     const char* name;
     std::span<const Row> rows;
+    std::span<const Row> further{};    ///< behind them
 };
 
 inline constexpr Code codeList[] = {
@@ -18,7 +19,7 @@ inline constexpr Code codeList[] = {
     {"ACI318-89",  aci318_89_rows},
     {"ACI318-95",  aci318_89_rows},
     {"ACI318-99",  aci318_89_rows},
-    {"KCI-USD99",  kci_usd99_rows},
+    {"KCI-USD99",  kci_usd99_shared, kci_usd99_rows},
     {"KSCE-USD96", ksce_usd96_rows},
 };
 

@@ -8,6 +8,8 @@
 // Covered: dead, live, wind and earthquake; 5 service and 11 strength rows. All other load types stand in no combination.
 namespace zel::object_style {
 
+inline constexpr std::span<const Row> kci_usd99_shared = std::span(aik_usd94_rows).first(8);
+
 inline constexpr Row kci_usd99_rows[] = {
     // flag    text                              kind and factor
     {strength, "0.75(1.4DL+1.7WL)",               {{"D", 1.05}, {"W", 1.275}}},
@@ -19,7 +21,7 @@ inline constexpr Row kci_usd99_rows[] = {
     {strength, "0.9DL+1.4EL",                     {{"D", 0.9}, {"E", 1.4}}},
     {strength, "0.9DL-1.4EL",                     {{"D", 0.9}, {"E", -1.4}}},
 };
-static_assert(std::size(kci_usd99_rows) == 8);
+static_assert(std::size(kci_usd99_shared) + std::size(kci_usd99_rows) == 16);
 static_assert(textsNameTheirKinds(kci_usd99_rows));
 
 }  // namespace zel::object_style
