@@ -15,6 +15,7 @@ namespace zel::cli {
 inline constexpr int succeeded = 0;
 inline constexpr int jobFailed = 1;
 inline constexpr int wrongUsage = 2;
+inline constexpr int interrupted = 130;  ///< by Ctrl-C, as shells number it
 
 struct NewModel {
     std::filesystem::path model;
@@ -70,7 +71,7 @@ struct GenerateCombinations {
     bool dryRun = false;
     Format format = Format::table;
     std::string out = "-";
-    std::string explain;  ///< name of a combination; empty for none
+    std::vector<std::string> explain;  ///< names of combinations
     bool whyNot = false;
 };
 int generateCombinations(const GenerateCombinations& job);
@@ -97,6 +98,7 @@ int importLcb(const ImportLcb& job);
 
 struct ListCodes {
     bool json = false;
+    std::string rows;  ///< name of the code whose rows are listed; empty: all codes are
 };
 int listCodes(const ListCodes& job);
 

@@ -4,6 +4,7 @@
 #include "platform/messages/message_catalogue.h"
 
 #include <set>
+#include <stdexcept>
 
 namespace zel::cli {
 
@@ -36,6 +37,18 @@ std::vector<std::string> Console::keys() const
     for (const ToldMessage& message : m_messages)
         all.push_back(message.key);
     return all;
+}
+
+void Console::forget()
+{
+    m_messages.clear();
+    m_output.clear();
+}
+
+void Console::throwFailures() const
+{
+    if (!m_output.empty())
+        throw std::runtime_error(m_output.back());
 }
 
 int Console::messageBox(const CString& text, unsigned type)

@@ -24,13 +24,18 @@ public:
     /// The texts, joined by blanks, each once; empty if nothing was told.
     [[nodiscard]] std::string told() const;
     [[nodiscard]] std::vector<std::string> keys() const;
-    void forget() { m_messages.clear(); }
+    void forget();
+    /// Ends the job where the library has ended a command by itself: for want of memory, or by a fault of its own.
+    /// @throws std::runtime_error  with what the library has told in its output pane
+    void throwFailures() const;
 
     int messageBox(const CString& text, unsigned type) override;
+    void output(const CString& line) override { m_output.push_back(line); }
 
 private:
     IUserInterface* m_former;
     std::vector<ToldMessage> m_messages;
+    std::vector<std::string> m_output;
 };
 
 }  // namespace zel::cli

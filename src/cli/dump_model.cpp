@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "cli/run_monitor.h"
 
 #include "platform/modeldb/model_document.h"
 #include "platform/modeldb/model_json.h"
@@ -10,6 +11,7 @@ namespace zel::cli {
 
 int dumpModel(const DumpModel& job)
 {
+    const RunMonitor monitor;
     const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model);
     printModelJson(*document, std::cout);
     if (!std::cout.flush())

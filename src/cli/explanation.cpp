@@ -1,12 +1,10 @@
 #include "cli/explanation.h"
 
-#include "cli/shortest.h"
+#include "loadcomb/tables/code_registry.h"
 
 #include <algorithm>
-#include <ostream>
 #include <set>
-#include <stdexcept>
-#include <vector>
+#include <utility>
 
 namespace zel::cli {
 
@@ -18,30 +16,11 @@ using loadcomb::Generator;
 using loadcomb::Origin;
 using loadcomb::RowOutcome;
 using loadcomb::RowResult;
-using loadcomb::RowSource;
-
-/// "1.0" rather than "1": a number that is a factor. Ten digits leave out what the last bit of a product shows.
-std::string factorText(double value)
-{
-    const std::string text = rounded(value, 10);
-    return text.find_first_of(".e") == std::string::npos ? text + ".0" : text;
-}
-
-std::string trimmed(std::string name)
-{
-    name.erase(name.find_last_not_of(' ') + 1);
-    return name;
-}
-
-std::string rowName(const RowSource& source)
-{
-    return "row " + (source.block.empty() ? "\"" + source.text + "\"" : source.block) + (source.flag == codes::service ? " (service)" : " (strength)");
-}
 
 /// One item of a combination with the numbers that were multiplied.
 struct Term {
     std::uint32_t key = 0;
-    std::vector<std::pair<double, const char*>> product;
+    std::vector<Multiplier> product;
     const char* note = "";
 };
 
@@ -89,16 +68,16 @@ private:
         for (const EarthquakeChoice& chosen : choice.earthquakes) {
             Term term{chosen.key, {{factor, "row"}}, ""};
             if (orthogonal)
-                term.product.emplace_back(chosen.coefficient, "100:30 rule");
-            term.product.emplace_back(chosen.scale, "scale factor");
-            term.product.emplace_back(chosen.overstrength, "over-strength");
+                term.product.push_back({chosen.coefficient, "100:30 rule"});
+            term.product.push_back({chosen.scale, "scale factor"});
+            term.product.push_back({chosen.overstrength, "over-strength"});
             m_terms.push_back(term);
             if (chosen.partner == 0)
                 continue;
             term.key = chosen.partner;
             term.note = "accidental eccentricity";
             if (chosen.partnerSign < 0)
-                term.product.emplace_back(-1.0, "subtracted");
+                term.product.push_back({-1.0, "subtracted"});
             m_terms.push_back(term);
         }
     }
@@ -121,49 +100,43 @@ std::string caseName(const Generator& run, std::uint32_t key)
     return found != run.state().names.end() ? found->second : "#" + std::to_string(key);
 }
 
-void printFactors(const Generator& run, const Origin& origin, const T_LCOM_D& record, std::ostream& out)
+ExplainedRow rowOf(const RowOutcome& outcome)
 {
-    const std::vector<Term> terms = TermsOf(run, origin).list();
-    std::vector<std::string> names;
-    std::vector<std::string> factors;
-    std::size_t nameWidth = 0;
-    std::size_t factorWidth = 0;
-    for (const T_LCOM_ITEM& item : record.items) {
-        names.push_back(caseName(run, item.key));
-        factors.push_back(factorText(item.factor));
-        nameWidth = std::max(nameWidth, names.back().size());
-        factorWidth = std::max(factorWidth, factors.back().size());
-    }
-    out << "Factors\n";
-    for (std::size_t i = 0; i < record.items.size(); ++i) {
-        out << "  " << names[i] << std::string(nameWidth - names[i].size() + 2, ' ') << std::string(factorWidth - factors[i].size(), ' ') << factors[i];
-        std::string numbers;
-        std::string meaning;
-        for (const auto& [number, what] : i < terms.size() ? terms[i].product : std::vector<std::pair<double, const char*>>()) {
-            numbers += (numbers.empty() ? "" : " x ") + factorText(number);
-            meaning += (meaning.empty() ? "" : " x ") + std::string(what);
-        }
-        out << " = " << numbers << "    (" << meaning << (i < terms.size() && *terms[i].note != '\0' ? std::string("; ") + terms[i].note : "") << ")\n";
-    }
+    return {outcome.source.block, outcome.source.flag == codes::service, outcome.source.text, outcome.source.clause};
 }
 
-void printChoices(const Generator& run, const Origin& origin, std::ostream& out)
+std::vector<ExplainedFactor> factorsOf(const Generator& run, const Origin& origin, const T_LCOM_D& record)
 {
-    for (const Choice& choice : origin.choices) {
-        if (choice.windEntry >= 0)
-            out << "Wind       entry " << choice.windEntry + 1
-                << " of the wind sets: " << run.state().windCombinations[static_cast<std::size_t>(choice.windEntry)].description << '\n';
-        else if (choice.windCase != 0)
-            out << "Wind       case " << caseName(run, choice.windCase) << '\n';
-        for (const EarthquakeChoice& chosen : choice.earthquakes) {
-            out << "Earthquake " << caseName(run, chosen.key);
-            if (choice.earthquakes.size() > 1)
-                out << " with " << factorText(chosen.coefficient) << " (100:30 rule)";
-            if (chosen.partner != 0)
-                out << (chosen.partnerSign < 0 ? ", minus " : ", plus ") << caseName(run, chosen.partner) << " (accidental eccentricity)";
-            out << '\n';
+    const std::vector<Term> terms = TermsOf(run, origin).list();
+    std::vector<ExplainedFactor> factors;
+    for (std::size_t i = 0; i < record.items.size(); ++i) {
+        const T_LCOM_ITEM& item = record.items[i];
+        factors.push_back({item.key, caseName(run, item.key), item.factor, {}, {}});
+        if (i < terms.size()) {
+            factors.back().product = terms[i].product;
+            factors.back().note = terms[i].note;
         }
     }
+    return factors;
+}
+
+std::vector<ExplainedChoice> choicesOf(const Generator& run, const Origin& origin)
+{
+    std::vector<ExplainedChoice> choices;
+    for (const Choice& choice : origin.choices) {
+        ExplainedChoice made;
+        if (choice.windEntry >= 0) {
+            made.windEntry = choice.windEntry + 1;
+            made.wind = run.state().windCombinations[static_cast<std::size_t>(choice.windEntry)].description;
+        } else if (choice.windCase != 0) {
+            made.wind = caseName(run, choice.windCase);
+        }
+        for (const EarthquakeChoice& chosen : choice.earthquakes)
+            made.earthquakes.push_back(
+                {caseName(run, chosen.key), chosen.coefficient, chosen.partner != 0 ? caseName(run, chosen.partner) : std::string(), chosen.partnerSign < 0});
+        choices.push_back(std::move(made));
+    }
+    return choices;
 }
 
 const char* reason(RowResult result)
@@ -196,36 +169,23 @@ std::string groupList(const std::string& groups)
 
 }  // namespace
 
-void explainCombination(const Generator& run, const std::string& code, const std::string& name, std::ostream& out)
+Explanation explain(const Generator& run, const std::string& code, std::size_t index)
 {
-    const std::vector<T_LCOM_D>& rows = run.rows();
-    const auto found = std::find_if(rows.begin(), rows.end(), [&](const T_LCOM_D& row) { return trimmed(row.name) == trimmed(name); });
-    if (found == rows.end())
-        throw std::runtime_error(
-            "this run gives no combination \"" + name + "\"" +
-            (rows.empty() ? "; it gives none." : "; it gives \"" + trimmed(rows.front().name) + "\" to \"" + trimmed(rows.back().name) + "\"."));
-    const Origin& origin = run.origins()[static_cast<std::size_t>(found - rows.begin())];
-    const RowOutcome& row = run.outcomes()[origin.row];
-    out << trimmed(found->name) << ": " << found->description << '\n'
-        << "Code       " << code << ", " << rowName(row.source) << '\n'
-        << "Formula    " << row.source.text << '\n';
-    printChoices(run, origin, out);
-    printFactors(run, origin, *found, out);
-    std::set<std::size_t> absorbed(origin.absorbedRows.begin(), origin.absorbedRows.end());
-    for (const std::size_t index : absorbed)
-        out << "Given again by " << rowName(run.outcomes()[index].source) << ": " << run.outcomes()[index].source.text << '\n';
+    const T_LCOM_D& record = run.rows()[index];
+    const Origin& origin = run.origins()[index];
+    Explanation made{record.name, record.description, code, std::string(codes::findCode(code)->edition), rowOf(run.outcomes()[origin.row]), choicesOf(run, origin), factorsOf(run, origin, record), {}};
+    made.name.erase(made.name.find_last_not_of(' ') + 1);
+    for (const std::size_t again : std::set<std::size_t>(origin.absorbedRows.begin(), origin.absorbedRows.end()))
+        made.givenAgainBy.push_back(rowOf(run.outcomes()[again]));
+    return made;
 }
 
-void explainMissing(const Generator& run, const std::string& code, std::ostream& out)
+Omissions omissionsOf(const Generator& run, const std::string& code, std::size_t printedRows)
 {
-    std::size_t silent = 0;
-    for (const RowOutcome& row : run.outcomes())
-        silent += row.result != RowResult::gave ? 1U : 0U;
-    out << silent << " of " << run.outcomes().size() << " rows of " << code << " gave nothing" << (silent != 0 ? ":" : ".") << '\n';
+    Omissions found{code, printedRows, run.outcomes().size(), {}, {}};
     for (const RowOutcome& row : run.outcomes()) {
-        if (row.result == RowResult::gave)
-            continue;
-        out << "  " << rowName(row.source) << "  " << row.source.text << "\n      " << reason(row.result) << groupList(row.missing) << '\n';
+        if (row.result != RowResult::gave)
+            found.rows.push_back({rowOf(row), reason(row.result) + groupList(row.missing)});
     }
     std::set<std::uint32_t> used;
     for (const T_LCOM_D& record : run.rows()) {
@@ -238,9 +198,9 @@ void explainMissing(const Generator& run, const std::string& code, std::ostream&
             idle.emplace_back(key, caseText);
     }
     std::sort(idle.begin(), idle.end());
-    out << (idle.empty() ? "Every load case stands in a combination.\n" : "Load cases in no combination:\n");
-    for (const auto& [key, caseText] : idle)
-        out << "  " << caseText << '\n';
+    for (auto& [key, caseText] : idle)
+        found.idleCases.push_back(std::move(caseText));
+    return found;
 }
 
 }  // namespace zel::cli

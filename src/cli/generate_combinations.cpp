@@ -1,129 +1,93 @@
 #include "cli/commands.h"
 #include "cli/console.h"
-#include "cli/explanation.h"
+#include "cli/job_checks.h"
 #include "cli/output.h"
+#include "cli/question.h"
+#include "cli/run_monitor.h"
 #include "cli/scale_option.h"
 
-#include "contract/nearest.h"
+#include "contract/change_scope.h"
 #include "contract/tables/load_combination_table.h"
 #include "loadcomb/generation/load_comb_ctrl.h"
-#include "loadcomb/tables/code_registry.h"
 #include "platform/modeldb/model_document.h"
-#include "platform/os/terminal.h"
 
-#include <chrono>
-#include <iostream>
-#include <map>
 #include <stdexcept>
 
 namespace zel::cli {
 
 namespace {
 
-/// Shows the last line of the history on a terminal, once a run takes long.
-class ProgressConsole final : public Console {
-public:
-    ~ProgressConsole() override
-    {
-        if (m_shown)
-            std::cerr << '\r' << std::string(m_width, ' ') << '\r' << std::flush;
-    }
-
-    void history(const CString& line) override
-    {
-        if (!m_terminal || std::chrono::steady_clock::now() < m_next)
-            return;
-        m_next = std::chrono::steady_clock::now() + std::chrono::milliseconds(100);
-        const std::size_t key = line.starts_with('[') ? line.find(']') + 1 : 0;
-        const std::string text = line.substr(key, 79);
-        m_width = std::max(m_width, text.size());
-        m_shown = true;
-        std::cerr << '\r' << text << std::string(m_width - text.size(), ' ') << std::flush;
-    }
-
-private:
-    bool m_terminal = os::isErrorTerminal();
-    bool m_shown = false;
-    std::size_t m_width = 0;
-    std::chrono::steady_clock::time_point m_next = std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
-};
-
-void checkCode(const std::string& code)
-{
-    if (codes::findCode(code) != nullptr)
-        return;
-    std::vector<std::string_view> names;
-    for (const codes::CodeEntry& entry : codes::codeRegistry)
-        names.push_back(entry.name);
-    throw std::runtime_error("there is no design code \"" + code + "\". The nearest are " + quotedList(nearestNames(code, names, 3)) +
-                             "; \"zel codes\" lists all.");
-}
-
 void setOptions(const GenerateCombinations& job, CLoadCombCtrl& control)
 {
-    std::map<std::uint32_t, double> factors;
-    std::map<std::uint32_t, std::uint32_t> partners;
-    for (const std::string& text : job.scales) {
-        const ScaleOption scale = readScale(text);
-        factors[scale.loadCase] = scale.factor;
-        partners[scale.loadCase] = scale.partner;
-    }
+    const ScaleOptions scales = readScales(job.scales);
     control.SetKind(job.kind);
-    control.SetScaleFactors(factors);
-    control.SetEccentricCases(partners);
+    control.SetScaleFactors(scales.factors);
+    control.SetEccentricCases(scales.partners);
     control.SetOrthoOption(job.orthogonal ? 1 : 0);
     control.SetCombType(static_cast<codes::CombType>(job.combType));
     control.SetAlphaH(job.alphaH);
 }
 
-std::vector<PrintedCombination> numbered(const std::vector<T_LCOM_D>& rows, int kind, int before)
+void print(const GenerateCombinations& job, const CLoadCombCtrl& control, bool ok, const Console& console, int before, Output& output)
 {
-    std::vector<PrintedCombination> printed;
-    printed.reserve(rows.size());
-    int number = before;
-    for (const T_LCOM_D& row : rows)
-        printed.push_back({&row, kind, ++number});
-    return printed;
+    const EachCombination rows = [&](const std::function<void(const PrintedCombination&)>& take) {
+        int number = before;
+        for (const T_LCOM_D& row : control.rows())
+            take({&row, job.kind, ++number});
+    };
+    if (job.format == Format::json)
+        printResultJson(ok, console.keys(), rows, output.stream());
+    else if (ok)
+        printCombinations(job.format, rows, output.stream());
+    if (!output.stream().flush())
+        output.finish();  // it tells what is wrong
 }
 
-void print(const GenerateCombinations& job, const CLoadCombCtrl& control, bool ok, const Console& console, int before, std::ostream& out)
+[[noreturn]] void refuse(const GenerateCombinations& job, const Console& console)
 {
-    if (!job.explain.empty())
-        explainCombination(*control.run(), job.code, job.explain, out);
-    if (job.whyNot)
-        explainMissing(*control.run(), job.code, out);
-    if (!job.explain.empty() || job.whyNot)
-        return;
-    const std::vector<PrintedCombination> rows = numbered(control.rows(), job.kind, before);
-    if (job.format == Format::json)
-        printResultJson(ok, console.keys(), rows, out);
-    else if (ok)
-        printCombinations(job.format, rows, out);
+    const std::string told = console.told();
+    throw std::runtime_error("\"" + job.model.string() + "\": no combination was stored. " + (told.empty() ? "The model gave no reason." : told) +
+                             (job.kind != 1 ? " Only kind 1 has design codes." : " \"--why-not\" tells what each row of the code lacks."));
 }
 
 }  // namespace
 
+// The combinations are stored only once the result has been written: who is told of a failure can simply run the job again.
 int generateCombinations(const GenerateCombinations& job)
 {
-    checkCode(job.code);
+    requireCode(job.code);
+    requireAlphaH(job.alphaH);
+    const RunMonitor monitor;
     const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model);
     Output output(job.out);
-    ProgressConsole console;
+    Console console;
     CLoadCombCtrl control;
     setOptions(job, control);
-    if (!job.explain.empty() || job.whyNot)
-        control.Trace();
-    const int before = job.replace ? 0 : CDataLcom().GetCount(job.kind);
-    const bool ok = control.Generate(job.replace ? CLoadCombCtrl::replaceMode : CLoadCombCtrl::addMode, job.code,
-                                     job.dryRun ? CLoadCombCtrl::Storing::dryRun : CLoadCombCtrl::Storing::storeAndKeep) != 0;
-    print(job, control, ok, console, before, output.stream());
-    if (ok || job.format == Format::json || job.whyNot)
+    if (!job.explain.empty() || job.whyNot) {
+        answerQuestion(job, control, console, output.stream());
+        monitor.check();
         output.finish();
-    if (ok || job.whyNot)
         return succeeded;
-    const std::string told = console.told();
-    throw std::runtime_error("\"" + job.model.string() + "\": no combination was stored. " + (told.empty() ? "The model gave no reason." : told) +
-                             (job.kind != 1 ? " Only kind 1 has design codes." : " \"--why-not\" tells what each row of the code lacks."));
+    }
+    ChangeScope change(*document, "Generate load combinations", CDBDoc::NoticeTime::atEnd);
+    const int before = job.replace ? 0 : CDataLcom().GetCount(job.kind);
+    const bool ok = control.Generate(job.replace ? CLoadCombCtrl::replaceMode : CLoadCombCtrl::addMode, job.code, job.dryRun ? CLoadCombCtrl::Storing::dryRun : CLoadCombCtrl::Storing::storeAndKeep) != 0;
+    monitor.check();
+    console.throwFailures();
+    print(job, control, ok, console, before, output);
+    if (!ok) {
+        if (job.format == Format::json)
+            output.finish();
+        refuse(job, console);
+    }
+    if (change.end() == 0)
+        refuse(job, console);
+    try {
+        output.finish();
+    } catch (const std::exception& fault) {
+        throw std::runtime_error(std::string(fault.what()) + (job.dryRun ? "" : " The model holds the combinations."));
+    }
+    return succeeded;
 }
 
 }  // namespace zel::cli

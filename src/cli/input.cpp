@@ -1,8 +1,9 @@
 #include "cli/input.h"
 
+#include <array>
+#include <cstdio>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <stdexcept>
 
 namespace zel::cli {
@@ -28,7 +29,19 @@ std::istream& Input::stream()
 
 std::string Input::text()
 {
-    return {std::istreambuf_iterator<char>(stream()), {}};
+    std::string all;
+    std::array<char, 65536> part{};
+    while (stream().read(part.data(), part.size()) || stream().gcount() > 0)
+        all.append(part.data(), static_cast<std::size_t>(stream().gcount()));
+    check();
+    return all;
+}
+
+void Input::check()
+{
+    const bool broken = m_file ? m_file->bad() : std::cin.bad() || std::ferror(stdin) != 0;
+    if (broken)
+        throw std::runtime_error(m_name + " can't be read to its end: the device reports a fault.");
 }
 
 }  // namespace zel::cli

@@ -18,7 +18,11 @@ public:
 
     [[nodiscard]] std::istream& stream();
     /// The whole rest.
+    /// @throws std::runtime_error  when it can't be read to its end
     [[nodiscard]] std::string text();
+    /// To be called at the end: a fault of the device looks like an end.
+    /// @throws std::runtime_error  when not everything could be read
+    void check();
     /// For messages: the file's name, or "standard input".
     [[nodiscard]] const std::string& name() const { return m_name; }
 

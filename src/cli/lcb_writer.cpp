@@ -74,11 +74,10 @@ void printCombination(const PrintedCombination& combination, const Places& place
 
 }  // namespace
 
-void printLcb(const std::vector<PrintedCombination>& combinations, std::ostream& out)
+void printLcb(const EachCombination& combinations, std::ostream& out)
 {
     const Places places = placesOfCases();
-    for (const PrintedCombination& each : combinations)
-        printCombination(each, places, out);
+    combinations([&](const PrintedCombination& each) { printCombination(each, places, out); });
 }
 
 }  // namespace zel::cli

@@ -1,12 +1,17 @@
 #include "cli/commands.h"
+#include "cli/job_checks.h"
 #include "cli/output.h"
 
 #include "contract/design_codes.h"
+#include "contract/letter_case.h"
 #include "loadcomb/generation/code_rows.h"
 #include "loadcomb/tables/code_registry.h"
 #include "platform/modeldb/json_text.h"
+#include "platform/modeldb/record_values.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <ostream>
 
@@ -59,15 +64,83 @@ void printList(std::ostream& out)
     }
 }
 
+/// The code of a name in any case.
+/// @throws std::runtime_error  with the nearest names
+const codes::CodeEntry& codeNamed(const std::string& name)
+{
+    const auto found = std::ranges::find_if(codes::codeRegistry, [&](const codes::CodeEntry& entry) { return equalIgnoringCase(entry.name, name); });
+    if (found == std::end(codes::codeRegistry))
+        requireCode(name);
+    return *found;
+}
+
+const char* flagText(codes::Flag flag)
+{
+    return flag == codes::service ? "service" : "strength";
+}
+
+/// When a row is used: its part's condition and its own.
+std::string conditionOf(const loadcomb::ListedRow& row)
+{
+    const bool both = !row.partCondition.empty() && !row.condition.empty();
+    return std::string(row.partCondition) + (both ? ", " : "") + std::string(row.condition);
+}
+
+void printRowsJson(const codes::CodeEntry& code, std::ostream& out)
+{
+    Json rows = Json::array();
+    for (const loadcomb::ListedRow& row : loadcomb::listRows(*code.table)) {
+        Json made{{"block", std::string(row.block)}, {"flag", flagText(row.flag)}, {"formula", row.formula}, {"condition", conditionOf(row)}};
+        if (!row.clause.empty())
+            made["clause"] = std::string(row.clause);
+        rows.push_back(made);
+    }
+    out << printJson({{"name", std::string(code.name)}, {"edition", std::string(code.edition)}, {"rows", rows}}) << '\n';
+}
+
+/// A line a row, under the titles of its columns. "Used when" and "Clause" stand only where some row has one.
+void printRows(const codes::CodeEntry& code, std::ostream& out)
+{
+    constexpr std::size_t columns = 5;
+    std::vector<std::array<std::string, columns>> lines{{"Block", "Flag", "Clause", "Formula", "Used when"}};
+    for (const loadcomb::ListedRow& row : loadcomb::listRows(*code.table))
+        lines.push_back({std::string(row.block), flagText(row.flag), std::string(row.clause), row.formula, conditionOf(row)});
+    std::array<std::size_t, columns> widths{};
+    std::array<bool, columns> filled{};
+    for (std::size_t line = 0; line < lines.size(); ++line) {
+        for (std::size_t i = 0; i < columns; ++i) {
+            widths[i] = std::max(widths[i], characterCount(lines[line][i]));
+            filled[i] = filled[i] || (line > 0 && !lines[line][i].empty());
+        }
+    }
+    out << code.name << ": " << code.edition << '\n';
+    for (const auto& cells : lines) {
+        std::string text;
+        for (std::size_t i = 0; i < columns; ++i) {
+            if (filled[i])
+                text.append(text.empty() ? 0 : 2, ' ').append(cells[i]).append(widths[i] - characterCount(cells[i]), ' ');
+        }
+        text.erase(text.find_last_not_of(' ') + 1);
+        out << text << '\n';
+    }
+}
+
 }  // namespace
 
 int listCodes(const ListCodes& job)
 {
     Output output("-");
-    if (job.json)
+    if (!job.rows.empty()) {
+        const codes::CodeEntry& code = codeNamed(job.rows);
+        if (job.json)
+            printRowsJson(code, output.stream());
+        else
+            printRows(code, output.stream());
+    } else if (job.json) {
         printJsonList(output.stream());
-    else
+    } else {
         printList(output.stream());
+    }
     output.finish();
     return succeeded;
 }

@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 #include "cli/console.h"
 #include "cli/input.h"
+#include "cli/run_monitor.h"
 
 #include "platform/modeldb/model_document.h"
 #include "platform/modeldb/model_json.h"
@@ -37,7 +38,9 @@ int loadModel(const LoadModel& job)
     Input input(job.file);
     Console console;
     try {
-        const Json json = parseJson(input.text());
+        const std::string text = input.text();
+        const RunMonitor monitor;
+        const Json json = parseJson(text);
         const std::unique_ptr<ModelDocument> document = ModelDocument::inMemory(unitsOfModelJson(json));
         storeRows(*document, rowsOfModelJson(json));
         document->saveCopy(job.model, job.replace);

@@ -44,6 +44,9 @@ int playJournal(const PlayJournal& job)
     JournalPlayer player(*document, script.stream(), transcript ? *transcript : std::cout, {job.runHostCommands, job.strict});
     const JournalPlayer::Status status = player.play();
     closeAllDialogs();
+    if (player.fileRefused())
+        std::cerr << "zel: the model's file refused a write; the messages in the transcript tell which, and why.\n";
+    script.check();
     return static_cast<int>(status);
 }
 

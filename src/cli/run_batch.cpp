@@ -1,5 +1,7 @@
 #include "cli/commands.h"
 #include "cli/console.h"
+#include "cli/input.h"
+#include "cli/job_checks.h"
 
 #include "contract/nearest.h"
 #include "loadcomb/generation/load_comb_ctrl.h"
@@ -12,17 +14,21 @@
 #include <iostream>
 #include <limits>
 #include <map>
+#include <new>
 #include <nlohmann/json.hpp>
 #include <span>
+#include <sstream>
 #include <stdexcept>
 
 namespace zel::cli {
 
 namespace {
 
+constexpr const char* notEnoughMemory = "there is not enough memory for this job";
+
 /// One job: a model and what is to be generated.
 struct Job {
-    Json model;
+    const Json* model = nullptr;
     std::string code;
     int mode = 0;
     loadcomb::GeneratorOptions options;
@@ -101,11 +107,10 @@ void readOption(Job& job, const std::string& name, const Json& value)
         job.options.eccentricCases = mapFrom<Key>(value, path, partnerFrom);
 }
 
-Job readJob(const std::string& line)
+Job readJob(const Json& json)
 {
-    static constexpr std::string_view parts[] = {"model", "options"};
+    static constexpr std::string_view parts[] = {"id", "model", "options"};
     static constexpr std::string_view options[] = {"kind", "code", "mode", "combType", "orthoOption", "alphaH", "scaleFactors", "eccentricCases"};
-    Json json = parseJson(line);
     checkMembers(json, {}, parts);
     if (!json.contains("model"))
         throw JsonFault("model", "is missing");
@@ -117,15 +122,15 @@ Job readJob(const std::string& line)
         readOption(job, member.first, member.second);
     if (job.code.empty())
         throw JsonFault("options.code", "is missing");
-    job.model = std::move(json.at("model"));
+    job.model = &json.at("model");
     return job;
 }
 
 std::unique_ptr<ModelDocument> modelOf(const Job& job, const Console& console)
 {
     try {
-        std::unique_ptr<ModelDocument> document = ModelDocument::inMemory(unitsOfModelJson(job.model));
-        storeRows(*document, rowsOfModelJson(job.model));
+        std::unique_ptr<ModelDocument> document = ModelDocument::inMemory(unitsOfModelJson(*job.model));
+        storeRows(*document, rowsOfModelJson(*job.model));
         return document;
     } catch (const JsonFault& fault) {
         const std::string told = console.told();
@@ -133,11 +138,50 @@ std::unique_ptr<ModelDocument> modelOf(const Job& job, const Console& console)
     }
 }
 
-void runJob(const std::string& line, Console& console)
+/// Which job a result belongs to, as further members: its line, and the id that it gave itself.
+std::string signature(const Json& json, long line)
 {
-    const Job job = readJob(line);
+    std::string members = ", \"line\": " + std::to_string(line);
+    if (json.is_object() && json.contains("id"))
+        members += ", \"id\": " + printJson(json.at("id"));
+    return members;
+}
+
+/// Runs `check`, and says which option it refuses.
+template <class Check> void checkOption(const std::string& path, const Check& check)
+{
+    try {
+        check();
+    } catch (const std::runtime_error& fault) {
+        throw JsonFault(path, fault.what());
+    }
+}
+
+void checkOptions(const Job& job)
+{
+    checkOption("options.code", [&] { requireCode(job.code); });
+    checkOption("options.alphaH", [&] { requireAlphaH(job.options.alphaH); });
+    for (const auto& [key, factor] : job.options.scaleFactors) {
+        checkOption(memberPath("options.scaleFactors", std::to_string(key)), [key = key, factor = factor] {
+            requireLoadCase(key);
+            requireScaleFactor(factor);
+        });
+    }
+    for (const auto& [key, partner] : job.options.eccentricCases) {
+        checkOption(memberPath("options.eccentricCases", std::to_string(key)), [key = key, partner = partner] {
+            requireLoadCase(key);
+            if (partner != 0)
+                requireLoadCase(partner);
+        });
+    }
+}
+
+void runJob(const Json& json, const std::string& signature, Console& console)
+{
+    const Job job = readJob(json);
     console.forget();
     const std::unique_ptr<ModelDocument> document = modelOf(job, console);
+    checkOptions(job);
     CLoadCombCtrl control;
     control.SetKind(job.options.kind);
     control.SetScaleFactors(job.options.scaleFactors);
@@ -146,10 +190,56 @@ void runJob(const std::string& line, Console& console)
     control.SetCombType(job.options.combType);
     control.SetAlphaH(job.options.alphaH);
     const bool ok = control.Generate(job.mode, job.code, CLoadCombCtrl::Storing::storeAndKeep) != 0;
-    std::vector<PrintedCombination> rows;
-    for (const T_LCOM_D& row : control.rows())
-        rows.push_back({&row, job.options.kind, 0});
-    printResultJson(ok, console.keys(), rows, std::cout);
+    console.throwFailures();
+    const EachCombination rows = [&](const std::function<void(const PrintedCombination&)>& take) {
+        for (const T_LCOM_D& row : control.rows())
+            take({&row, job.options.kind, 0});
+    };
+    std::ostringstream result;  // a line is printed whole or not at all
+    printResultJson(ok, console.keys(), rows, result, signature);
+    if (!result)
+        throw std::bad_alloc();
+    std::cout << std::move(result).str();
+}
+
+void printError(const std::string& fault, long number, const std::string& signature)
+{
+    std::cout << "{\"error\": " << printJson("line " + std::to_string(number) + ": " + fault) << signature << "}\n";
+}
+
+/// Takes one line: prints its result or its error. False for an error.
+bool takeLine(const std::string& line, long number, Console& console)
+{
+    std::string ending = signature({}, number);
+    std::string fault;
+    try {
+        const Json json = parseJson(line);
+        ending = signature(json, number);
+        runJob(json, ending, console);
+        return true;
+    } catch (const std::bad_alloc&) {
+        fault = notEnoughMemory;
+    } catch (const std::exception& caught) {
+        fault = caught.what();
+    }
+    printError(fault, number, ending);
+    return false;
+}
+
+/// The next line; false at the end. One that is too long for the memory is passed over and told.
+bool nextLine(std::string& line, long number, int& code)
+{
+    try {
+        std::getline(std::cin, line);
+    } catch (const std::bad_alloc&) {
+        line = {};
+        code = jobFailed;
+        printError(notEnoughMemory, number, signature({}, number));
+        std::cin.clear();
+        std::cin.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+        return true;
+    }
+    return !std::cin.fail();
 }
 
 }  // namespace
@@ -157,20 +247,17 @@ void runJob(const std::string& line, Console& console)
 int runBatch()
 {
     Console console;
+    Input input("-");
     int code = succeeded;
     std::string line;
-    for (long number = 1; std::getline(std::cin, line); ++number) {
-        if (line.find_first_not_of(" \t\r") == std::string::npos)
-            continue;
-        try {
-            runJob(line, console);
-        } catch (const std::exception& fault) {
+    std::cin.exceptions(std::ios::badbit);  // else a line without memory looks like the end
+    for (long number = 1; nextLine(line, number, code); ++number) {
+        if (line.find_first_not_of(" \t\r") != std::string::npos && !takeLine(line, number, console))
             code = jobFailed;
-            std::cout << printJson({{"error", "line " + std::to_string(number) + ": " + fault.what()}, {"line", number}}) << '\n';
-        }
         if (!std::cout.flush())
             throw std::runtime_error("standard output can't be written; is the disk full?");
     }
+    input.check();
     return code;
 }
 

@@ -1,5 +1,7 @@
 #include "cli/scale_option.h"
 
+#include "cli/job_checks.h"
+#include "contract/load_types.h"
 #include "contract/nearest.h"
 #include "contract/number_text.h"
 #include "contract/tables/static_load_case_table.h"
@@ -47,7 +49,12 @@ bool splitValue(const std::string& value, double& factor, std::string& partner)
     return true;
 }
 
-}  // namespace
+/// One option, before it is checked.
+struct ScaleOption {
+    Key loadCase = 0;
+    double factor = 1.0;
+    Key partner = 0;
+};
 
 ScaleOption readScale(const std::string& text)
 {
@@ -67,6 +74,36 @@ ScaleOption readScale(const std::string& text)
     if (unknown)
         unknownCase(text, *unknown);
     throw std::runtime_error("--scale " + text + ": write CASE=FACTOR or CASE=FACTOR,PARTNER, for instance --scale EX=1.25,EXe");
+}
+
+void check(const ScaleOption& scale)
+{
+    CDataStld cases;
+    requireScaleFactor(scale.factor);
+    T_STLD_D loadCase;
+    if (cases.Get(scale.loadCase, loadCase) != 0 && loadCase.type != load_type::earthquake)
+        throw std::runtime_error("\"" + loadCase.name + "\" is no earthquake case (type " + std::string(load_type::earthquake) + "), so that its factor would do nothing");
+    if (scale.partner == scale.loadCase)
+        throw std::runtime_error("\"" + loadCase.name + "\" can't be its own eccentric partner");
+}
+
+}  // namespace
+
+ScaleOptions readScales(const std::vector<std::string>& options)
+{
+    ScaleOptions scales;
+    for (const std::string& text : options) {
+        const ScaleOption scale = readScale(text);
+        try {
+            check(scale);
+        } catch (const std::runtime_error& fault) {
+            throw std::runtime_error("--scale " + text + ": " + fault.what() + ".");
+        }
+        if (!scales.factors.emplace(scale.loadCase, scale.factor).second)
+            throw std::runtime_error("--scale " + text + ": \"" + CDataStld().GetNameByKey(scale.loadCase) + "\" has a scale factor already.");
+        scales.partners.emplace(scale.loadCase, scale.partner);
+    }
+    return scales;
 }
 
 }  // namespace zel::cli

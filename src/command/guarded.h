@@ -1,8 +1,10 @@
 #pragma once
 
+#include "contract/long_run.h"
 #include "contract/user_interface.h"
 
 #include <exception>
+#include <new>
 
 namespace zel {
 
@@ -12,6 +14,10 @@ template <class Result, class Run> Result guarded(Result failed, const Run& run)
 {
     try {
         return run();
+    } catch (const Interrupted& stopped) {
+        GMsgOutFormatNF("%s", stopped.what());
+    } catch (const std::bad_alloc&) {
+        GMsgOutFormatNF("%s", "There is not enough memory for this; nothing was changed.");
     } catch (const std::exception& exception) {
         GMsgOutFormatNF("%s", exception.what());
     } catch (...) {

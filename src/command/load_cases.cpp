@@ -1,21 +1,13 @@
 #include "command/load_cases.h"
 
 #include "command/messages.h"
+#include "contract/letter_case.h"
 #include "contract/load_types.h"
 #include "contract/tables/static_load_case_table.h"
-
-#include <algorithm>
-#include <cctype>
-#include <ranges>
 
 namespace zel {
 
 namespace {
-
-bool sameWithoutCase(const CString& left, const CString& right)
-{
-    return std::ranges::equal(left, right, [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
-}
 
 CString noLoadCase()
 {
@@ -44,7 +36,7 @@ Key loadCaseKey(const CString& name)
     std::vector<T_STLD_D> records;
     cases.GetList(keys, records);
     for (std::size_t i = 0; i < keys.size(); ++i) {
-        if (sameWithoutCase(records[i].name, name))
+        if (equalIgnoringCase(records[i].name, name))
             return keys[i];
     }
     return 0;

@@ -1,10 +1,9 @@
 #include "command/messages.h"
 
+#include "contract/format_text.h"
 #include "contract/messages.h"
 #include "contract/user_interface.h"
 
-#include <array>
-#include <cstdio>
 #include <string_view>
 
 namespace zel {
@@ -48,9 +47,7 @@ CString formatText(const CString& format, std::initializer_list<TextArgument> ar
 
 CString numberText(const char* format, double value)
 {
-    std::array<char, 400> buffer{};  // "%.3f" of the greatest double has 313 characters
-    const int length = std::snprintf(buffer.data(), buffer.size(), format, value);
-    return {buffer.data(), static_cast<std::size_t>(length)};
+    return formatText(format, value);
 }
 
 void showMessage(const char* key)

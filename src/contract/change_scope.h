@@ -12,8 +12,12 @@ public:
     ChangeScope& operator=(const ChangeScope&) = delete;
     ~ChangeScope()
     {
-        if (!m_ended)
+        if (m_ended)
+            return;
+        try {
             m_document.endChange(0);
+        } catch (...) {  // without memory even taking back can fail; the file has done it by then
+        }
     }
 
     /// Keeps the writes. Returns 0 when the file refused them: then nothing is changed.

@@ -1,5 +1,7 @@
 #include "contract/format_text.h"
 
+#include "contract/plain_numbers.h"
+
 #include <cstddef>
 #include <cstdio>
 
@@ -16,6 +18,7 @@ CString formatText(const char* format, ...)
 
 CString formatTextList(const char* format, std::va_list arguments)
 {
+    const PlainNumbers plain;
     std::va_list again;
     va_copy(again, arguments);
     const int length = std::vsnprintf(nullptr, 0, format, again);

@@ -1,5 +1,7 @@
 #include "contract/nearest.h"
 
+#include "contract/letter_case.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
@@ -10,11 +12,6 @@ namespace zel {
 
 namespace {
 
-char lower(char letter)
-{
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 /// Number of letters to insert, drop or change, by the usual table of which only the last row is kept.
 std::size_t distance(std::string_view left, std::string_view right)
 {
@@ -24,7 +21,7 @@ std::size_t distance(std::string_view left, std::string_view right)
         std::size_t diagonal = row[0];
         row[0] = i + 1;
         for (std::size_t j = 0; j < right.size(); ++j) {
-            const std::size_t change = diagonal + (lower(left[i]) == lower(right[j]) ? 0 : 1);
+            const std::size_t change = diagonal + (lowerLetter(left[i]) == lowerLetter(right[j]) ? 0 : 1);
             diagonal = row[j + 1];
             row[j + 1] = std::min({change, row[j] + 1, diagonal + 1});
         }
@@ -36,7 +33,8 @@ constexpr std::size_t longestWord = 200;  // a longer one is no typing error, an
 
 bool holds(std::string_view text, std::string_view word)
 {
-    const auto found = std::search(text.begin(), text.end(), word.begin(), word.end(), [](char left, char right) { return lower(left) == lower(right); });
+    const auto found =
+        std::search(text.begin(), text.end(), word.begin(), word.end(), [](char left, char right) { return lowerLetter(left) == lowerLetter(right); });
     return !word.empty() && found != text.end();
 }
 

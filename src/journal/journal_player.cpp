@@ -9,6 +9,7 @@
 #include "journal/model_commands.h"
 #include "journal/open_commands.h"
 #include "journal/view_command.h"
+#include "platform/modeldb/refusals.h"
 
 #include <algorithm>
 #include <array>
@@ -58,7 +59,8 @@ JournalPlayer::JournalPlayer(CDBDoc& document, std::istream& script, std::ostrea
       m_host(m_options.host != nullptr ? *m_options.host : m_ownHost),
       m_former(setUserInterface(this)),
       m_formerView(m_options.watching != nullptr ? I_ZELModelBase::GetCurMySelfST() : I_ZELModelBase::setCurrent(&m_view)),
-      m_userSettings(ProgramSettings::of(document))
+      m_userSettings(ProgramSettings::of(document)),
+      m_refusedWrites(refusedFileWrites())
 {
     ProgramSettings{}.putInto(m_document);
 }
@@ -97,11 +99,23 @@ void JournalPlayer::playUntil(const std::function<bool()>& over)
         m_reply.emplace();
         m_reply->line = m_script.line();
         carryOut(m_script.text());
+        noteRefusedWrites();
         if (over())  // what was posted is carried out where the loop goes on that opened this one
             return;
         runPostedCommands();
+        noteRefusedWrites();
         deleteClosedDialogs();
     }
+}
+
+/// A write that the model's file has refused is told by the reply's events; the journal has not been carried out all the same.
+void JournalPlayer::noteRefusedWrites()
+{
+    if (std::exchange(m_refusedWrites, refusedFileWrites()) == refusedFileWrites())
+        return;
+    m_fileRefused = true;
+    m_failed = true;
+    m_stopped = m_stopped || m_options.strict;
 }
 
 void JournalPlayer::writeReply()

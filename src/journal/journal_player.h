@@ -55,6 +55,8 @@ public:
     /// Plays to the end of the script.
     /// @throws std::runtime_error  when the transcript can't be written
     Status play();
+    /// Whether the model's file has refused a write of some command, which counts as a command that could not be carried out.
+    [[nodiscard]] bool fileRefused() const { return m_fileRefused; }
     /// Ends the script at the command that is being carried out.
     void stop() { m_stopped = true; }
 
@@ -68,6 +70,7 @@ private:
     void carryOut(const std::string& line);
     std::optional<Json> perform(const JournalCommand& command);
     void runPostedCommands();
+    void noteRefusedWrites();
     void runHostCommand(unsigned number);
     void event(Json what);
 
@@ -114,8 +117,10 @@ private:
     bool m_ended = false;  ///< the end of the script was told
     bool m_left = false;   ///< ... and what is open is left to who watches
     bool m_failed = false;
-    bool m_cancelled = false;  ///< a modal dialog was open there
-    bool m_broken = false;     ///< the transcript can't be written
+    bool m_fileRefused = false;
+    std::size_t m_refusedWrites;  ///< of the program when they were looked at last
+    bool m_cancelled = false;     ///< a modal dialog was open there
+    bool m_broken = false;        ///< the transcript can't be written
 };
 
 }  // namespace zel

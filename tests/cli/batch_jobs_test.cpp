@@ -87,8 +87,9 @@ private:
         return text;
     }
 
+    unsigned knownKey() { return m_keys[m_random() % m_keys.size()]; }
     /// Mostly a key that is there; sometimes one that is not, or none.
-    unsigned anyKey() { return m_keys.empty() || upTo(9) == 0 ? static_cast<unsigned>(upTo(20)) : m_keys[m_random() % m_keys.size()]; }
+    unsigned anyKey() { return m_keys.empty() || upTo(9) == 0 ? static_cast<unsigned>(upTo(20)) : knownKey(); }
 
     json windSets()
     {
@@ -128,17 +129,15 @@ private:
     {
         static const char* const codes[] = {"AIK-USD94", "KBC-USD16", "KDS 41 30 : 2018", "KDS 41 20 : 2022", "KCI-USD12", "KBC-USD09",
                                             "KBC-USD05", "KCI-USD99", "KSCE-USD96",       "ACI318-89",        "ACI318-95", "ACI318-99",
-                                            "ACI318-02", "BS8110-97", "GB50010-02",       "CSA-A23.3-94",     "no code"};
+                                            "ACI318-02", "BS8110-97", "GB50010-02",       "CSA-A23.3-94"};
         json made{{"code", oneOf(codes)},   {"kind", upTo(9) == 0 ? 1 + upTo(4) : 1}, {"mode", upTo(1)}, {"combType", upTo(4)}, {"orthoOption", flip()},
                   {"alphaH", upTo(4) / 2.0}};
         json factors = json::object();
         json partners = json::object();
-        for (int count = upTo(3); count > 0; --count) {
-            factors[std::to_string(anyKey() + (m_keys.empty() ? 1 : 0))] = upTo(12) / 8.0;
-            partners[std::to_string(anyKey() + 1)] = anyKey();
+        for (int count = m_keys.empty() ? 0 : upTo(3); count > 0; --count) {
+            factors[std::to_string(knownKey())] = upTo(12) / 8.0;
+            partners[std::to_string(knownKey())] = upTo(3) == 0 ? 0 : knownKey();
         }
-        factors.erase("0");
-        partners.erase("0");
         made["scaleFactors"] = factors;
         made["eccentricCases"] = partners;
         return made;

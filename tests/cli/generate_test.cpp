@@ -104,7 +104,10 @@ TEST_F(Generate, BatchGivesTheSame)
     std::getline(lines, first);
     std::getline(lines, second);
     expectWorked(first);
-    EXPECT_EQ(first, second) << "nothing is kept between jobs";
+    json again = json::parse(second);
+    EXPECT_EQ(again.at("line"), 3);
+    again["line"] = 1;
+    EXPECT_EQ(json::parse(first), again) << "nothing is kept between jobs";
 }
 
 TEST_F(Generate, TheTableIsMadeForReading)
@@ -316,6 +319,14 @@ TEST_F(Generate, ABadBatchLineIsToldWithItsNumberAndTheNextIsTaken)
         {modelPart + R"({"code": "AIK-USD94", "scaleFactors": {"x": 1}}})", "options.scaleFactors.x: is no key of a load case"},
         {modelPart + R"({"code": "AIK-USD94", "scaleFactors": {"7": "1"}}})", "options.scaleFactors.7: must be a number"},
         {modelPart + R"({"code": "AIK-USD94", "eccentricCases": [1]}})", "options.eccentricCases: must be an object"},
+        {modelPart + R"({"code": "AIK-USD49"}})", "options.code: there is no design code \"AIK-USD49\". The nearest are \"AIK-USD94\""},
+        {modelPart + R"({"code": "AIK-USD94", "scaleFactors": {"9": 1.25}}})",
+         "options.scaleFactors.9: there is no load case with the key 9; the nearest are 4 \"EX\", 3 \"WX\", 2 \"LL\""},
+        {modelPart + R"({"code": "AIK-USD94", "scaleFactors": {"4": -1}}})", "options.scaleFactors.4: a scale factor must not be below 0, and this is -1"},
+        {modelPart + R"({"code": "AIK-USD94", "eccentricCases": {"4": 9}}})", "options.eccentricCases.4: there is no load case with the key 9"},
+        {modelPart + R"({"code": "AIK-USD94", "eccentricCases": {"9": 4}}})", "options.eccentricCases.9: there is no load case with the key 9"},
+        {modelPart + R"({"code": "AIK-USD94", "alphaH": -0.5}})", "options.alphaH: alpha_H must be from 0 to 2, not -0.5"},
+        {modelPart + R"({"code": "AIK-USD94", "alphaH": 87.5}})", "options.alphaH: alpha_H must be from 0 to 2, not 87.5"},
         {R"({"model": {"format": "zel-model", "version": 1, "STLD": [{"name": 1}]}, "options": {"code": "AIK-USD94"}})", "model: STLD[0].name: must be a text"},
         {std::string(100000, '['), "nested deeper"},
     };
@@ -335,6 +346,65 @@ TEST_F(Generate, ABadBatchLineIsToldWithItsNumberAndTheNextIsTaken)
         EXPECT_EQ(json::parse(line).at("ok"), 1) << bad[i].first;
     }
     EXPECT_FALSE(std::getline(lines, line));
+}
+
+TEST_F(Generate, EachResultOfABatchBearsTheIdOfItsJobAndItsLine)
+{
+    const std::string modelPart = std::string("\"model\": ") + fourCases + ", ";
+    const std::string input = "{\"id\": \"A 1\", " + modelPart + R"("options": {"code": "AIK-USD94"}})" + "\n\n" + "{" + modelPart +
+        R"("options": {"code": "no code"}, "id": {"row": [1, null]}})" + "\n{\"id\": 7}\n{" + modelPart + R"("options": {"code": "AIK-USD94"}})" + "\n";
+    const Outcome run = zel({"batch"}, input);
+    EXPECT_EQ(run.code, 1);
+    std::istringstream lines(run.out);
+    std::vector<json> results;
+    for (std::string line; std::getline(lines, line);)
+        results.push_back(json::parse(line));
+    ASSERT_EQ(results.size(), 4U);
+    EXPECT_EQ(results[0].at("ok"), 1);
+    EXPECT_EQ(results[0].at("id"), "A 1");
+    EXPECT_EQ(results[0].at("line"), 1);
+    EXPECT_EQ(results[1].at("id"), json::parse(R"({"row": [1, null]})"));
+    EXPECT_TRUE(results[1].contains("error"));
+    EXPECT_EQ(results[1].at("line"), 3);
+    EXPECT_EQ(results[2].at("id"), 7);
+    EXPECT_EQ(results[2].at("error"), "line 4: model: is missing");
+    EXPECT_FALSE(results[3].contains("id"));
+}
+
+TEST_F(Generate, AScaleOptionThatWouldDoNothingOrTwoThingsIsRefused)
+{
+    const std::vector<std::pair<std::vector<std::string>, std::string>> refused{
+        {{"--scale", "WX=1.2"}, "--scale WX=1.2: \"WX\" is no earthquake case"},
+        {{"--scale", "EX=1.2,EX"}, "--scale EX=1.2,EX: \"EX\" can't be its own eccentric partner."},
+        {{"--scale", "EX=-0.1"}, "--scale EX=-0.1: a scale factor must not be below 0, and this is -0.1."},
+        {{"--scale", "EX=1.2", "--scale", "#4=1.3"}, "--scale #4=1.3: \"EX\" has a scale factor already."},
+        {{"--alpha-h", "3"}, "alpha_H must be from 0 to 2, not 3"},
+    };
+    for (const auto& [options, sentence] : refused) {
+        std::vector<std::string> words{"generate", model, "--code", "AIK-USD94"};
+        words.insert(words.end(), options.begin(), options.end());
+        const Outcome run = zel(words);
+        EXPECT_EQ(run.code, 1);
+        EXPECT_TRUE(run.error.starts_with("zel: " + sentence)) << run.error;
+    }
+    EXPECT_EQ(json::parse(stored()).at("rows").size(), 0U);
+}
+
+TEST_F(Generate, ControlCharactersOfNamesAreWrittenOutInTables)
+{
+    ASSERT_EQ(
+        zel({"load", "-", model, "--replace"},
+            R"({"STLD": [{"name": "D\u001b[2JL", "type": "D"}, {"name": "L\nL", "type": "L"}], "ENVL": [{"name": "E\tN", "description": "a\rb", "items": []}]})")
+            .code,
+        0);
+    const Outcome run = zel({"generate", model, "--code", "AIK-USD94"});
+    EXPECT_EQ(run.code, 0) << run.error;
+    EXPECT_NE(run.out.find("D\\x1B[2JL"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("L\\nL"), std::string::npos) << run.out;
+    EXPECT_EQ(run.out.find('\x1B'), std::string::npos);
+    EXPECT_EQ(zel({"combinations", model}).out, run.out);
+    EXPECT_EQ(zel({"envelopes", model}).out, "E\\tN: a\\rb\n");
+    EXPECT_EQ(zel({"generate", model, "--code", "AIK-USD94", "--replace", "--explain", "gLCB1"}).out.find('\x1B'), std::string::npos);
 }
 
 }  // namespace

@@ -117,6 +117,16 @@ TEST_F(ImportLcb, FilesThatCannotBeReadAndWrongUsageAreTold)
     EXPECT_EQ(stored().size(), 0U);
 }
 
+TEST_F(ImportLcb, ALineWhoseFactorsAreAllZeroIsRefusedWithItsNumber)
+{
+    const std::string before = contents(model);
+    cli_test::write(file, "1,x,1,1\n2,x,1,0.0,2,0\n");
+    const Outcome run = zel({"import-lcb", model, file});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.error, "zel: \"" + file + "\": All factors in line 2 are 0. Nothing was imported.\n");
+    EXPECT_EQ(contents(model), before);
+}
+
 TEST_F(ImportLcb, HelpHoldsAnExampleAndTheExitCodes)
 {
     const Outcome help = zel({"import-lcb", "--help"});

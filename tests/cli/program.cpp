@@ -8,8 +8,10 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <optional>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -34,17 +36,63 @@ fs::path freshFolder()
     return mkdtemp(name.data()) != nullptr ? fs::path(name) : fs::path();
 }
 
+/// While it lives, no file can grow beyond so many bytes, here and in programs that are started: the write fails.
+class SmallFiles {
+public:
+    explicit SmallFiles(std::size_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{bytes, m_former.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    SmallFiles(const SmallFiles&) = delete;
+    SmallFiles& operator=(const SmallFiles&) = delete;
+    ~SmallFiles()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_former);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_former{};
+    void (*m_handler)(int) = nullptr;
+};
+
+/// @param output  of the program; empty for a file that the outcome reads
+Outcome run(const std::vector<std::string>& arguments, const std::string& input, const fs::path& output, const Environment& environment,
+            std::size_t mostBytes = 0)
+{
+    const fs::path folder = freshFolder();
+    write(folder / "in", input);
+    std::optional<SmallFiles> small;
+    if (mostBytes != 0)
+        small.emplace(mostBytes);
+    const int process = start(arguments, {folder / "in", output.empty() ? folder / "out" : output, folder / "error"}, environment);
+    small.reset();
+    Outcome ended = await(process);
+    if (output.empty())
+        ended.out = contents(folder / "out");
+    ended.error = contents(folder / "error");
+    fs::remove_all(folder);
+    return ended;
+}
+
 }  // namespace
 
 Outcome zel(const std::vector<std::string>& arguments, const std::string& input, const Environment& environment)
 {
-    const fs::path folder = freshFolder();
-    write(folder / "in", input);
-    Outcome run = await(start(arguments, {folder / "in", folder / "out", folder / "error"}, environment));
-    run.out = contents(folder / "out");
-    run.error = contents(folder / "error");
-    fs::remove_all(folder);
-    return run;
+    return run(arguments, input, {}, environment);
+}
+
+Outcome zelInto(const fs::path& output, const std::vector<std::string>& arguments, const std::string& input)
+{
+    return run(arguments, input, output, {});
+}
+
+Outcome zelWithSmallFiles(std::size_t bytes, const std::vector<std::string>& arguments, const std::string& input)
+{
+    return run(arguments, input, {}, {}, bytes);
 }
 
 int start(const std::vector<std::string>& arguments, const Streams& streams, const Environment& environment)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -21,6 +22,11 @@ using Environment = std::vector<std::string>;
 
 /// Runs the built `zel` and waits for it.
 Outcome zel(const std::vector<std::string>& arguments, const std::string& input = {}, const Environment& environment = {});
+
+/// The same with its standard output going to `output`, which the outcome does not read.
+Outcome zelInto(const std::filesystem::path& output, const std::vector<std::string>& arguments, const std::string& input = {});
+/// The same where no file can grow beyond so many bytes.
+Outcome zelWithSmallFiles(std::size_t bytes, const std::vector<std::string>& arguments, const std::string& input = {});
 
 /// Where the standard streams of a run that is not waited for begin and end.
 struct Streams {

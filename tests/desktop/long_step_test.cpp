@@ -1,11 +1,16 @@
 #include "desktop/files_fixture.h"
 
 #include "command/command.h"
+#include "contract/long_run.h"
+#include "contract/tables/load_combination_table.h"
+#include "contract/tables/static_load_case_table.h"
 #include "contract/user_interface.h"
+#include "loadcomb/generation/load_comb_ctrl.h"
 
 #include <QApplication>
 #include <QEventLoop>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -106,6 +111,70 @@ TEST_F(LongStep, APostedCommandWaitsForItsEnd)
     }
     zel::userInterface()->busy("");
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.services().formWindows().size() == 1; }, 2000));
+}
+
+/// Presses the button of the panel of a run as soon as there is one.
+class Finger final : public QObject {
+public:
+    Finger()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, this, [this] {
+            for (QWidget* each : QApplication::topLevelWidgets()) {
+                auto* const button = each->objectName() == "longRun" && each->isVisible() ? each->findChild<QPushButton*>() : nullptr;
+                if (button != nullptr) {
+                    text = button->text();
+                    QTest::mouseClick(button, Qt::LeftButton);
+                }
+            }
+        });
+        m_timer.start(10);
+    }
+
+    QString text;  ///< of the button that it pressed
+
+private:
+    QTimer m_timer;
+};
+
+TEST_F(LongStep, ARunThatCanBeStoppedShowsHowFarItIsBesideAButtonThatStopsIt)
+{
+    using Clock = std::chrono::steady_clock;
+    const Finger finger;
+    bool stopped = false;
+    {
+        const zel::StoppableRun run;
+        const Clock::time_point end = Clock::now() + std::chrono::seconds(20);
+        try {
+            for (std::size_t done = 1; Clock::now() < end; ++done)
+                zel::reportRun(zel::RunPhase::generating, done);
+        } catch (const zel::Interrupted&) {
+            stopped = true;
+        }
+    }
+    EXPECT_TRUE(stopped);
+    EXPECT_EQ(finger.text, "Stop");
+    QEventLoop idle;  // the program waits for input again
+    QTimer::singleShot(50, &idle, &QEventLoop::quit);
+    idle.exec();
+    for (QWidget* each : QApplication::topLevelWidgets())
+        EXPECT_NE(each->objectName(), "longRun") << "the panel goes with its run";
+}
+
+TEST_F(LongStep, AStoppedGenerationLeavesTheModelAsItWas)
+{
+    CDataStld cases;
+    for (int i = 0; i < 1500; ++i) {
+        T_STLD_D wind;
+        wind.name = "W" + std::to_string(i);
+        wind.type = "W";
+        ASSERT_NE(cases.Add(wind), 0);
+    }
+    CLoadCombCtrl control;
+    const int before = CDataLcom().GetCount(1);
+    const Finger finger;
+    EXPECT_EQ(control.Generate(1, "KDS 41 20 : 2022"), 0);
+    EXPECT_EQ(finger.text, "Stop");
+    EXPECT_EQ(CDataLcom().GetCount(1), before);
 }
 
 }  // namespace desktop_test

@@ -51,6 +51,7 @@ const Layer layers[] = {
     {"src/platform/os/", {"contract/", "platform/os/"}, {""}},  // any system header: this is their place
     {"src/journal/", with(commandLibrary, {"platform/", "journal/"}), {"nlohmann/"}},
     {"src/cli/", with(commandLibrary, {"platform/", "journal/", "cli/"}), {"CLI/", "nlohmann/"}},
+    {"src/zel/", {"cli/"}, {}},
     {"src/desktop/", with(commandLibrary, {"platform/", "journal/", "desktop/"}), {"Q", "nlohmann/"}},
 };
 

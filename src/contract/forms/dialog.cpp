@@ -1,9 +1,11 @@
 #include "contract/forms/dialog.h"
 
+#include "contract/format_text.h"
 #include "contract/forms/buttons.h"
 #include "contract/forms/control.h"
 #include "contract/forms/dialog_names.h"
 #include "contract/forms/window_list.h"
+#include "contract/messages.h"
 #include "contract/user_interface.h"
 
 #include <algorithm>
@@ -14,6 +16,22 @@ using zel::Control;
 using zel::Taken;
 
 namespace {
+
+constexpr int mostModalDialogs = 100;  ///< that wait inside each other: each takes a part of the stack
+
+/// Counts the modal dialogs that are open, this one included.
+class ModalDepth {
+public:
+    ModalDepth() { ++s_depth; }
+    ~ModalDepth() { --s_depth; }
+    ModalDepth(const ModalDepth&) = delete;
+    ModalDepth& operator=(const ModalDepth&) = delete;
+
+    [[nodiscard]] bool isTooDeep() const { return s_depth > mostModalDialogs; }
+
+private:
+    inline static int s_depth = 0;
+};
 
 void collect(const std::vector<Control*>& own, std::vector<Control*>& all)
 {
@@ -174,6 +192,11 @@ int CDialog::runModal()
 {
     if (IsWindow())
         return 0;
+    const ModalDepth depth;
+    if (depth.isTooDeep()) {
+        AfxMessageBox(zel::formatText(CMsgDll::pfuncLoadStr("IDS_FORM_TOO_MANY_MODAL_DIALOGS", 0), mostModalDialogs), MB_OK, 0);
+        return IDCANCEL;
+    }
     m_modal = true;
     makeWindow();
     if (!hasEnded()) {

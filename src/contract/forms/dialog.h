@@ -120,7 +120,7 @@ protected:
     void changed() override { formChanged(); }
     void shown(bool show) override;
 
-    int runModal();
+    int runModal();  ///< gives the end code; IDCANCEL, with a message, where a hundred modal dialogs wait inside each other already
     /// Makes the window of a modeless dialog. It appears with the first ShowWindow or SetActiveWindow.
     void openModeless();
     void setTemplateId(unsigned templateId) { m_templateId = templateId; }

@@ -1,11 +1,10 @@
 #include "contract/forms/expression.h"
 
+#include "contract/format_text.h"
 #include "contract/number_text.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 #include <optional>
 #include <string>
@@ -57,9 +56,7 @@ Rewritten rewrite(std::string_view text)
                 return {{}, ExpressionFault::tooBig};
             value = 0.0;
         }
-        std::array<char, 40> digits{};
-        std::snprintf(digits.data(), digits.size(), "%.17g", value);
-        made.text += digits.data();
+        made.text += formatText("%.17g", value);
         at = read.ptr;
         afterNumber = true;
     }

@@ -1,5 +1,6 @@
 #include "contract/forms/grid_browser.h"
 
+#include "contract/format_text.h"
 #include "contract/forms/expression.h"
 #include "contract/forms/grid_row_edit.h"
 #include "contract/forms/grid_row_store.h"
@@ -7,8 +8,6 @@
 #include "contract/user_interface.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 
 CTBBrowserWnd::CTBBrowserWnd(const zel::Place& place, std::string_view id, zel::Action<Row> onCurrentRow)
     : CTBGrid(place, id), m_onCurrentRow(std::move(onCurrentRow)), m_edit(std::make_unique<zel::RowEdit>())
@@ -270,9 +269,7 @@ CString CTBBrowserWnd::ConvertFormulaToValue(const CString& text)
     const zel::Expression expression = zel::evaluateExpression(text);
     if (expression.fault != zel::ExpressionFault::none)
         return text;
-    std::array<char, 32> value{};
-    std::snprintf(value.data(), value.size(), "%.15g", expression.value);
-    return value.data();
+    return zel::formatText("%.15g", expression.value);
 }
 
 bool CTBBrowserWnd::IsValidDoubleNumber(const CString& text, int& reason)

@@ -1,8 +1,7 @@
 #include "contract/forms/grid_common.h"
 
+#include "contract/format_text.h"
 #include "contract/number_text.h"
-
-#include <cstdio>
 
 bool CTBCommon::ValidateTexts(const CArray<CString>& texts, const CArray<ColumnIndex>& columns, const CString& missing, Fields fields)
 {
@@ -35,7 +34,5 @@ double CTBCommon::RealOf(const CString& text)
 
 CString CTBCommon::RealText(double value)
 {
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.15g", value);
-    return text.data();
+    return zel::formatText("%.15g", value);
 }

@@ -4,9 +4,9 @@
 #include "contract/forms/field_writer.h"
 #include "contract/forms/find_control.h"
 #include "contract/forms/row_numbers.h"
+#include "contract/letter_case.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 
 using zel::Taken;
@@ -18,12 +18,6 @@ const CString nothing;
 std::size_t at(int index)
 {
     return static_cast<std::size_t>(index);
-}
-
-bool equalIgnoringCase(const CString& left, const CString& right)
-{
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
 }
 
 std::vector<int> marked(const std::vector<bool>& marks)
@@ -95,7 +89,7 @@ const CString& ItemControl::GetItemText(int index) const
 
 int ItemControl::FindStringExact(const CString& text) const
 {
-    const auto found = std::find_if(m_items.begin(), m_items.end(), [&text](const Item& item) { return equalIgnoringCase(item.text, text); });
+    const auto found = std::find_if(m_items.begin(), m_items.end(), [&text](const Item& item) { return zel::equalIgnoringCase(item.text, text); });
     return found == m_items.end() ? -1 : static_cast<int>(found - m_items.begin());
 }
 

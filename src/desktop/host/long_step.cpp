@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEvent>
+#include <QWindow>
 
 #include <utility>
 
@@ -14,9 +15,21 @@ namespace {
 constexpr std::chrono::milliseconds paintInterval{80};
 constexpr std::chrono::milliseconds patience{400};  ///< a step that takes longer shows a busy cursor
 
+constexpr unsigned callsAClock = 64;  ///< a look at the clock costs more than a record
+
+/// Whether an object is the panel of a run, a part of it or its window.
+bool isOf(const QProgressDialog& panel, const QObject& object)
+{
+    for (const QObject* each = &object; each != nullptr; each = each->parent()) {
+        if (each == &panel || each == panel.windowHandle())
+            return true;
+    }
+    return false;
+}
+
 }  // namespace
 
-LongStep::LongStep(std::function<void(const QString&)> show) : m_show(std::move(show))
+LongStep::LongStep(std::function<void(const QString&)> show) : m_show(std::move(show)), m_formerWatcher(setRunWatcher(this))
 {
     // When the program waits for input again, the step is over, whether it has said so or not.
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
@@ -27,6 +40,7 @@ LongStep::LongStep(std::function<void(const QString&)> show) : m_show(std::move(
 
 LongStep::~LongStep()
 {
+    setRunWatcher(m_formerWatcher);
     setCursor(false);
 }
 
@@ -54,21 +68,56 @@ void LongStep::spoke()
     paint();
 }
 
+bool LongStep::goOn(RunPhase phase, std::size_t done, std::size_t total)
+{
+    if (!isStoppable() || ++m_calls % callsAClock != 0)
+        return true;
+    const Time now = std::chrono::steady_clock::now();
+    if (!m_began)
+        m_began = now;
+    if (now - *m_began > patience && now - m_painted >= paintInterval)
+        showProgress(phase, done, total);
+    return m_progress == nullptr || !m_progress->wasCanceled();
+}
+
+void LongStep::showProgress(RunPhase phase, std::size_t done, std::size_t total)
+{
+    if (m_painting)
+        return;
+    if (m_progress == nullptr) {
+        m_progress =
+            std::make_unique<QProgressDialog>(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : QApplication::activeWindow());
+        m_progress->setObjectName(QStringLiteral("longRun"));
+        m_progress->setCancelButtonText(QStringLiteral("Stop"));
+        m_progress->setMinimumDuration(0);
+        m_progress->setAutoClose(false);
+        m_progress->setAutoReset(false);
+        m_progress->show();
+    }
+    m_progress->setLabelText(QString::fromStdString(runText(phase, done, total)));
+    m_progress->setMaximum(static_cast<int>(total));
+    m_progress->setValue(static_cast<int>(total != 0 ? done : 0));
+    paint();
+}
+
 void LongStep::paint()
 {
     if (m_painting || std::chrono::steady_clock::now() - m_painted < paintInterval)
         return;
     m_painting = true;
     qApp->installEventFilter(this);
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+    const QEventLoop::ProcessEventsFlags input = m_progress != nullptr ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents;
+    QCoreApplication::processEvents(input | QEventLoop::ExcludeSocketNotifiers);
     qApp->removeEventFilter(this);
     m_painting = false;
     m_painted = std::chrono::steady_clock::now();
 }
 
 /// The input of the window system waits; what is sent by other ways must not get through to a form in the middle of a step.
-bool LongStep::eventFilter(QObject* /*watched*/, QEvent* event)
+bool LongStep::eventFilter(QObject* watched, QEvent* event)
 {
+    if (m_progress != nullptr && isOf(*m_progress, *watched))
+        return false;
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -100,6 +149,7 @@ void LongStep::setCursor(bool busy)
 void LongStep::end()
 {
     m_began.reset();
+    m_progress.reset();
     setCursor(false);
     if (std::exchange(m_hasText, false))
         m_show({});

@@ -1,17 +1,23 @@
 #pragma once
 
+#include "contract/long_run.h"
+
 #include <QObject>
+#include <QProgressDialog>
 #include <QString>
 
 #include <chrono>
+#include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace zel::desktop {
 
 /// A long step keeps the thread. Whenever it says something, what it has said so far is painted, while input waits; a busy cursor shows while it goes
-/// on, and from its first text to its last the status line tells what it is busy with.
-class LongStep final : public QObject {
+/// on, and from its first text to its last the status line tells what it is busy with. A long run that can be stopped shows how far it is beside a button
+/// that stops it, which is all that takes input meanwhile.
+class LongStep final : public QObject, private RunWatcher {
 public:
     /// @param show  shows a text in the status line; an empty one clears it
     explicit LongStep(std::function<void(const QString&)> show);
@@ -30,6 +36,8 @@ protected:
 private:
     using Time = std::chrono::steady_clock::time_point;
 
+    bool goOn(RunPhase phase, std::size_t done, std::size_t total) override;
+    void showProgress(RunPhase phase, std::size_t done, std::size_t total);
     void paint();
     void setCursor(bool busy);
     void end();
@@ -40,6 +48,9 @@ private:
     bool m_hasText = false;
     bool m_hasCursor = false;
     bool m_painting = false;
+    std::unique_ptr<QProgressDialog> m_progress;  ///< while a run goes on that can be stopped
+    RunWatcher* m_formerWatcher;
+    unsigned m_calls = 0;
 };
 
 }  // namespace zel::desktop

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
@@ -66,7 +65,7 @@ private:
 /// Whether the first word of a field is "**".
 bool beginsComment(std::string_view field)
 {
-    return field.starts_with("**") && (field.size() == 2 || std::isspace(static_cast<unsigned char>(field[2])) != 0);
+    return field.starts_with("**") && (field.size() == 2 || std::string_view(" \t\v\f").find(field[2]) != std::string_view::npos);
 }
 
 /// The fields of a line up to a comment, without blanks at their ends. Fields without a character between two delimiters, and those
@@ -113,6 +112,7 @@ public:
     }
 
     std::vector<T_LCOM_D>& combinations() { return m_combinations; }
+    [[nodiscard]] int firstIdleLine() const { return m_firstIdleLine; }
 
 private:
     std::optional<Fault> takeLine()
@@ -136,6 +136,8 @@ private:
             if (std::optional<Fault> found = takePair(field, combination.items))
                 return found;
         }
+        if (combination.items.empty() && m_firstIdleLine == 0)
+            m_firstIdleLine = line;
         return keep(std::move(combination));
     }
 
@@ -172,6 +174,7 @@ private:
     CDataLcom m_table;  // merges
     Fields m_fields;
     std::vector<T_LCOM_D> m_combinations;
+    int m_firstIdleLine = 0;
     std::unordered_map<std::int32_t, std::size_t> m_places;  ///< of the combinations by ID
 };
 
@@ -216,8 +219,8 @@ Contents read(std::istream& file, const std::vector<Key>& cases)
 {
     Reader reader(file, cases);
     if (std::optional<Fault> found = reader.read())
-        return {{}, std::move(found)};
-    return {std::move(reader.combinations()), std::nullopt};
+        return {{}, std::move(found), 0};
+    return {std::move(reader.combinations()), std::nullopt, reader.firstIdleLine()};
 }
 
 int importFile(int kind, std::istream& file)

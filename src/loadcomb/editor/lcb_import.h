@@ -22,6 +22,7 @@ struct Fault {
 struct Contents {
     std::vector<T_LCOM_D> combinations;  ///< one an ID, "LCB%d", in the order of first mention; none where there is a fault
     std::optional<Fault> fault;
+    int firstIdleLine = 0;  ///< the first line, from 1, whose factors are all 0; 0 for none. Its combination has no items of it.
 };
 
 /// Reads a file to its end or its first fault. What it holds meanwhile is one line and the combinations.

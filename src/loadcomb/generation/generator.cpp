@@ -1,6 +1,7 @@
 #include "loadcomb/generation/generator.h"
 
 #include "contract/design_kind.h"
+#include "contract/long_run.h"
 #include "loadcomb/generation/number_token.h"
 #include "loadcomb/generation/row_text.h"
 #include "loadcomb/generation/wind_combinations.h"
@@ -286,6 +287,7 @@ void Generator::finish(Draft&& draft, bool strength, Choices choices, const Shar
     if (draft.number != 0)
         appendExtras(record);
 
+    reportRun(RunPhase::generating, rows().size() + 1);
     const std::size_t row = m_outcomes.size() - 1;
     const std::size_t extras = draft.number != 0 ? m_state.extraItems.at(draft.number).size() : 0;
     const std::size_t repeated = m_list.store(std::move(record));

@@ -3,6 +3,7 @@
 #include "command/guarded.h"
 #include "command/messages.h"
 #include "contract/change_scope.h"
+#include "contract/long_run.h"
 #include "contract/messages.h"
 #include "contract/tables/load_combination_table.h"
 #include "contract/tables/load_set_tables.h"
@@ -56,6 +57,7 @@ void CLoadCombCtrl::SetEccentricCases(const std::map<std::uint32_t, std::uint32_
 int CLoadCombCtrl::Generate(int mode, const CString& codeName, Storing storing)
 {
     return zel::guarded(0, [&] {
+        const zel::StoppableRun stoppable;
         if (mode != replaceMode || storing == Storing::dryRun)
             return generate(mode, codeName, storing);
         // Deleting the old combinations and storing the new ones is one action of the user, though each is told by itself.

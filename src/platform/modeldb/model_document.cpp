@@ -1,5 +1,6 @@
 #include "platform/modeldb/model_document.h"
 
+#include "contract/change_scope.h"
 #include "contract/record.h"
 #include "contract/user_interface.h"
 #include "platform/modeldb/record_values.h"
@@ -172,9 +173,9 @@ void ModelDocument::tell(const ChangeRecord& change, long long hint)
 
 int ModelDocument::make(const CString& name, Batch&& batch)
 {
-    beginChange(name);
+    ChangeScope change(*this, name, NoticeTime::atEnd);
     const bool done = perform(std::move(batch));
-    return static_cast<int>(endChange(1) != 0 && done);
+    return static_cast<int>(change.end() != 0 && done);
 }
 
 void ModelDocument::beginChange(const CString& name, NoticeTime notices)
@@ -204,6 +205,10 @@ bool ModelDocument::perform(Batch batch)
         takeBack();
         refuse(Refusal::fileWrite, refusal.what());
         return false;
+    } catch (...) {  // rolled back already: no memory, or the run was stopped
+        m_failed = true;
+        takeBack();
+        throw;
     }
     m_tables[static_cast<std::size_t>(batch.table)]->apply(batch);
     m_running.batches.push_back(std::move(batch));

@@ -229,8 +229,8 @@ void ModelFile::begin()
                 throw damaged("its structure is broken");
             m_structureChecked = true;
         }
-        m_database->run("BEGIN IMMEDIATE");
         m_before = m_state;
+        m_database->run("BEGIN IMMEDIATE");
     } catch (const SqliteError& error) {
         throw refusalFor(error);
     }
@@ -251,6 +251,9 @@ void ModelFile::inTransaction(const std::function<void()>& work)
     } catch (const std::bad_alloc&) {
         rollback();
         throw outOfMemory();
+    } catch (...) {
+        rollback();
+        throw;
     }
 }
 
@@ -317,13 +320,16 @@ void ModelFile::storeCheck(const CString& code)
 void ModelFile::commit()
 {
     inTransaction([&] { m_database->run("COMMIT"); });
+    m_before.reset();
 }
 
 void ModelFile::rollback() noexcept
 {
     if (sqlite3_get_autocommit(m_database->handle()) == 0)
         sqlite3_exec(m_database->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
-    m_state = m_before;
+    if (m_before)
+        m_state = std::move(*m_before);  // a copy could fail for want of memory
+    m_before.reset();
 }
 
 FileFacts ModelFile::facts()

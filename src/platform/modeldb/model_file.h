@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace zel {
 
@@ -91,7 +92,7 @@ private:
     std::unique_ptr<RowStore> m_rows;
     std::unique_ptr<Statement> m_checkStatement;
     State m_state;
-    State m_before;  ///< of the running transaction
+    std::optional<State> m_before;  ///< while a transaction runs
     bool m_structureChecked = false;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/modeldb/record_values.h"
 
+#include "contract/letter_case.h"
 #include "contract/units.h"
 #include "platform/modeldb/flat_layout.h"
 

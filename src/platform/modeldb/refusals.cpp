@@ -7,6 +7,8 @@ namespace zel {
 
 namespace {
 
+std::size_t fileWrites = 0;
+
 const char* keyOf(Refusal reason)
 {
     switch (reason) {
@@ -47,9 +49,16 @@ CString filled(CString text, const char* placeholder, const CString& value)
 
 int refuse(Refusal reason, const CString& detail, int number)
 {
+    if (reason == Refusal::fileWrite)
+        ++fileWrites;
     const CString text = CMsgDll::pfuncLoadStr(keyOf(reason), 0);
     AfxMessageBox(filled(filled(text, "%d", std::to_string(number)), "%s", detail), 0, 0);
     return 0;
+}
+
+std::size_t refusedFileWrites()
+{
+    return fileWrites;
 }
 
 }  // namespace zel

@@ -1,5 +1,7 @@
 #include "platform/modeldb/row_store.h"
 
+#include "contract/long_run.h"
+
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -246,7 +248,9 @@ void RowStore::write(const Batch& batch, std::size_t stored)
     const TableInfo& info = tableInfo(batch.table);
     const SqlTable& table = sqlTable(info);
     removeMoved(info, table, batch, stored);
+    std::size_t done = 0;
     for (const Step& step : batch.steps) {
+        reportRun(RunPhase::storing, ++done, batch.steps.size());
         if (!step.after)
             continue;
         const RowAddress address = rowAddress(info, step.kind, step.newKey);
@@ -281,6 +285,7 @@ std::vector<StoredRow> RowStore::read(const TableInfo& table)
         if (!sql.lists.empty())
             owners.push_back({rowAddress(table, row.kind, row.key), row.record.get()});
         rows.push_back(std::move(row));
+        reportRun(RunPhase::reading, rows.size());
     }
     readLists(sql, owners);
     return rows;
@@ -302,6 +307,7 @@ void RowStore::readLists(const SqlTable& table, const std::vector<Owner>& owners
             const auto place = static_cast<std::size_t>(statement.integer(static_cast<int>(address.size)));
             if (owner == owners.end() || place != size)
                 throw DamagedRows("a list has lost its record or one of its places");
+            reportRun(RunPhase::reading, static_cast<std::size_t>(owner - owners.begin()) + 1, owners.size());
             list.operations->resize(list.in(owner->object), ++size);
             readColumns(statement, child, list.operations->edit(list.in(owner->object), place), static_cast<int>(child.address.size()));
         }
