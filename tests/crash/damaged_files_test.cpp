@@ -152,7 +152,6 @@ constexpr Edit edits[] = {
     {"pragma user_version = 9", false},
     {"pragma user_version = 0", false},
     {"pragma application_id = 7", false},
-    {"analyze", true},
     {"vacuum", true},
     {"pragma journal_mode = delete", true},
 };
