@@ -12,7 +12,7 @@ namespace zel::cli {
 int dumpModel(const DumpModel& job)
 {
     const RunMonitor monitor;
-    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model);
+    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model, ModelFile::Access::readOnly);
     printModelJson(*document, std::cout);
     if (!std::cout.flush())
         throw std::runtime_error("standard output can't be written; is the disk full?");

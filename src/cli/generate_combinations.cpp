@@ -58,7 +58,7 @@ int generateCombinations(const GenerateCombinations& job)
     requireCode(job.code);
     requireAlphaH(job.alphaH);
     const RunMonitor monitor;
-    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model);
+    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model, job.dryRun ? ModelFile::Access::readOnly : ModelFile::Access::write);
     Output output(job.out);
     Console console;
     CLoadCombCtrl control;

@@ -57,6 +57,7 @@ int importLcb(const ImportLcb& job)
         throw std::runtime_error("standard output can't be written; is the disk full? Nothing was imported.");
     if (change.end() == 0)
         throw std::runtime_error(console.told() + " Nothing was imported.");
+    document->close();
     return succeeded;
 }
 

@@ -12,7 +12,7 @@ namespace zel::cli {
 int listCombinations(const ListCombinations& job)
 {
     const RunMonitor monitor;
-    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model);
+    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model, ModelFile::Access::readOnly);
     ITable& table = document->table(Table::LCOM);
     const EachCombination stored = [&](const std::function<void(const PrintedCombination&)>& take) {
         for (int kind = job.kind.value_or(firstDesignKind); kind <= job.kind.value_or(lastDesignKind); ++kind) {

@@ -13,7 +13,7 @@ namespace zel::cli {
 /// One line an envelope, then one line an item with its type; an item whose load case or combination is gone says so.
 int listEnvelopes(const ListEnvelopes& job)
 {
-    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model);
+    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model, ModelFile::Access::readOnly);
     Output output("-");
     std::vector<Key> keys;
     std::vector<T_ENVL_D> envelopes;

@@ -3,6 +3,7 @@
 #include "cli/input.h"
 #include "cli/run_monitor.h"
 
+#include "platform/modeldb/file_header.h"
 #include "platform/modeldb/model_document.h"
 #include "platform/modeldb/model_json.h"
 
@@ -19,7 +20,7 @@ void checkReplaceable(const std::filesystem::path& path)
     if (!std::filesystem::exists(path))
         return;
     try {
-        ModelDocument::open(path);
+        checkFileHeader(path);
     } catch (const FileRefusal& refusal) {
         if (refusal.reason() != FileRefusal::Reason::damaged)
             throw;

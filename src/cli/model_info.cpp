@@ -87,7 +87,8 @@ void printInfo(const std::filesystem::path& path, ModelDocument& document, const
 
 int modelInfo(const ModelInfo& job)
 {
-    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model);
+    const std::unique_ptr<ModelDocument> document = ModelDocument::open(job.model, ModelFile::Access::readOnly);
+    document->checkStructure();
     const FileFacts facts = document->fileFacts().value();
     if (job.json)
         std::cout << printJson(infoJson(job.model, *document, facts)) << '\n';

@@ -1,46 +1,43 @@
 #include "cli/output.h"
 
-#include "platform/os/file_access.h"
+#include "platform/modeldb/file_header.h"
 
-#include <fstream>
 #include <iostream>
 #include <stdexcept>
+#include <system_error>
 
 namespace zel::cli {
 
-Output::Output(const std::string& file)
+Output::Output(const std::string& file) : m_name(file == "-" ? "standard output" : "\"" + file + "\"")
 {
     if (file == "-")
         return;
-    m_path = file;
-    m_unfinished = file + "." + os::processNumber() + ".part";
-    m_file = std::make_unique<std::ofstream>(m_unfinished, std::ios::binary | std::ios::trunc);
-    if (!*m_file)
-        throw std::runtime_error("\"" + file + "\" can't be written. Check the folder and its permissions.");
-}
-
-Output::~Output()
-{
-    if (!m_file)
-        return;
-    m_file.reset();
-    std::error_code ignored;
-    std::filesystem::remove(m_unfinished, ignored);
+    if (isModelFile(file))
+        throw std::runtime_error(m_name + " is a model file, which would be lost. Give the result a name of its own.");
+    try {
+        m_file.emplace(file);
+    } catch (const std::system_error& error) {
+        throw std::runtime_error(m_name + " can't be written (" + error.code().message() + "). Check the folder and its permissions.");
+    }
 }
 
 std::ostream& Output::stream()
 {
-    return m_file ? *m_file : std::cout;
+    return m_file ? m_file->stream() : std::cout;
 }
 
 void Output::finish()
 {
+    const char* const advice = "; is the disk full?";
     if (!stream().flush())
-        throw std::runtime_error((m_file ? "\"" + m_path.string() + "\"" : std::string("standard output")) + " can't be written; is the disk full?");
+        throw std::runtime_error(m_name + " can't be written" + advice);
     if (!m_file)
         return;
-    m_file.reset();
-    std::filesystem::rename(m_unfinished, m_path);
+    try {
+        m_file->finish();
+    } catch (const std::system_error& error) {
+        throw std::runtime_error(m_name + " can't be written (" + error.code().message() + ")" + advice);
+    }
 }
 
 }  // namespace zel::cli

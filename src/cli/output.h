@@ -1,20 +1,19 @@
 #pragma once
 
-#include <filesystem>
+#include "platform/os/file_writer.h"
+
 #include <iosfwd>
-#include <memory>
+#include <optional>
 #include <string>
 
 namespace zel::cli {
 
-/// Where a job writes its result: standard output for "-", else a file that appears under its name, whole, by `finish`.
+/// Where a job writes its result: standard output for "-", else a file that appears under its name, whole, by `finish`. A model file is never
+/// written over.
 class Output {
 public:
     /// @throws std::runtime_error  when the file can't be written
     explicit Output(const std::string& file);
-    ~Output();
-    Output(const Output&) = delete;
-    Output& operator=(const Output&) = delete;
 
     [[nodiscard]] std::ostream& stream();
 
@@ -23,9 +22,8 @@ public:
     void finish();
 
 private:
-    std::filesystem::path m_path;
-    std::filesystem::path m_unfinished;
-    std::unique_ptr<std::ostream> m_file;
+    std::string m_name;  ///< for messages
+    std::optional<os::FileWriter> m_file;
 };
 
 }  // namespace zel::cli

@@ -4,6 +4,7 @@
 #include "journal/dialog_commands.h"
 #include "journal/journal_player.h"
 #include "platform/messages/message_catalogue.h"
+#include "platform/modeldb/file_header.h"
 #include "platform/modeldb/model_document.h"
 
 #include <fstream>
@@ -27,6 +28,8 @@ std::unique_ptr<std::ostream> openTranscript(const PlayJournal& job)
         return nullptr;
     if ((job.script != "-" && sameFile(job.script, job.transcript)) || (job.model && sameFile(*job.model, job.transcript)))
         throw std::runtime_error("the transcript \"" + job.transcript + "\" would overwrite what is read. Give it a name of its own.");
+    if (isModelFile(job.transcript))
+        throw std::runtime_error("the transcript \"" + job.transcript + "\" is a model file, which would be lost. Give it a name of its own.");
     auto file = std::make_unique<std::ofstream>(job.transcript, std::ios::binary | std::ios::trunc);
     if (!*file)
         throw std::runtime_error("the transcript \"" + job.transcript + "\" can't be written. Check the folder and its permissions.");
@@ -47,6 +50,7 @@ int playJournal(const PlayJournal& job)
     if (player.fileRefused())
         std::cerr << "zel: the model's file refused a write; the messages in the transcript tell which, and why.\n";
     script.check();
+    document->close();
     return static_cast<int>(status);
 }
 

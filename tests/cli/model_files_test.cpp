@@ -36,7 +36,7 @@ TEST_F(ModelFiles, InfoTellsTheFileAndWhatIsInIt)
     const Outcome info = zel({"info", model});
     EXPECT_EQ(info.code, 0) << info.error;
     for (const std::string& line : {"Model           " + model, "Size            " + std::to_string(std::filesystem::file_size(model)) + " bytes",
-                                    std::string("Schema version  1"), std::string("Application id  0x5A454C31"), std::string("Hashes          ok"),
+                                    std::string("Schema version  2"), std::string("Application id  0x5A454C31"), std::string("Hashes          ok"),
                                     std::string("Units           MM, KN"), std::string("  STLD           2  static load case")})
         EXPECT_NE(info.out.find(line), std::string::npos) << line << "\n" << info.out;
     const Outcome json = zel({"info", model, "--json"});

@@ -139,7 +139,7 @@ TEST_F(FilesWindow, ALockedFileCanBeTriedAgain)
     const QString file = modelFile("locked.qvx");
     auto elsewhere = std::make_unique<zel::ModelFile>(fromQt(file), zel::ModelFile::Access::write);
     whenModal([&](QWidget& box) {
-        EXPECT_EQ(buttonsOf(box), (QStringList{"Cancel", "Open Another...", "Try Again"}));
+        EXPECT_EQ(buttonsOf(box), (QStringList{"Cancel", "Open Another...", "Open Read-Only", "Try Again"}));
         elsewhere.reset();
         clickButton(box, "Try Again");
     });
@@ -153,7 +153,7 @@ TEST_F(FilesWindow, AReadOnlyFileIsOpenedAsACopyThatCanBeWritten)
     const QString dump = dumpOfFile(file);
     QFile::setPermissions(file, QFile::ReadOwner);
     whenModal([&](QWidget& box) {
-        EXPECT_EQ(buttonsOf(box), (QStringList{"Cancel", "Open Another...", "Open a Copy..."}));
+        EXPECT_EQ(buttonsOf(box), (QStringList{"Cancel", "Open Another...", "Open Read-Only", "Open a Copy..."}));
         chooseFile(path("mine.qvx"));
         clickButton(box, "Open a Copy...");
     });
@@ -163,6 +163,16 @@ TEST_F(FilesWindow, AReadOnlyFileIsOpenedAsACopyThatCanBeWritten)
     CDataStld().Add(loadCase("NEW"));
     window.setDocument(ModelDocument::inMemory());
     EXPECT_TRUE(dumpOfFile(path("mine.qvx")).contains("NEW"));
+}
+
+TEST_F(FilesWindow, AFileThatAnotherProgramHasOpenIsReadWithoutIt)
+{
+    const QString file = modelFile("locked.qvx");
+    const zel::ModelFile elsewhere(fromQt(file), zel::ModelFile::Access::write);
+    whenModal([&](QWidget& box) { clickButton(box, "Open Read-Only"); });
+    EXPECT_TRUE(window.files().open(file));
+    EXPECT_EQ(window.windowTitle(), "locked.qvx - Read-only - ZEL");
+    EXPECT_TRUE(window.document().isReadOnly());
 }
 
 TEST_F(FilesWindow, ACopyThatCantBeWrittenIsRefused)

@@ -11,6 +11,7 @@
 #include "platform/modeldb/file_format.h"
 #include "platform/modeldb/flat_layout.h"
 #include "platform/modeldb/record_values.h"
+#include "sqlite_of_model.h"
 
 #include <random>
 #include <sqlite3.h>
@@ -52,27 +53,7 @@ protected:
         return names;
     }
 
-    std::string query(const std::string& sql)
-    {
-        sqlite3* database = nullptr;
-        EXPECT_EQ(sqlite3_open(path.c_str(), &database), SQLITE_OK);
-        std::string result;
-        char* error = nullptr;
-        sqlite3_exec(
-            database, sql.c_str(),
-            [](void* into, int count, char** values, char**) {
-                auto& text = *static_cast<std::string*>(into);
-                for (int i = 0; i < count; ++i)
-                    text += std::string(i == 0 ? "" : "|") + (values[i] != nullptr ? values[i] : "NULL");
-                text += "\n";
-                return 0;
-            },
-            &result, &error);
-        EXPECT_EQ(error, nullptr) << error;
-        sqlite3_free(error);
-        sqlite3_close(database);
-        return result;
-    }
+    std::string query(const std::string& sql) const { return zel::test::query(path, sql); }
 };
 
 TEST_F(ModelFiles, KeepWhatWasWritten)
@@ -227,7 +208,7 @@ TEST_F(ModelFiles, AreOneFileWhenClosedAndAnswerPlainSql)
     EXPECT_EQ(query("select parent_kind, parent, seq, type, key, factor from LCOM_items"), "1|1|0|1|1|1.4\n");
     EXPECT_EQ(query("PRAGMA integrity_check"), "ok\n");
     EXPECT_EQ(query("PRAGMA foreign_key_check"), "");
-    EXPECT_EQ(query("PRAGMA user_version"), "1\n");
+    EXPECT_EQ(query("PRAGMA user_version"), std::to_string(schemaVersion) + "\n");
     EXPECT_EQ(query("PRAGMA application_id"), std::to_string(applicationId) + "\n");
     EXPECT_EQ(query("PRAGMA journal_mode"), "wal\n");
 }
@@ -308,7 +289,7 @@ TEST_F(ModelFiles, ADatabaseOfAnotherProgramIsRefused)
 TEST_F(ModelFiles, ANewerSchemaIsRefused)
 {
     ModelDocument::create(path);
-    query("PRAGMA user_version=2");
+    query("PRAGMA user_version=99");
     std::string sentence;
     EXPECT_EQ(refusalOf(path, &sentence), FileRefusal::Reason::newer);
     EXPECT_NE(sentence.find("newer version"), std::string::npos);

@@ -131,6 +131,8 @@ bool FileActions::followWayOut(const FileRefusal& refusal, const QString& path)
         break;
     case WayOut::retry:
         return open(path);
+    case WayOut::readOnly:
+        return open(path, ModelFile::Access::readOnly);
     case WayOut::openCopy:
         return openCopyOf(path);
     case WayOut::forget:
@@ -142,10 +144,11 @@ bool FileActions::followWayOut(const FileRefusal& refusal, const QString& path)
     return false;
 }
 
-bool FileActions::open(const QString& path)
+bool FileActions::open(const QString& path, ModelFile::Access access)
 {
     const QFileInfo file(path);
-    if (file.exists() && !modelPath().isEmpty() && file.canonicalFilePath() == QFileInfo(modelPath()).canonicalFilePath()) {
+    const bool isReading = m_window.document().isReadOnly();
+    if (file.exists() && !modelPath().isEmpty() && !isReading && file.canonicalFilePath() == QFileInfo(modelPath()).canonicalFilePath()) {
         m_window.statusBar()->showMessage(QStringLiteral("This model is open already."), messageTime);
         return true;
     }
@@ -154,7 +157,7 @@ bool FileActions::open(const QString& path)
     } catch (const FileRefusal& refusal) {
         return followWayOut(refusal, path);
     }
-    return mayLeave() && replace([&] { return ModelDocument::open(fromQt(file.absoluteFilePath())); }, path);
+    return mayLeave() && replace([&] { return ModelDocument::open(fromQt(file.absoluteFilePath()), access); }, path);
 }
 
 bool FileActions::openCopyOf(const QString& path)

@@ -21,7 +21,7 @@ public:
     FileActions(MainWindow& window, QMenu& menu);
 
     /// Opens a model file in place of the open model. Tells the user why where it can't, and offers ways out.
-    bool open(const QString& path);
+    bool open(const QString& path, ModelFile::Access access = ModelFile::Access::write);
     /// Asks what is to become of a model that is in no file. False: the user stays with it.
     bool mayLeave();
     /// Follows another document.

@@ -6,6 +6,7 @@
 #include "desktop/host/main_window.h"
 #include "desktop/host/model_errors.h"
 #include "journal/journal_recorder.h"
+#include "platform/modeldb/file_header.h"
 
 #include <QAction>
 #include <QApplication>
@@ -113,6 +114,10 @@ bool JournalActions::startRecording(const QString& path, QString* reason)
     const QString model = toQt(m_window.document().GetPathName());
     if (QFileInfo::exists(path) && QFileInfo(path).canonicalFilePath() == QFileInfo(model).canonicalFilePath()) {
         *reason = QStringLiteral("\"%1\" is the open model. Choose another name.").arg(path);
+        return false;
+    }
+    if (isModelFile(fromQt(path))) {
+        *reason = QStringLiteral("\"%1\" is a model file, which would be lost. Choose another name.").arg(path);
         return false;
     }
     auto file = std::make_unique<std::ofstream>(fromQt(path), std::ios::binary | std::ios::trunc);

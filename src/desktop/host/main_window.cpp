@@ -6,6 +6,7 @@
 #include "desktop/host/file_actions.h"
 #include "desktop/host/help_actions.h"
 #include "desktop/host/journal_actions.h"
+#include "desktop/host/model_errors.h"
 #include "desktop/host/model_follower.h"
 #include "desktop/host/preferences_dialog.h"
 #include "desktop/host/settings.h"
@@ -67,12 +68,22 @@ void MainWindow::replaceDocument(const std::function<std::unique_ptr<ModelDocume
     leaveDocument();
     try {
         std::unique_ptr<ModelDocument> next = make();
+        closeFile();
         m_document = std::move(next);
     } catch (...) {
         enterDocument();
         throw;
     }
     enterDocument();
+}
+
+void MainWindow::closeFile()
+{
+    try {
+        m_document->close();
+    } catch (const FileRefusal& refusal) {
+        tellFault(this, QStringLiteral("The model file has been moved."), toQt(refusal.what()));
+    }
 }
 
 void MainWindow::setDocument(std::unique_ptr<ModelDocument> document)
@@ -118,7 +129,8 @@ void MainWindow::showTitle()
     const QString path = toQt(m_document->GetPathName());
     setWindowFilePath(path);
     setWindowTitle(path.isEmpty() ? QStringLiteral("Untitled - not in a file yet - ZEL")
-                                  : QFileInfo(path).fileName() + QStringLiteral(" - All changes saved - ZEL"));
+                                  : QFileInfo(path).fileName() +
+                           (m_document->isReadOnly() ? QStringLiteral(" - Read-only - ZEL") : QStringLiteral(" - All changes saved - ZEL")));
 }
 
 // Menus and panes
@@ -186,6 +198,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     closeDialogs();
+    closeFile();
     keepMainWindow(*this);
     event->accept();
 }

@@ -61,6 +61,8 @@ protected:
 
 private:
     void addMenus();
+    /// Ends the work on the open file; tells the user when that is no longer where it was opened.
+    void closeFile();
     /// What follows the open document lets go of it, and follows the new one.
     void leaveDocument();
     void enterDocument();

@@ -27,10 +27,15 @@ QString headingOf(Reason reason)
         return QStringLiteral("The model was made by a newer version.");
     case Reason::damaged:
         return QStringLiteral("The model file is damaged.");
+    case Reason::companion:
+        return QStringLiteral("Something that is not its own stands beside the model.");
+    case Reason::moved:
+        return QStringLiteral("The model file has been moved.");
     case Reason::locked:
         return QStringLiteral("The model is open elsewhere.");
     case Reason::readOnly:
         return QStringLiteral("The model can't be changed.");
+    case Reason::unsafe:
     case Reason::failed:
         break;
     }
@@ -65,10 +70,13 @@ WayOut tellRefusal(QWidget* parent, const FileRefusal& refusal, bool isRecent)
     setUp(box, headingOf(refusal.reason()), sentence);
     const Reason reason = refusal.reason();
     QPushButton* retry = nullptr;
+    QPushButton* reading = nullptr;
     QPushButton* copy = nullptr;
     QPushButton* forget = nullptr;
     if (reason == Reason::locked)
         retry = box.addButton(QStringLiteral("&Try Again"), QMessageBox::AcceptRole);
+    if (reason == Reason::locked || reason == Reason::readOnly)
+        reading = box.addButton(QStringLiteral("Open &Read-Only"), QMessageBox::AcceptRole);
     if (reason == Reason::readOnly)
         copy = box.addButton(QStringLiteral("Open a &Copy..."), QMessageBox::AcceptRole);
     if (reason == Reason::missing && isRecent)
@@ -86,6 +94,8 @@ WayOut tellRefusal(QWidget* parent, const FileRefusal& refusal, bool isRecent)
         return WayOut::none;
     if (clicked == retry)
         return WayOut::retry;
+    if (clicked == reading)
+        return WayOut::readOnly;
     if (clicked == copy)
         return WayOut::openCopy;
     return clicked == forget ? WayOut::forget : WayOut::openAnother;

@@ -2,15 +2,15 @@
 
 #include "desktop/forms/text.h"
 #include "platform/forms/headless_user_interface.h"
+#include "platform/modeldb/file_header.h"
 #include "platform/modeldb/model_json.h"
+#include "platform/os/file_writer.h"
 
 #include <QFile>
-#include <QSaveFile>
 
-#include <filesystem>
 #include <nlohmann/json.hpp>
-#include <sstream>
 #include <stdexcept>
+#include <system_error>
 
 namespace zel::desktop {
 
@@ -61,33 +61,21 @@ void importModelJson(const QString& json, const QString& model, const std::funct
 
 void exportModelJson(ModelDocument& document, const QString& json)
 {
-    std::ostringstream text;
-    printModelJson(document, text);
-    const std::string bytes = text.str();
-    QSaveFile file(json);
-    const auto size = static_cast<qint64>(bytes.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), size) != size || !file.commit())
-        fail(quoted(json) + QStringLiteral(" can't be written: ") + file.errorString() + QStringLiteral(". Check the folder and the space on the disk."));
+    try {
+        if (isModelFile(fromQt(json)))
+            fail(quoted(json) + QStringLiteral(" is a model file, which would be lost. Choose another name."));
+        os::FileWriter file(fromQt(json));
+        printModelJson(document, file.stream());
+        file.finish();
+    } catch (const std::system_error& error) {
+        fail(quoted(json) + QStringLiteral(" can't be written: ") + toQt(error.code().message()) +
+             QStringLiteral(". Check the folder and the space on the disk."));
+    }
 }
 
 void copyModelFile(const QString& from, const QString& to)
 {
-    namespace fs = std::filesystem;
-    const fs::path target = fromQt(to);
-    std::error_code error;
-    for (const char* suffix : {"", "-wal"}) {  // a log that a crash has left belongs to it
-        const fs::path source = fromQt(from) + suffix;
-        const fs::path beside = target.string() + suffix;
-        if (!fs::exists(source)) {
-            fs::remove(beside, error);
-            continue;
-        }
-        fs::copy_file(source, beside, fs::copy_options::overwrite_existing, error);
-        if (!error)
-            fs::permissions(beside, fs::perms::owner_write, fs::perm_options::add, error);
-        if (error)
-            throw FileRefusal(FileRefusal::Reason::failed, target, "can't be written (" + error.message() + "). Check the folder and the space on the disk.");
-    }
+    ModelDocument::open(fromQt(from), ModelFile::Access::readOnly)->saveCopy(fromQt(to), true);
 }
 
 }  // namespace zel::desktop

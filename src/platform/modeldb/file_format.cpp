@@ -138,6 +138,7 @@ std::vector<SchemaObject> schemaObjects()
          "CREATE TABLE " + CString(checkTable) +
              "(\n    code TEXT NOT NULL PRIMARY KEY,\n    row_count INTEGER NOT NULL,\n    row_hash INTEGER NOT NULL\n) STRICT, WITHOUT ROWID",
          {}},
+        {CString(saveTable), "CREATE TABLE " + CString(saveTable) + "(\n    session INTEGER NOT NULL,\n    changes INTEGER NOT NULL\n) STRICT", {}},
     };
     for (const TableInfo& table : tableList())
         collect(sqlTable(table), table.code, objects);

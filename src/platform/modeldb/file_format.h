@@ -13,11 +13,13 @@
 namespace zel {
 
 inline constexpr std::int32_t applicationId = 0x5A454C31;  ///< "ZEL1"
-inline constexpr int schemaVersion = 1;
+inline constexpr int schemaVersion = 2;
 
-/// Table of the row count and hash of every table; table of the model's settings.
+/// Table of the row count and hash of every table; table of the model's settings; the one row that names the session which wrote last, and how
+/// many changes that made.
 inline constexpr std::string_view checkTable = "zel_check";
 inline constexpr std::string_view settingTable = "zel_setting";
+inline constexpr std::string_view saveTable = "zel_save";
 
 /// One SQL table that holds the records of a model table, or the elements of one of their lists.
 struct SqlTable {

@@ -2,11 +2,14 @@
 
 #include "platform/modeldb/file_format.h"
 #include "platform/modeldb/file_refusal.h"
+#include "platform/modeldb/model_copy.h"
+#include "platform/modeldb/open_files.h"
+#include "platform/os/file_contents.h"
 
-#include <array>
 #include <cstdint>
-#include <fstream>
+#include <string>
 #include <string_view>
+#include <system_error>
 
 namespace zel {
 
@@ -26,25 +29,38 @@ constexpr std::size_t userVersionAt = 60;
 constexpr std::size_t applicationIdAt = 68;
 constexpr std::size_t validForAt = 92;
 
-using Header = std::array<unsigned char, headerSize>;
-
-std::uint32_t number(const Header& header, std::size_t at, std::size_t bytes)
+std::uint32_t number(const std::string& header, std::size_t at, std::size_t bytes)
 {
     std::uint32_t value = 0;
     for (std::size_t i = 0; i < bytes; ++i)
-        value = value << 8U | header[at + i];
+        value = value << 8U | static_cast<unsigned char>(header[at + i]);
     return value;
 }
 
-void checkSize(const std::filesystem::path& path, const Header& header, std::uintmax_t size)
+bool isModelHeader(const std::string& header)
+{
+    return header.size() >= headerSize && header.starts_with(magic) && number(header, applicationIdAt, 4) == static_cast<std::uint32_t>(applicationId);
+}
+
+std::string readHeader(const std::filesystem::path& path)
+{
+    try {
+        return os::contentsOf(path, headerSize).value_or("");
+    } catch (const std::system_error& error) {
+        const bool forbidden = error.code() == std::errc::permission_denied;
+        throw FileRefusal(forbidden ? Reason::readOnly : Reason::failed, path,
+                          "can't be read (" + error.code().message() + "). Check " + (forbidden ? "its permissions." : "the disk."));
+    }
+}
+
+void checkSize(const std::filesystem::path& path, const std::string& header, std::uintmax_t size)
 {
     const std::uint32_t stored = number(header, pageSizeAt, 2);
     const std::uint32_t pageSize = stored == 1 ? 65536 : stored;
     const bool power = pageSize >= 512 && (pageSize & (pageSize - 1)) == 0;
     const bool counted = number(header, changeCounterAt, 4) == number(header, validForAt, 4);
-    const bool log = std::filesystem::exists(path.string() + "-wal") || std::filesystem::exists(path.string() + "-journal");
     const bool whole = power && size % pageSize == 0 && (!counted || size / pageSize == number(header, pageCountAt, 4));
-    if (!power || (!whole && !log))  // with a log beside it, a crash has left work for SQLite to finish
+    if (!power || (!whole && !hasCompanions(path)))  // with a log beside it, a crash has left work for SQLite to finish
         throw FileRefusal(Reason::damaged, path, "is damaged: it is not as long as it says. Restore it from a copy.");
 }
 
@@ -63,18 +79,15 @@ void checkFileHeader(const std::filesystem::path& path)
     if (!std::filesystem::is_regular_file(status))
         throw FileRefusal(Reason::notAModel, path, "is not a file. Give the path of a model file (*.qvx).");
 
-    Header header{};
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        throw FileRefusal(Reason::readOnly, path, "can't be read. Check its permissions.");
-    file.read(reinterpret_cast<char*>(header.data()), headerSize);
-    const auto got = static_cast<std::size_t>(file.gcount());
+    if (openFiles::find(path) != nullptr)
+        return;  // it was looked at when it was opened
+    const std::string header = readHeader(path);
     const std::uintmax_t size = std::filesystem::file_size(path, error);
-    if (got == 0)
+    if (header.empty())
         throw FileRefusal(Reason::notAModel, path, "is empty, so it is not a model file. Make a new model under another name, or delete the file first.");
-    if (got < headerSize || std::string_view(reinterpret_cast<const char*>(header.data()), magic.size()) != magic)
+    if (header.size() < headerSize || !header.starts_with(magic))
         throw FileRefusal(Reason::notAModel, path, "is not a model file. Choose a file that was made as a model (*.qvx).");
-    if (number(header, applicationIdAt, 4) != static_cast<std::uint32_t>(applicationId))
+    if (!isModelHeader(header))
         throw FileRefusal(Reason::notAModel, path, "is a database of another program, not a model file. Choose a file that was made as a model (*.qvx).");
 
     const auto schema = static_cast<std::int64_t>(number(header, userVersionAt, 4));
@@ -86,6 +99,20 @@ void checkFileHeader(const std::filesystem::path& path)
     if (schema < 1 || !journals)
         throw FileRefusal(Reason::damaged, path, "is damaged: its header does not make sense. Restore it from a copy.");
     checkSize(path, header, size);
+}
+
+bool isModelFile(const std::filesystem::path& path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        return false;
+    if (openFiles::find(path) != nullptr)
+        return true;
+    try {
+        return isModelHeader(os::contentsOf(path, headerSize).value_or(""));
+    } catch (const std::system_error&) {
+        return false;
+    }
 }
 
 }  // namespace zel

@@ -9,4 +9,7 @@ namespace zel {
 /// @throws FileRefusal
 void checkFileHeader(const std::filesystem::path& path);
 
+/// Whether the file says of itself that it is a model, damaged or not: then nothing else is to be written over it.
+bool isModelFile(const std::filesystem::path& path);
+
 }  // namespace zel

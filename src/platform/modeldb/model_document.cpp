@@ -14,6 +14,13 @@
 
 namespace {
 
+/// Tells the user why a change is not in the file.
+void refuseWrite(const zel::FileRefusal& refusal)
+{
+    const bool unknown = refusal.reason() == zel::FileRefusal::Reason::unsafe;
+    zel::refuse(unknown ? zel::Refusal::fileUnsafe : zel::Refusal::fileWrite, refusal.what());
+}
+
 constexpr const char* modelFileFilter = "KORAX ZEL Model File(*.qvx)|*.qvx|All File(*.*)|*.*||";
 
 }  // namespace
@@ -48,9 +55,9 @@ std::unique_ptr<ModelDocument> ModelDocument::create(const std::filesystem::path
     return open(path);
 }
 
-std::unique_ptr<ModelDocument> ModelDocument::open(const std::filesystem::path& path)
+std::unique_ptr<ModelDocument> ModelDocument::open(const std::filesystem::path& path, ModelFile::Access access)
 {
-    auto file = std::make_unique<ModelFile>(path, ModelFile::Access::write);
+    auto file = std::make_unique<ModelFile>(path, access);
     const T_UNIT_INDEX units = file->units();
     std::unique_ptr<ModelDocument> document(new ModelDocument(units, std::move(file)));
     for (const std::unique_ptr<StoredTable>& table : document->m_tables)
@@ -89,6 +96,18 @@ std::vector<Batch> ModelDocument::everything() const
             batches.push_back(std::move(batch));
     }
     return batches;
+}
+
+void ModelDocument::checkStructure() const
+{
+    if (m_file)
+        m_file->checkStructure();
+}
+
+void ModelDocument::close()
+{
+    if (const std::unique_ptr<ModelFile> file = std::move(m_file))
+        file->close();
 }
 
 std::optional<FileFacts> ModelDocument::fileFacts() const
@@ -203,7 +222,7 @@ bool ModelDocument::perform(Batch batch)
     } catch (const FileRefusal& refusal) {  // rolled back already
         m_failed = true;
         takeBack();
-        refuse(Refusal::fileWrite, refusal.what());
+        refuseWrite(refusal);
         return false;
     } catch (...) {  // rolled back already: no memory, or the run was stopped
         m_failed = true;
@@ -262,7 +281,7 @@ bool ModelDocument::commitRunning()
     } catch (const FileRefusal& refusal) {
         m_failed = true;
         takeBack();
-        refuse(Refusal::fileWrite, refusal.what());
+        refuseWrite(refusal);
     }
     return !m_failed;
 }
@@ -329,7 +348,7 @@ bool ModelDocument::performAll(const ChangeRecord& change)
             m_file->commit();
         }
     } catch (const FileRefusal& refusal) {
-        refuse(Refusal::fileWrite, refusal.what());
+        refuseWrite(refusal);
         return false;
     }
     for (const Batch& batch : change.batches)

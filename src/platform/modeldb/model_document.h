@@ -30,15 +30,27 @@ public:
     /// @throws FileRefusal
     static std::unique_ptr<ModelDocument> create(const std::filesystem::path& path, const T_UNIT_INDEX& units = {});
 
-    /// Opens a model file and checks that it is exactly what was stored.
+    /// Opens a model file and checks that it is exactly what was stored. Opened for reading only, it is the model as it stands now: it needs no lock,
+    /// leaves no trace, and refuses every change.
     /// @throws FileRefusal
-    static std::unique_ptr<ModelDocument> open(const std::filesystem::path& path);
+    static std::unique_ptr<ModelDocument> open(const std::filesystem::path& path, ModelFile::Access access = ModelFile::Access::write);
 
     ~ModelDocument() override;
 
     /// Writes the whole model to a new file; this document stays with its own.
     /// @throws FileRefusal
     void saveCopy(const std::filesystem::path& path, bool replace) const;
+
+    /// Checks the structure of the model's file, beyond the contents that opening has checked.
+    /// @throws FileRefusal
+    void checkStructure() const;
+
+    /// Ends the work on the file: the model stays in memory, without one. The destructor does the same and tells nothing.
+    /// @throws FileRefusal  when the path no longer leads to the file that was opened; what was written is in that one
+    void close();
+
+    /// Whether every change is refused, because the file was opened for reading only.
+    [[nodiscard]] bool isReadOnly() const { return m_file && m_file->isReadOnly(); }
 
     /// Facts about the model's file; nothing for a model in memory.
     [[nodiscard]] std::optional<FileFacts> fileFacts() const;

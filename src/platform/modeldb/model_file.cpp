@@ -2,14 +2,17 @@
 
 #include "contract/units.h"
 #include "contract/version.h"
+#include "platform/modeldb/file_faults.h"
 #include "platform/modeldb/file_format.h"
 #include "platform/modeldb/file_header.h"
+#include "platform/modeldb/open_files.h"
 #include "platform/modeldb/record_values.h"
+#include "platform/modeldb/schema_steps.h"
 #include "platform/os/file_access.h"
+#include "platform/os/file_writer.h"
 
-#include <map>
-#include <new>
-#include <utility>
+#include <ostream>
+#include <random>
 
 namespace zel {
 
@@ -19,143 +22,124 @@ using Reason = FileRefusal::Reason;
 
 constexpr int lockWait = 250;  // milliseconds for another program that is just closing the file
 
-/// Removes a file when the work on it has failed.
-class Temporary {
-public:
-    explicit Temporary(std::filesystem::path path) : m_path(std::move(path)) {}
-    Temporary(const Temporary&) = delete;
-    Temporary& operator=(const Temporary&) = delete;
-    ~Temporary()
-    {
-        std::error_code ignored;
-        for (const char* suffix : {"", "-wal", "-journal", "-shm"})
-            std::filesystem::remove(m_path.string() + suffix, ignored);
-    }
-    [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
-
-private:
-    std::filesystem::path m_path;
-};
+std::int64_t newSession()
+{
+    std::random_device random;
+    const std::uint64_t number = static_cast<std::uint64_t>(random()) << 32U | random();
+    return static_cast<std::int64_t>(number | 1U);  // 0 is no session
+}
 
 void refuseExisting(const std::filesystem::path& path)
 {
     throw FileRefusal(Reason::exists, path, "exists already. Choose another name, or say that it is to be replaced.");
 }
 
-/// Makes sure that nobody has the file open, and finishes what a crash has left beside it.
-void prepareReplacement(const std::filesystem::path& path)
-{
-    try {
-        ModelFile existing(path, ModelFile::Access::write);
-    } catch (const FileRefusal& refusal) {
-        if (refusal.reason() == Reason::locked || refusal.reason() == Reason::readOnly)
-            throw;
+/// A new model database with these contents, as bytes.
+class NewModel {
+public:
+    MemoryFiles files{MemoryFiles::Bytes{}};
+
+    void writeTo(const std::filesystem::path& path, os::FileWriter::Over over)
+    {
+        try {
+            os::FileWriter writer(path);
+            const std::string& bytes = files.database();
+            writer.stream().write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+            writer.finish(over);
+        } catch (const std::system_error& error) {
+            if (error.code() == std::errc::file_exists)
+                refuseExisting(path);
+            if (error.code() == std::errc::no_space_on_device)
+                throw FileRefusal(Reason::failed, path, "can't be written: the disk is full. Make room and try again.");
+            throw FileRefusal(Reason::failed, path, "can't be made (" + error.code().message() + "). Check the folder and its permissions.");
+        }
     }
-    std::error_code ignored;
-    for (const char* suffix : {"-wal", "-journal", "-shm"})
-        std::filesystem::remove(path.string() + suffix, ignored);
+};
+
+/// Whether a file that refuses so may be replaced by a new one under its name: nobody can have it open as a model.
+bool isReplaceable(Reason reason)
+{
+    return reason == Reason::damaged || reason == Reason::notAModel || reason == Reason::newer;
 }
 
 }  // namespace
 
-ModelFile::ModelFile(const std::filesystem::path& path, Unchecked /*tag*/) : m_path(path) {}
-
-ModelFile::ModelFile(const std::filesystem::path& path, Access access) : m_path(path)
+ModelFile::ModelFile(const std::filesystem::path& path, Access access) : m_path(path), m_access(access)
 {
+    if (access == Access::write && isOpenHere(path))
+        throw FileRefusal(Reason::locked, path, "is open already. Close it there and try again.");
     checkFileHeader(path);
     if (access == Access::write && !os::isWritable(path))
         throw FileRefusal(Reason::readOnly, path, "is read-only. Allow writing to it, or open a copy.");
-    try {
-        prepareConnection(access);
-        checkSchema();
-        readChecks();
-        readSettings();
-    } catch (const SqliteError& error) {
-        throw refusalFor(error);
-    }
-}
-
-ModelFile::~ModelFile() = default;
-
-void ModelFile::prepareConnection(Access access)
-{
-    if (access == Access::readOnly) {
-        const bool log = std::filesystem::exists(m_path.string() + "-wal");
-        const std::filesystem::path uri = "file:" + m_path.string() + (log ? "?mode=ro" : "?mode=ro&immutable=1");
-        m_database = std::make_unique<Database>(uri, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
-    } else {
-        m_database = std::make_unique<Database>(m_path, SQLITE_OPEN_READWRITE);
-        sqlite3_busy_timeout(m_database->handle(), lockWait);
-        m_database->run("PRAGMA locking_mode=EXCLUSIVE");
-    }
-    m_database->run("PRAGMA trusted_schema=OFF; PRAGMA cell_size_check=ON; PRAGMA foreign_keys=OFF; PRAGMA synchronous=FULL; "
-                    "PRAGMA temp_store=MEMORY; PRAGMA cache_size=-65536");
+    withRefusals(path, [&] {
+        if (access == Access::readOnly)
+            openToRead();
+        else
+            openToWrite();
+        readState();
+    });
     if (access == Access::write)
-        m_database->run("BEGIN IMMEDIATE; COMMIT");  // takes the lock now, and finishes what a crash has left
-    m_rows = std::make_unique<RowStore>(*m_database);
+        openFiles::enter(*m_database, path);
 }
 
-void ModelFile::checkSchema()
+ModelFile::ModelFile(const std::filesystem::path& path, const MemoryFiles& files, Building /*tag*/)
+    : m_path(path), m_access(Access::write), m_database(files.open()), m_rows(std::make_unique<RowStore>(*m_database)), m_hasSession(true)
 {
-    // Only what the program itself makes, by its exact text: a trigger or a view would run with it, whatever its name.
-    std::map<CString, CString> expected;
-    for (SchemaObject& object : schemaObjects())
-        expected.emplace(std::move(object.name), std::move(object.text));
-    Statement statement(*m_database, "select type, name, tbl_name, sql from sqlite_schema");
-    while (statement.step()) {
-        const CString name(statement.text(1));
-        const auto found = expected.find(name);
-        if (found == expected.end() || statement.text(0) != "table" || statement.text(2) != name || statement.text(3) != found->second)
-            throw damaged("it holds \"" + name + "\", which is not of a model");
-        expected.erase(found);
+}
+
+ModelFile::~ModelFile()
+{
+    try {
+        close();
+    } catch (const FileRefusal&) {  // who wants to know calls close
     }
-    if (!expected.empty())
-        throw damaged("tables are missing");
 }
 
-void ModelFile::readChecks()
+bool ModelFile::isOpenHere(const std::filesystem::path& path)
 {
-    Statement statement(*m_database, "select code, row_count, row_hash from " + CString(checkTable));
-    while (statement.step())
-        m_state.checks[CString(statement.text(0))] = {statement.integer(1), static_cast<std::uint64_t>(statement.integer(2))};
+    return openFiles::find(path) != nullptr;
+}
+
+void ModelFile::openToRead()
+{
+    if (Database* own = openFiles::find(m_path))
+        m_copy = std::make_unique<ModelCopy>(m_path, own->contents());
+    else
+        m_copy = std::make_unique<ModelCopy>(m_path);
+}
+
+void ModelFile::openToWrite()
+{
+    if (hasCompanions(m_path))
+        const ModelCopy checked(m_path);  // before SQLite takes them up
+    m_database = std::make_unique<Database>(m_path, SQLITE_OPEN_READWRITE);
+    sqlite3_busy_timeout(m_database->handle(), lockWait);
+    m_database->prepareForModel();
+    m_database->run("BEGIN IMMEDIATE; COMMIT");  // takes the lock now, and finishes what a crash has left
+    if (schemaVersionOf(*m_database) < schemaVersion)
+        m_copy = std::make_unique<ModelCopy>(m_path, m_database->contents());
+}
+
+void ModelFile::readState()
+{
+    checkSchema(database());
+    m_state = zel::readState(database());
     if (m_state.checks.size() != tableList().size() + 1)
-        throw damaged("its list of tables is not complete");
-}
-
-void ModelFile::readSettings()
-{
-    TableCheck found;
-    Statement statement(*m_database, "select name, value from " + CString(settingTable));
-    while (statement.step()) {
-        const CString name(statement.text(0));
-        m_state.settings[name] = CString(statement.text(1));
-        ++found.rows;
-        found.hash += settingHash(name, m_state.settings[name]);
-    }
-    m_state.units.length = lengthUnitIndex(m_state.settings["length"]);
-    m_state.units.force = forceUnitIndex(m_state.settings["force"]);
-    if (found != m_state.checks[CString(settingTable)] || m_state.units.length < 0 || m_state.units.force < 0)
-        throw damaged("its settings are not as they were stored");
+        throw DamagedRows("its list of tables is not complete");
+    m_rows = std::make_unique<RowStore>(database());
 }
 
 std::vector<StoredRow> ModelFile::read(const TableInfo& table)
 {
-    try {
-        std::vector<StoredRow> rows = m_rows->read(table);
-        TableCheck found{static_cast<std::int64_t>(rows.size()), 0};
-        for (const StoredRow& row : rows)
-            found.hash += rowHash(table, row.kind, row.key, row.record.get());
-        if (found != m_state.checks[CString(table.code)])
-            throw damaged("the records of table " + CString(table.code) + " are not as they were stored");
-        return rows;
-    } catch (const SqliteError& error) {
-        throw refusalFor(error);
-    } catch (const DamagedRows& error) {
-        throw damaged("in table " + CString(table.code) + " " + error.what());
-    } catch (const std::bad_alloc&) {
-        throw outOfMemory();
-    }
+    return withRefusals(m_path, [&] { return readChecked(*m_rows, table, m_state); });
 }
+
+void ModelFile::checkStructure()
+{
+    withRefusals(m_path, [&] { zel::checkStructure(database()); });
+}
+
+// ---- making -----------------------------------------------------------------------------------------------------------
 
 void ModelFile::create(const std::filesystem::path& path, const T_UNIT_INDEX& units, const std::vector<Batch>& batches, bool replace)
 {
@@ -163,50 +147,42 @@ void ModelFile::create(const std::filesystem::path& path, const T_UNIT_INDEX& un
     const std::filesystem::path folder = path.parent_path();
     if (!folder.empty() && !std::filesystem::is_directory(folder, error))
         throw FileRefusal(Reason::missing, path, "can't be made: the folder \"" + folder.string() + "\" does not exist. Make it first.");
-    if (std::filesystem::exists(path, error)) {
-        if (!replace)
-            refuseExisting(path);
-        if (!std::filesystem::is_regular_file(path, error))
-            throw FileRefusal(Reason::notAModel, path, "is not a file. Choose another name.");
-        prepareReplacement(path);
+    const bool exists = std::filesystem::exists(path, error);
+    if (exists && !replace)
+        refuseExisting(path);
+    if (exists && !std::filesystem::is_regular_file(path, error))
+        throw FileRefusal(Reason::notAModel, path, "is not a file. Choose another name.");
+    if (exists) {
+        try {
+            ModelFile(path, Access::write).replaceContents(units, batches);
+            return;
+        } catch (const FileRefusal& refusal) {
+            if (!isReplaceable(refusal.reason()))
+                throw;
+        }
+    } else {
+        refuseLeftCompanions(path);
     }
-    const Temporary temporary(path.string() + ".new-" + os::processNumber());
-    ModelFile file(path, Unchecked{});
-    try {
-        file.m_database = std::make_unique<Database>(temporary.path(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-        file.m_database->run("PRAGMA locking_mode=EXCLUSIVE; PRAGMA journal_mode=OFF; PRAGMA foreign_keys=OFF; PRAGMA synchronous=FULL; "
-                             "PRAGMA temp_store=MEMORY; PRAGMA cache_size=-65536; PRAGMA application_id=" +
-                             std::to_string(applicationId) + "; PRAGMA user_version=" + std::to_string(schemaVersion));
-        file.m_rows = std::make_unique<RowStore>(*file.m_database);
-        file.m_structureChecked = true;
-        file.begin();
+    NewModel made;
+    withRefusals(path, [&] {
+        ModelFile file(path, made.files, Building{});
         file.makeSchema(units);
+        file.begin();
         for (const Batch& batch : batches)
             file.write(batch);
         file.commit();
         file.m_checkStatement.reset();
         file.m_rows.reset();
-        file.m_database->run("PRAGMA journal_mode=WAL");  // stays as it is where the write-ahead log can't work
-        file.m_database.reset();
-    } catch (const SqliteError& failure) {
-        throw file.refusalFor(failure);
-    }
-    if (replace)
-        std::filesystem::rename(temporary.path(), path, error);
-    else {  // never over a file that appeared meanwhile
-        std::filesystem::create_hard_link(temporary.path(), path, error);
-        if (error && std::filesystem::exists(path))
-            refuseExisting(path);
-        if (error)  // a file system without hard links
-            std::filesystem::rename(temporary.path(), path, error);
-    }
-    if (error)
-        throw FileRefusal(Reason::failed, path, "can't be made (" + error.message() + "). Check the folder's permissions.");
-    os::syncFolder(folder);
+        file.m_database->run("PRAGMA journal_mode=WAL");
+    });
+    if (exists)
+        setCompanionsAside(path);
+    made.writeTo(path, exists ? os::FileWriter::Over::existing : os::FileWriter::Over::nothing);
 }
 
 void ModelFile::makeSchema(const T_UNIT_INDEX& units)
 {
+    m_database->run("PRAGMA application_id=" + std::to_string(applicationId) + "; PRAGMA user_version=" + std::to_string(schemaVersion) + "; BEGIN");
     for (const SchemaObject& object : schemaObjects())
         m_database->run(object.text);
     for (const TableInfo& table : tableList())
@@ -217,40 +193,71 @@ void ModelFile::makeSchema(const T_UNIT_INDEX& units)
         insert.bind(1, std::string_view(code));
         insert.run();
     }
+    m_database->run("insert into " + CString(saveTable) + " values(" + std::to_string(newSession()) + ", 0)");
     storeSetting("created_by", CString("zel ") + versionText);
     writeUnits(units);
+    m_database->run("COMMIT");
 }
+
+void ModelFile::replaceContents(const T_UNIT_INDEX& units, const std::vector<Batch>& batches)
+{
+    begin();
+    inTransaction([&] {
+        for (const TableInfo& table : tableList()) {
+            m_rows->removeAll(table);
+            m_state.checks[CString(table.code)] = {};
+            storeCheck(CString(table.code));
+        }
+        storeSetting("created_by", CString("zel ") + versionText);
+    });
+    writeUnits(units);
+    for (const Batch& batch : batches)
+        write(batch);
+    commit();
+}
+
+// ---- transactions -----------------------------------------------------------------------------------------------------
 
 void ModelFile::begin()
 {
-    try {
-        if (!m_structureChecked) {  // a damaged index page would lead a write astray
-            if (m_database->text("PRAGMA quick_check(1)") != "ok")
-                throw damaged("its structure is broken");
-            m_structureChecked = true;
-        }
-        m_before = m_state;
+    if (isReadOnly())
+        throw FileRefusal(Reason::readOnly, m_path, "is open for reading only. Open it for changing, or save a copy and change that.");
+    refuseIfMoved();
+    if (!m_hasSession)
+        startSession();
+    m_before = m_state;
+    inTransaction([&] {
         m_database->run("BEGIN IMMEDIATE");
-    } catch (const SqliteError& error) {
-        throw refusalFor(error);
+        m_database->run("update " + CString(saveTable) + " set changes=changes+1");  // first, so that every journal names the session too
+    });
+}
+
+/// Before anything else is written: brings the schema up, and puts the name of this session into the file itself, so that it can be told from any
+/// other state of the file whether the log that now begins belongs to it.
+void ModelFile::startSession()
+{
+    m_before = m_state;
+    inTransaction([&] {
+        zel::checkStructure(*m_database);
+        m_database->run("BEGIN IMMEDIATE");
+        bringUp(*m_database, schemaSteps());
+        checkSchema(*m_database);
+        m_database->run("update " + CString(saveTable) + " set session=" + std::to_string(newSession()) + ", changes=0");
+        m_database->run("COMMIT");
+        m_database->moveLogIntoFile();
+    });
+    if (m_copy) {
+        m_rows = std::make_unique<RowStore>(*m_database);
+        m_copy.reset();
     }
+    m_before.reset();
+    m_hasSession = true;
 }
 
 void ModelFile::inTransaction(const std::function<void()>& work)
 {
     try {
-        work();
-    } catch (const SqliteError& error) {
-        const FileRefusal refusal = refusalFor(error);
-        rollback();
-        throw refusal;
-    } catch (const DamagedRows& error) {
-        const FileRefusal refusal = damaged(error.what());
-        rollback();
-        throw refusal;
-    } catch (const std::bad_alloc&) {
-        rollback();
-        throw outOfMemory();
+        withRefusals(m_path, work);
     } catch (...) {
         rollback();
         throw;
@@ -319,7 +326,17 @@ void ModelFile::storeCheck(const CString& code)
 
 void ModelFile::commit()
 {
-    inTransaction([&] { m_database->run("COMMIT"); });
+    inTransaction([&] {
+        try {
+            m_database->run("COMMIT");
+        } catch (const SqliteError& error) {
+            if (!error.isSync())
+                throw;
+            throw FileRefusal(Reason::unsafe, m_path,
+                              CString("could not be made safe on the disk (") + error.what() +
+                                  "). The change is taken back here, but it may be in the file when it is opened again. Check the disk.");
+        }
+    });
     m_before.reset();
 }
 
@@ -332,49 +349,59 @@ void ModelFile::rollback() noexcept
     m_before.reset();
 }
 
+// ---- leaving ----------------------------------------------------------------------------------------------------------
+
+bool ModelFile::hasMoved() const
+{
+    int moved = 0;
+    return m_database && sqlite3_file_control(m_database->handle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0;
+}
+
+void ModelFile::refuseIfMoved()
+{
+    if (!hasMoved())
+        return;
+    // The log would stay behind under the old name: what is in it goes into the file, wherever that is now.
+    withRefusals(m_path, [&] { m_database->moveLogIntoFile(); });
+    throw FileRefusal(Reason::moved, m_path,
+                      "is no longer the file that was opened: that was moved, renamed, replaced or deleted. All changes before this are in it, wherever "
+                      "it is now. Move it back, or save a copy under another name.");
+}
+
+void ModelFile::close()
+{
+    if (!m_database)
+        return;
+    openFiles::leave(*m_database);
+    const auto end = [&] {
+        const std::filesystem::path log = m_path.string() + "-wal";
+        const bool moved = hasMoved();
+        m_checkStatement.reset();
+        m_rows.reset();
+        m_copy.reset();
+        m_database.reset();
+        std::error_code error;
+        if (moved && std::filesystem::file_size(log, error) == 0 && !error)
+            std::filesystem::remove(log, error);
+    };
+    try {
+        refuseIfMoved();
+    } catch (...) {
+        end();
+        throw;
+    }
+    end();
+}
+
 FileFacts ModelFile::facts()
 {
     FileFacts facts;
     std::error_code ignored;
     facts.size = std::filesystem::file_size(m_path, ignored);
-    facts.schema = static_cast<int>(m_database->number("PRAGMA user_version"));
-    facts.journalMode = m_database->text("PRAGMA journal_mode");
+    facts.schema = m_copy ? m_copy->storedVersion() : schemaVersion;
+    facts.journalMode = database().text("PRAGMA journal_mode");
     facts.createdBy = m_state.settings["created_by"];
     return facts;
-}
-
-FileRefusal ModelFile::damaged(const CString& detail) const
-{
-    return {Reason::damaged, m_path, "is damaged: " + detail + ". Restore it from a copy."};
-}
-
-FileRefusal ModelFile::outOfMemory() const
-{
-    return {Reason::failed, m_path, "needs more memory than there is. Close other programs and try again; nothing was changed."};
-}
-
-FileRefusal ModelFile::refusalFor(const SqliteError& error) const
-{
-    switch (error.code()) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return {Reason::locked, m_path, "is open in another program. Close it there and try again."};
-    case SQLITE_NOTADB:
-    case SQLITE_CORRUPT:
-    case SQLITE_SCHEMA:
-    case SQLITE_ERROR:
-        return damaged(CString("the database says: ") + error.what());
-    case SQLITE_CANTOPEN:
-    case SQLITE_READONLY:
-    case SQLITE_PERM:
-        return {Reason::readOnly, m_path, CString("can't be written (") + error.what() + "). Allow writing to the file and its folder."};
-    case SQLITE_NOMEM:
-        return outOfMemory();
-    case SQLITE_FULL:
-        return {Reason::failed, m_path, "can't be written: the disk is full. Make room and try again."};
-    default:
-        return {Reason::failed, m_path, CString("can't be read or written (") + error.what() + "). Check the disk."};
-    }
 }
 
 }  // namespace zel

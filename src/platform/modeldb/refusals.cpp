@@ -30,6 +30,8 @@ const char* keyOf(Refusal reason)
         return "IDS_DB_REFUSE_BAD_KIND";
     case Refusal::fileWrite:
         return "IDS_DB_REFUSE_FILE_WRITE";
+    case Refusal::fileUnsafe:
+        return "IDS_DB_REFUSE_FILE_UNSAFE";
     case Refusal::fileRead:
         return "IDS_DB_REFUSE_FILE_READ";
     }
@@ -49,7 +51,7 @@ CString filled(CString text, const char* placeholder, const CString& value)
 
 int refuse(Refusal reason, const CString& detail, int number)
 {
-    if (reason == Refusal::fileWrite)
+    if (reason == Refusal::fileWrite || reason == Refusal::fileUnsafe)
         ++fileWrites;
     const CString text = CMsgDll::pfuncLoadStr(keyOf(reason), 0);
     AfxMessageBox(filled(filled(text, "%d", std::to_string(number)), "%s", detail), 0, 0);

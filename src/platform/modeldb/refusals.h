@@ -7,7 +7,7 @@
 namespace zel {
 
 /// Why the model refuses a change, told to the user in a message box.
-enum class Refusal { duplicateName, emptyName, nameTooLong, keyExists, noRecord, inUse, notFinite, badKind, fileWrite, fileRead };
+enum class Refusal { duplicateName, emptyName, nameTooLong, keyExists, noRecord, inUse, notFinite, badKind, fileWrite, fileUnsafe, fileRead };
 
 /// Tells the user. `detail` fills the placeholder of a text; `number` that of a numeric one.
 /// @return 0, the result of a refused operation

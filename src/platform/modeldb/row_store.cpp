@@ -261,6 +261,23 @@ void RowStore::write(const Batch& batch, std::size_t stored)
     }
 }
 
+namespace {
+
+/// Lists first: a table that owns no rows any more is emptied without a look at each row's lists.
+void empty(Database& database, const SqlTable& table)
+{
+    for (const SqlTable& list : table.lists)
+        empty(database, list);
+    database.run("delete from \"" + table.name + "\"");
+}
+
+}  // namespace
+
+void RowStore::removeAll(const TableInfo& table)
+{
+    empty(m_database, sqlTable(table));
+}
+
 std::vector<StoredRow> RowStore::read(const TableInfo& table)
 {
     const SqlTable& sql = sqlTable(table);

@@ -51,6 +51,10 @@ public:
     /// @throws SqliteError, DamagedRows
     void write(const Batch& batch, std::size_t stored);
 
+    /// Deletes all records of a table.
+    /// @throws SqliteError
+    void removeAll(const TableInfo& table);
+
     /// Reads all records of a table, in the order of their addresses.
     /// @throws SqliteError, DamagedRows
     std::vector<StoredRow> read(const TableInfo& table);

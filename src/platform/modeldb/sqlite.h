@@ -11,11 +11,16 @@
 
 namespace zel {
 
+/// A text for a message: control characters and bytes that are no UTF-8 stand as "\x1B".
+CString printable(std::string_view text);
+
 /// A failure that SQLite reports, with its result code.
 class SqliteError : public std::runtime_error {
 public:
-    SqliteError(int code, const CString& what) : std::runtime_error(what), m_code(code) {}
+    SqliteError(int code, const CString& what) : std::runtime_error(printable(what)), m_code(code) {}
     [[nodiscard]] int code() const { return m_code & 0xFF; }
+    /// Whether what was written could not be made safe, so that nobody knows whether it is on the disk.
+    [[nodiscard]] bool isSync() const;
 
 private:
     int m_code;
@@ -26,8 +31,21 @@ class Statement;
 /// One connection to a database file.
 class Database {
 public:
+    /// Any name is the name of a file: ":memory:" and "file:x" too.
     /// @throws SqliteError
     Database(const std::filesystem::path& path, int flags);
+
+    /// @param vfs  a registered place for files, in which `name` means something
+    Database(const CString& name, int flags, const char* vfs);
+
+    /// The settings of a connection to a model. Nobody else can use the file from its next use on.
+    void prepareForModel();
+
+    /// Puts all that is in the write-ahead log into the database file, and empties the log.
+    void moveLogIntoFile();
+
+    /// The bytes of a database file that holds what is committed now.
+    [[nodiscard]] std::string contents();
 
     void run(const CString& sql);
     [[nodiscard]] std::int64_t number(const CString& sql);  ///< first column of the first row; 0 if there is no row
@@ -36,6 +54,8 @@ public:
     [[nodiscard]] sqlite3* handle() const { return m_handle.get(); }
 
 private:
+    void open(const CString& name, int flags, const char* vfs);
+
     struct Close {
         void operator()(sqlite3* handle) const { sqlite3_close(handle); }
     };

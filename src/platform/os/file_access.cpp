@@ -4,8 +4,8 @@
 #include <process.h>
 #else
 #include <cerrno>
+#include <charconv>
 #include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 #endif
@@ -48,8 +48,9 @@ bool isRunning(const CString& process)
     (void)process;
     return true;
 #else
-    const long number = std::strtol(process.c_str(), nullptr, 10);
-    return number > 0 && (::kill(static_cast<pid_t>(number), 0) == 0 || errno != ESRCH);
+    pid_t number = 0;
+    const auto read = std::from_chars(process.data(), process.data() + process.size(), number);
+    return read.ec == std::errc() && number > 0 && (::kill(number, 0) == 0 || errno != ESRCH);
 #endif
 }
 
