@@ -182,6 +182,7 @@ constexpr Filled filled[] = {
     {"IDS_DB_REFUSE_NAME_TOO_LONG", "%d"},
     {"IDS_DB_REFUSE_KEY_EXISTS", "%d"},
     {"IDS_DB_REFUSE_IN_USE", "%s"},
+    {"IDS_DB_REFUSE_FILE_UNSAFE", "%s"},
     {"IDS_DB_REFUSE_FILE_WRITE", "%s"},
     {"IDS_FORM_TOO_MANY_MODAL_DIALOGS", "%d"},
     {"IDS_DB_REFUSE_NO_RECORD", ""},
