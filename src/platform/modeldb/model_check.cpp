@@ -123,8 +123,13 @@ void Examination::checkSchema()
         else if (found->second != text)
             tell("\"" + name + "\" is not as the program makes it", table);
     };
-    for (const SchemaObject& object : schemaObjects())
-        expect(object.name, object.text, object.table);
+    const bool isBeforeSessions = m_database.number("PRAGMA user_version") < 2;
+    for (const SchemaObject& object : schemaObjects()) {
+        if (object.name == saveTable && isBeforeSessions)
+            own.insert(object.name);
+        else
+            expect(object.name, object.text, object.table);
+    }
     for (const auto& [name, text] : m_schema) {
         if (!own.contains(name))
             tell("holds \"" + name + "\", which is not of a model", {}, true);
