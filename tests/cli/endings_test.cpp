@@ -1,11 +1,9 @@
-#include "cli/failing_memory.h"
 #include "cli/inside.h"
 
 #include "contract/long_run.h"
 
 #include <algorithm>
 #include <csignal>
-#include <sstream>
 
 #include <nlohmann/json.hpp>
 
@@ -55,13 +53,6 @@ protected:
     std::string before;
     std::vector<std::string> files{"first.txt", "many.qvx"};
 };
-
-/// How often the command asks for memory.
-std::size_t allocationsOf(const std::vector<std::string>& arguments, const std::string& input)
-{
-    EXPECT_EQ(inside(arguments, input, [] { failing_memory::arm(~std::size_t{0}); }).code, 0);
-    return failing_memory::disarm();
-}
 
 /// Presses Ctrl-C at a record of a phase.
 class Impatient final : private zel::RunWatcher {
@@ -125,64 +116,6 @@ TEST_F(Endings, CtrlCInAnImportOrALoadLeavesModelAndFilesAsBefore)
         EXPECT_TRUE(person.hasPressed());
     }
     expectAsBefore("combinations");
-}
-
-TEST_F(Endings, WithoutMemoryAJobFailsWithAReasonAndChangesNothing)
-{
-    std::string lines;
-    for (int i = 1; i <= 20; ++i)
-        lines += std::to_string(i) + ",x,1,1.2\n";
-    const std::vector<std::pair<std::vector<std::string>, std::string>> jobs{
-        {{"generate", model, "--code", "AIK-USD94", "--replace"}, ""},
-        {{"load", "-", model, "--replace"}, modelJson()},
-        {{"import-lcb", model, "-"}, lines},
-    };
-    constexpr std::size_t rounds = 40;
-    for (const auto& [arguments, input] : jobs) {
-        const std::size_t all = allocationsOf(arguments, input);
-        cli_test::write(model, before);
-        int told = 0;
-        for (std::size_t round = 0; round < rounds; ++round) {
-            const std::size_t n = 1 + all * round / rounds;
-            for (const auto& [count, least] : {std::pair<std::size_t, std::size_t>{1, 0}, {~std::size_t{0}, 2048}}) {
-                const Outcome run = inside(arguments, input, [&] { failing_memory::arm(n, count, least); });
-                if (run.code == 0) {  // what failed was not needed
-                    cli_test::write(model, before);
-                    continue;
-                }
-                EXPECT_EQ(run.code, 1) << arguments[0] << " allocation " << n;
-                EXPECT_TRUE(run.error.starts_with("zel: ")) << arguments[0] << " allocation " << n << ": " << run.error;
-                told += run.error.find("memory") != std::string::npos ? 1 : 0;
-                expectAsBefore(arguments[0] + " allocation " + std::to_string(n));
-            }
-        }
-        EXPECT_GT(told, 0) << arguments[0];
-    }
-}
-
-TEST_F(Endings, AJobOfABatchWithoutMemoryIsToldAndTheNextOneRuns)
-{
-    const std::string job = "{\"id\": 1, \"model\": " + modelJson() + R"(, "options": {"code": "AIK-USD94"}})";
-    const Outcome whole = inside({"batch"}, job + "\n" + job + "\n");
-    ASSERT_EQ(whole.code, 0) << whole.error;
-    const std::size_t all = allocationsOf({"batch"}, job + "\n" + job + "\n");
-    const std::string good = whole.out.substr(whole.out.find('\n') + 1);
-    int told = 0;
-    constexpr std::size_t rounds = 60;
-    for (std::size_t round = 4; round < rounds / 2; ++round) {  // within the first of the two
-        const Outcome run = inside({"batch"}, job + "\n" + job + "\n", [&] { failing_memory::arm(1 + all * round / rounds); });
-        std::istringstream results(run.out);
-        std::string first;
-        std::string second;
-        std::getline(results, first);
-        std::getline(results, second);
-        EXPECT_EQ(second + "\n", good) << "round " << round;
-        const json result = json::parse(first);
-        EXPECT_TRUE(result.contains("error") || result.at("ok") == 1) << first.substr(0, 300);
-        EXPECT_EQ(result.at("line"), 1);
-        told += result.contains("error") && first.find("memory") != std::string::npos ? 1 : 0;
-    }
-    EXPECT_GT(told, 0);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "cli/inside.h"
 
-#include "cli/failing_memory.h"
 #include "cli/run_program.h"
 
 #include <filesystem>
@@ -37,7 +36,7 @@ private:
 
 }  // namespace
 
-Outcome inside(const std::vector<std::string>& arguments, const std::string& input, const std::function<void()>& justBefore)
+Outcome inside(const std::vector<std::string>& arguments, const std::string& input)
 {
     std::vector<const char*> words{"zel"};
     for (const std::string& argument : arguments)
@@ -51,10 +50,7 @@ Outcome inside(const std::vector<std::string>& arguments, const std::string& inp
     std::streambuf* const formerError = std::cerr.rdbuf(error.buffer());
     const std::ios::iostate formerExceptions = std::cin.exceptions();
     Outcome run;
-    if (justBefore)
-        justBefore();
     run.code = zel::cli::runProgram(static_cast<int>(arguments.size()) + 1, words.data());
-    (void)failing_memory::disarm();
     std::cin.exceptions(std::ios::goodbit);
     std::cin.clear();
     std::cout.clear();
