@@ -1,12 +1,12 @@
 #include "cli/commands.h"
 
-#include "platform/modeldb/model_document.h"
+#include "platform/modeldb/model_file.h"
 
 namespace zel::cli {
 
 int newModel(const NewModel& job)
 {
-    ModelDocument::create(job.model, job.units);
+    ModelFile::create(job.model, job.units, {}, false);
     return succeeded;
 }
 

@@ -125,6 +125,9 @@ void CommandAttack::judgeKilled() const
     if (state == m_command.before) {
         EXPECT_EQ(again.code, 0) << again.error;
         EXPECT_EQ(stateOf(model()), m_command.after);
+        for (const auto& file : modelFolder()) {
+            EXPECT_TRUE(m_command.left.contains(file.first)) << file.first << " was left over by the run that was killed";
+        }
     }
 }
 

@@ -143,6 +143,7 @@ constexpr Edit edits[] = {
     {"create index names on STLD(name)", false},
     {"create view names as select name from STLD", false},
     {"create trigger t after insert on STLD begin delete from LCOM; end", false},
+    {"create trigger sqlite_stat9 after insert on STLD begin delete from LCOM; end", false},
     {"alter table STLD add column remark text", false},
     {"alter table STLD rename column description to remark", false},
     {"update zel_setting set value = 'FT' where name = 'length'", false},

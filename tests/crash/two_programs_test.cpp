@@ -4,6 +4,10 @@
 #include <chrono>
 #include <thread>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace crash_test {
 
 namespace {
@@ -12,6 +16,36 @@ void waitUpTo(std::size_t microseconds)
 {
     std::this_thread::sleep_for(std::chrono::microseconds(microseconds));
 }
+
+/// A player whose commands come one after the other from the test.
+class SlowPlayer {
+public:
+    SlowPlayer(const std::string& model, const std::string& folder) : m_pipe(folder + "/commands"), m_replies(folder + "/slow-replies")
+    {
+        (void)unlink(m_pipe.c_str());
+        EXPECT_EQ(mkfifo(m_pipe.c_str(), 0600), 0);
+        m_commands = open(m_pipe.c_str(), O_RDWR | O_CLOEXEC);
+        m_process = cli_test::start({"play", model}, {m_pipe, m_replies, folder + "/slow-error"});
+    }
+    SlowPlayer(const SlowPlayer&) = delete;
+    SlowPlayer& operator=(const SlowPlayer&) = delete;
+    ~SlowPlayer() { close(m_commands); }
+
+    void say(const std::string& lines) const { EXPECT_EQ(write(m_commands, lines.data(), lines.size()), static_cast<ssize_t>(lines.size())); }
+    Outcome finish()
+    {
+        close(m_commands);
+        m_commands = -1;
+        return cli_test::await(m_process);
+    }
+    [[nodiscard]] std::string replies() const { return contents(m_replies); }
+
+private:
+    std::string m_pipe;
+    std::string m_replies;
+    int m_commands = -1;
+    int m_process = 0;
+};
 
 Facts factsOfFile(const std::string& model)
 {
@@ -32,6 +66,32 @@ protected:
 
     Folder m_before;
 };
+
+/// The reply to a write and a replaced model: either the player has the file and the replacement is refused, or it plays on the new one.
+TEST_F(TwoPrograms, AReplacementBesideAPlayerLosesNoAcknowledgedWrite)
+{
+    const WritingJournal journal(20);
+    Facts replaced = factsOfTwoCases();
+    replaced["case XX"] = "is there: ";
+    for (int round = 0; round < rounds(10) && !HasFailure(); ++round) {
+        restore(m_before);
+        const int load = cli_test::start({"load", path("two.json"), model(), "--replace"}, {"/dev/null", "/dev/null", path("load-error")});
+        waitUpTo(pick(30'000));
+        SlowPlayer player(model(), path(""));
+        player.say(journal.text());
+        const Outcome loaded = cli_test::await(load);
+        const Outcome played = player.finish();
+        EXPECT_TRUE(orderly(loaded));
+        EXPECT_TRUE(orderly(played));
+        count("rounds");
+        count("replaced", loaded.code == 0 ? 1 : 0);
+        count("player refused", played.code == 1 ? 1 : 0);
+        EXPECT_TRUE(loaded.code == 0 || played.code != 1) << "both were refused: " << contents(path("load-error")) << contents(path("slow-error"));
+        EXPECT_EQ(journal.faultOf(factsOfFile(model()), player.replies(), loaded.code == 0 ? replaced : factsOfTwoCases()), "")
+            << "replacement: " << loaded.code << ", player: " << played.code;
+        EXPECT_EQ(modelFolder().size(), 1U);
+    }
+}
 
 TEST_F(TwoPrograms, OfTwoPlayersNoneLosesAnAcknowledgedWrite)
 {
@@ -67,6 +127,36 @@ TEST_F(TwoPrograms, OfTwoPlayersNoneLosesAnAcknowledgedWrite)
         };
         EXPECT_EQ(fault(left, "left"), "");
         EXPECT_EQ(fault(right, "right"), "");
+    }
+}
+
+TEST_F(TwoPrograms, AReaderBesideAPlayerSeesEveryAcknowledgedWriteAndNoHalfAction)
+{
+    const WritingJournal journal(400);
+    cli_test::write(path("journal.jsonl"), journal.text());
+    for (int round = 0; round < rounds(3) && !HasFailure(); ++round) {
+        restore(m_before);
+        SlowPlayer player(model(), path(""));
+        const std::string text = journal.text();
+        const std::size_t half = text.find('\n', pick(text.size() / 4)) + 1;
+        player.say(text.substr(0, half));
+        waitUpTo(pick(200'000));
+        const std::string before = player.replies();
+        const Outcome dump = zel({"dump", model()});
+        count("readings");
+        EXPECT_EQ(dump.code, 0) << dump.error;
+        const std::string after = player.replies();
+        // The reading shows a state between those of the two moments: the later replies are taken one by one.
+        std::string replies = before.substr(0, before.rfind('\n') + 1);
+        std::string fault = journal.faultOf(factsOf(dump.out), replies, factsOfTwoCases());
+        while (!fault.empty() && replies.size() < after.size()) {
+            replies = after.substr(0, after.find('\n', replies.size()) + 1);
+            fault = journal.faultOf(factsOf(dump.out), replies, factsOfTwoCases());
+        }
+        EXPECT_EQ(fault, "");
+        EXPECT_EQ(player.finish().code, 0);
+        EXPECT_EQ(journal.faultOf(factsOfFile(model()), player.replies(), factsOfTwoCases()), "");
+        EXPECT_EQ(modelFolder().size(), 1U);
     }
 }
 

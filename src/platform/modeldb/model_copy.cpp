@@ -2,6 +2,7 @@
 
 #include "platform/modeldb/file_faults.h"
 #include "platform/modeldb/file_format.h"
+#include "platform/modeldb/log_check.h"
 #include "platform/modeldb/schema_steps.h"
 #include "platform/modeldb/stored_state.h"
 #include "platform/os/file_contents.h"
@@ -166,6 +167,8 @@ ModelCopy::ModelCopy(const std::filesystem::path& path, MemoryFiles::Bytes bytes
     const std::optional<Mark> alone = hasCompanion ? markOfFileAlone(bytes.database) : std::nullopt;
     const bool isLog = !bytes.log.empty();
     const std::filesystem::path companion = isLog ? logOf(path) : journalOf(path);
+    if (isDamagedLog(bytes.log))
+        throw foreignCompanion(path, companion, "is damaged, so that not all of the changes in it can be read");
     m_files = std::make_unique<MemoryFiles>(std::move(bytes));
     withRefusals(path, [&] {
         try {
