@@ -148,7 +148,10 @@ TEST_F(HostileInput, AsJobsOfABatchGetsAResultEach)
     std::string model = contents(firstJson);
     std::replace(model.begin(), model.end(), '\n', ' ');
     const std::string job = R"({"model": )" + model + R"(, "options": {"kind": 1, "code": "AIK-USD94", "mode": 0, "combType": 0, "alphaH": 0.5}})";
-    const std::string sound = zel({"batch"}, job).out;
+    std::string sound = zel({"batch"}, job).out;
+    const std::size_t line = sound.rfind("\"line\": 1");
+    ASSERT_NE(line, std::string::npos);
+    sound.replace(line, 9, "\"line\": 2");  // there it stands behind a spoiled one
     ASSERT_NE(sound.find("gLCB1"), std::string::npos);
     for (int round = 0; round < rounds(15) && !HasFailure(); ++round) {
         std::string text = spoiled(job);

@@ -75,6 +75,7 @@ TEST(KilledWindow, LosesNoAcknowledgedEditAndLeavesAWholeFile)
     int midway = 0;
     for (int round = 0; round < rounds; ++round) {
         QFile::remove(model);
+        QFile::remove(model + "-wal");  // what the killed one left would keep a new model from being made
         QFile::remove(replies);
         zelPrints({"new", model});
         QProcess window;

@@ -163,12 +163,17 @@ TEST_F(LongStep, ARunThatCanBeStoppedShowsHowFarItIsBesideAButtonThatStopsIt)
 TEST_F(LongStep, AStoppedGenerationLeavesTheModelAsItWas)
 {
     CDataStld cases;
+    std::vector<T_STLD_D> records(2);
+    records[0].name = "DL";
+    records[1].name = "LL";
+    records[1].type = "L";
     for (int i = 0; i < 1500; ++i) {
         T_STLD_D wind;
         wind.name = "W" + std::to_string(i);
         wind.type = "W";
-        ASSERT_NE(cases.Add(wind), 0);
+        records.push_back(wind);
     }
+    ASSERT_NE(cases.Add(records), 0);
     CLoadCombCtrl control;
     const int before = CDataLcom().GetCount(1);
     const Finger finger;

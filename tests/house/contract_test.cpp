@@ -179,7 +179,7 @@ TEST(HouseRules, AnInterfaceOfTheContractHoldsNoData)
             bool isAbstract = false;
             std::vector<std::size_t> members;
             for (std::size_t i = statement.line; i < file.lines.size() && file.lines[i] != "};"; ++i) {
-                isAbstract = isAbstract || file.lines[i].find(" = 0;") != std::string::npos;
+                isAbstract = isAbstract || (file.lines[i].find(')') != std::string::npos && file.lines[i].ends_with(" = 0;"));
                 if (std::regex_search(file.lines[i], data))
                     members.push_back(i);
             }

@@ -42,6 +42,7 @@ LongStep::~LongStep()
 {
     setRunWatcher(m_formerWatcher);
     setCursor(false);
+    delete m_progress;
 }
 
 void LongStep::busy(const QString& text)
@@ -84,9 +85,11 @@ void LongStep::showProgress(RunPhase phase, std::size_t done, std::size_t total)
 {
     if (m_painting)
         return;
+    // The panel may let events through while it is filled, and a look for input there is no end of the step.
+    m_painting = true;
+    qApp->installEventFilter(this);
     if (m_progress == nullptr) {
-        m_progress =
-            std::make_unique<QProgressDialog>(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : QApplication::activeWindow());
+        m_progress = new QProgressDialog(QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : QApplication::activeWindow());
         m_progress->setObjectName(QStringLiteral("longRun"));
         m_progress->setCancelButtonText(QStringLiteral("Stop"));
         m_progress->setMinimumDuration(0);
@@ -97,6 +100,8 @@ void LongStep::showProgress(RunPhase phase, std::size_t done, std::size_t total)
     m_progress->setLabelText(QString::fromStdString(runText(phase, done, total)));
     m_progress->setMaximum(static_cast<int>(total));
     m_progress->setValue(static_cast<int>(total != 0 ? done : 0));
+    qApp->removeEventFilter(this);
+    m_painting = false;
     paint();
 }
 
@@ -149,7 +154,7 @@ void LongStep::setCursor(bool busy)
 void LongStep::end()
 {
     m_began.reset();
-    m_progress.reset();
+    delete m_progress;
     setCursor(false);
     if (std::exchange(m_hasText, false))
         m_show({});

@@ -3,13 +3,13 @@
 #include "contract/long_run.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QString>
 
 #include <chrono>
 #include <cstddef>
 #include <functional>
-#include <memory>
 #include <optional>
 
 namespace zel::desktop {
@@ -48,7 +48,7 @@ private:
     bool m_hasText = false;
     bool m_hasCursor = false;
     bool m_painting = false;
-    std::unique_ptr<QProgressDialog> m_progress;  ///< while a run goes on that can be stopped
+    QPointer<QProgressDialog> m_progress;  ///< while a run shows one; its window may take it along when it goes
     RunWatcher* m_formerWatcher;
     unsigned m_calls = 0;
 };
