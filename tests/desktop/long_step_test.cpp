@@ -2,10 +2,7 @@
 
 #include "command/command.h"
 #include "contract/long_run.h"
-#include "contract/tables/load_combination_table.h"
-#include "contract/tables/static_load_case_table.h"
 #include "contract/user_interface.h"
-#include "loadcomb/generation/load_comb_ctrl.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -158,28 +155,6 @@ TEST_F(LongStep, ARunThatCanBeStoppedShowsHowFarItIsBesideAButtonThatStopsIt)
     idle.exec();
     for (QWidget* each : QApplication::topLevelWidgets())
         EXPECT_NE(each->objectName(), "longRun") << "the panel goes with its run";
-}
-
-TEST_F(LongStep, AStoppedGenerationLeavesTheModelAsItWas)
-{
-    CDataStld cases;
-    std::vector<T_STLD_D> records(2);
-    records[0].name = "DL";
-    records[1].name = "LL";
-    records[1].type = "L";
-    for (int i = 0; i < 1500; ++i) {
-        T_STLD_D wind;
-        wind.name = "W" + std::to_string(i);
-        wind.type = "W";
-        records.push_back(wind);
-    }
-    ASSERT_NE(cases.Add(records), 0);
-    CLoadCombCtrl control;
-    const int before = CDataLcom().GetCount(1);
-    const Finger finger;
-    EXPECT_EQ(control.Generate(1, "KDS 41 20 : 2022"), 0);
-    EXPECT_EQ(finger.text, "Stop");
-    EXPECT_EQ(CDataLcom().GetCount(1), before);
 }
 
 }  // namespace desktop_test

@@ -78,7 +78,10 @@ bool LongStep::goOn(RunPhase phase, std::size_t done, std::size_t total)
         m_began = now;
     if (now - *m_began > patience && now - m_painted >= paintInterval)
         showProgress(phase, done, total);
-    return m_progress == nullptr || !m_progress->wasCanceled();
+    if (m_progress == nullptr || !m_progress->wasCanceled())
+        return true;
+    end();  // the next run begins with a panel of its own
+    return false;
 }
 
 void LongStep::showProgress(RunPhase phase, std::size_t done, std::size_t total)
