@@ -5,9 +5,11 @@
 #include "sqlite_of_model.h"
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <functional>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace zel::test {
@@ -114,10 +116,11 @@ TEST_F(Readers, GetOneMomentOfAFileThatIsBeingWrittenAllTheTime)
             CDataStld().Add({big, loadCase(("B" + std::to_string(i)).c_str())});
             if (i >= kept)
                 CDataStld().Del(std::vector<CString>{"A" + std::to_string(i - kept), "B" + std::to_string(i - kept)});
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
         }
     }
     int newest = -1;
-    for (int i = 0; i < 40; ++i) {
+    for (int i = 0; i < 15; ++i) {
         const std::unique_ptr<ModelDocument> moment = read();
         EXPECT_EQ(casesIn(moment) % 2, 0) << "half a change";
         std::vector<CString> names;
