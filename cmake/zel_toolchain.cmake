@@ -31,9 +31,6 @@ if(ZEL_WERROR)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     add_compile_options(-Wno-restrict)    # false alarms on "text" + string: https://gcc.gnu.org/bugzilla/show_bug.cgi?id=105651
-    if(CMAKE_BUILD_TYPE STREQUAL "Release")
-        add_compile_options(-Wno-stringop-overflow)    # the same, of the checked copies of a hardened build
-    endif()
 endif()
 add_compile_definitions($<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 

@@ -72,8 +72,11 @@ QString PlanPicking::show(const std::vector<Key>& keys)
     if (field == nullptr)
         return {};
     CString text;
-    for (const Key key : keys)
-        text += (text.empty() ? "" : ",") + std::to_string(key);
+    for (const Key key : keys) {
+        if (!text.empty())
+            text += ',';
+        text += std::to_string(key);
+    }
     return toQt(m_hand.type(*field, text).refusal);
 }
 
